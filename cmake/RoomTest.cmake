@@ -1,0 +1,13 @@
+# velk_test(<name> LABELS <room...> SOURCES <file...> LINK <target...> [PROPERTIES <ctest properties...>])
+# One small GoogleTest program; every test of it carries the rooms' labels.
+function(velk_test name)
+  cmake_parse_arguments(TEST "" "" "LABELS;SOURCES;LINK;PROPERTIES" ${ARGN})
+  add_executable(${name} ${TEST_SOURCES})
+  target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gmock GTest::gtest_main velk_warnings)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  gtest_discover_tests(${name}
+    TEST_PREFIX "${name}: "
+    DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT 120 ${TEST_PROPERTIES})
+endfunction()

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+#include "audio_unit/Framework.h"
+
+/// What a converter unit offers and the view relies on. All identifiers are used on the global scope,
+/// element 0. Every parameter value travels as a 32-bit float that holds a whole number; codes and
+/// indices are taken by truncation toward zero.
+namespace velk {
+
+/// AAC object type of the encoder: 0 AAC, 1 AAC HE, 2 AAC HEv2 (only where the parameter's maximum
+/// is 2.0).
+inline constexpr AudioUnitParameterID kConverterParam_Format = 0;
+/// Bit-rate strategy: 0 ABR, 1 VBRC (constrained variable bit rate), 2 VBR.
+inline constexpr AudioUnitParameterID kConverterParam_Strategy = 1;
+/// Strategy 0 or 1: index into `bitRates`. Strategy 2: the encoder's quality value as it is.
+inline constexpr AudioUnitParameterID kConverterParam_RateQuality = 2;
+
+/// UInt32, read, write, announced: 0 sends the encoded-then-decoded signal to the output, any other
+/// value the untouched source.
+inline constexpr AudioUnitPropertyID kConverterProperty_MonitorSource = 5301;
+/// `PeakStatistics`, read: peaks and clip counts since the last reset. Not announced: poll it.
+inline constexpr AudioUnitPropertyID kConverterProperty_PeakStats = 5302;
+/// UInt32, write, announced: any value clears all peaks and counts.
+inline constexpr AudioUnitPropertyID kConverterProperty_ResetPeakStats = 5303;
+/// UInt32, read, write, announced: non-zero while a listening test runs.
+inline constexpr AudioUnitPropertyID kConverterProperty_ListeningTestActive = 5304;
+
+/// Values of `kConverterParam_Strategy` and `kConverterParam_Format`.
+inline constexpr float kFormat_AAC = 0.0F;
+inline constexpr float kFormat_HE = 1.0F;
+inline constexpr float kFormat_HEv2 = 2.0F;
+inline constexpr float kStrategy_ABR = 0.0F;
+inline constexpr float kStrategy_VBRC = 1.0F;
+inline constexpr float kStrategy_VBR = 2.0F;
+
+/// kbit/s by rate index.
+inline constexpr std::array<std::uint32_t, 17> bitRates = {16,  20,  24,  32,  40,  48,  56,  64, 80,
+                                                           96,  128, 160, 192, 224, 256, 288, 320};
+
+/// Peaks and counts of one channel of one signal since the last reset.
+struct TruePeakStats {
+  /// Highest sample peak, dBFS; above 0.0 is an over.
+  float mSamplePeak;
+  /// Highest inter-sample (true) peak, dBTP.
+  float mInterSamplePeak;
+  /// Samples that exceeded full scale.
+  std::int64_t mSampleClipCount;
+  /// Inter-sample overs.
+  std::int64_t mInterSampleClipCount;
+};
+
+/// Place of each record in the block. The channel-1 slots mean nothing below two channels.
+enum PeakStatsChannelSlot : std::size_t {
+  kPeakStatsSlot_SourceLeft = 0,
+  kPeakStatsSlot_SourceRight = 1,
+  kPeakStatsSlot_EncodedLeft = 2,
+  kPeakStatsSlot_EncodedRight = 3,
+};
+
+/// The data of `kConverterProperty_PeakStats`.
+using PeakStatistics = std::array<TruePeakStats, 4>;
+
+static_assert(sizeof(TruePeakStats) == 24 && offsetof(TruePeakStats, mSampleClipCount) == 8);
+static_assert(sizeof(PeakStatistics) == 96);
+
+}  // namespace velk

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <memory>
+
+#include "ui/AUCocoaUIBase.h"
+#include "ui/InterfaceFile.h"
+
+namespace velk {
+
+class Velk_AUAACConverterCustomView;
+
+/// The bundle's entry class: loads the interface file and hands over a view bound to a unit.
+class Velk_AUAACConverterFactory final : public AUCocoaUIBase {
+ public:
+  explicit Velk_AUAACConverterFactory(std::unique_ptr<ui::InterfaceLoader> loader);
+  ~Velk_AUAACConverterFactory() override;
+
+  std::uint32_t interfaceVersion() const override;
+  std::string description() const override;
+  std::unique_ptr<ui::NativeView> uiViewForAudioUnit(audio_unit::Unit* unit,
+                                                     ui::Size size) override;
+
+ private:
+  std::unique_ptr<ui::InterfaceLoader> loader_;
+  /// Set while an interface file is loaded and its view is bound.
+  Velk_AUAACConverterCustomView* uiFreshlyLoadedView = nullptr;
+};
+
+}  // namespace velk

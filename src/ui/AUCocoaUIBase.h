@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "ui/CustomView.h"
+
+namespace audio_unit {
+class Unit;
+}
+
+/// What a host asks of a view bundle's factory; main thread only.
+class UI_EXPORT AUCocoaUIBase {
+ public:
+  virtual ~AUCocoaUIBase();
+  /// 0.
+  virtual std::uint32_t interfaceVersion() const = 0;
+  virtual std::string description() const = 0;
+  /// A view bound to the unit, or null; the log says why. The size is a wish that a view may ignore.
+  /// The unit has to live until the view has left its parent or is destroyed.
+  virtual std::unique_ptr<ui::NativeView> uiViewForAudioUnit(audio_unit::Unit* unit,
+                                                             ui::Size size) = 0;
+};
+
+/// The bundle's only entry: a new factory for the name of its class, null for any other name. The
+/// caller owns it. The toolkit's application object has to exist, and the bundle stays loaded.
+extern "C" {
+using VelkInstantiateClassFunction = AUCocoaUIBase* (*)(const char* className);
+}
+inline constexpr const char* kVelkInstantiateClassSymbol = "VelkInstantiateClass";

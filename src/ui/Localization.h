@@ -1,0 +1,30 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "ui/Export.h"
+
+namespace ui {
+
+/// Numbers and dates as the user's locale writes them, UTF-8. The narrow no-break space of newer
+/// locale data (U+202F) comes out as a plain space.
+class UI_EXPORT Localization {
+ public:
+  virtual ~Localization();
+  /// A whole number without grouping: "1234".
+  virtual std::string plain(std::int64_t value) const = 0;
+  /// A share as a whole percentage: 0.85 gives "85%" in English, "85 %" in German.
+  virtual std::string percent(double share) const = 0;
+  /// A level with one decimal and a true minus sign: "−0.1".
+  virtual std::string oneDecimal(double value) const = 0;
+  /// Long date and short time: "November 14, 2023 at 10:13 PM".
+  virtual std::string longDateShortTime(std::chrono::system_clock::time_point moment) const = 0;
+};
+
+/// ICU's rules for a locale such as "de_DE"; an empty name takes the user's own.
+UI_EXPORT std::unique_ptr<Localization> makeLocalization(const std::string& locale);
+
+}  // namespace ui

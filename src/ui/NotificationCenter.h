@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "ui/Export.h"
+
+namespace ui {
+
+struct Notification {
+  std::string_view name;
+  /// The object that it is about; only its identity counts.
+  const void* object;
+};
+
+/// Announcements within the process, delivered synchronously in the order of registration.
+/// An observer that is removed during a delivery is not called any more; one that is added is first
+/// called by the next post. Main thread only.
+class UI_EXPORT NotificationCenter {
+ public:
+  static NotificationCenter& defaultCenter();
+
+  NotificationCenter();
+  NotificationCenter(const NotificationCenter&) = delete;
+  NotificationCenter& operator=(const NotificationCenter&) = delete;
+  ~NotificationCenter();
+
+  /// `observer` only names the registration for `removeObserver`. A null `object` observes the name
+  /// from every object.
+  void addObserver(const void* observer, std::string_view name, const void* object,
+                   std::function<void(const Notification&)> deliver);
+  /// Removes every registration of the observer.
+  void removeObserver(const void* observer);
+  void post(std::string_view name, const void* object);
+
+ private:
+  class Registry;
+  std::unique_ptr<Registry> registry_;
+};
+
+}  // namespace ui

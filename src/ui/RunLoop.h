@@ -1,0 +1,39 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "ui/Export.h"
+
+namespace ui {
+
+/// The states of a toolkit's event loop in which a timer may fire. A toolkit with one loop for all
+/// of them fires a timer as soon as it has any mode.
+enum class RunLoopMode { Default, EventTracking, ModalPanel };
+
+/// A repeating timer. Destroying it invalidates it.
+class UI_EXPORT Timer {
+ public:
+  virtual ~Timer();
+  virtual void addToMode(RunLoopMode mode) = 0;
+  /// It never fires again. Safe inside its own callback.
+  virtual void invalidate() = 0;
+};
+
+/// Work that waits for its turn. Destroying it cancels it.
+class UI_EXPORT Deferred {
+ public:
+  virtual ~Deferred();
+};
+
+/// The main thread's run loop. Main thread only.
+class UI_EXPORT RunLoop {
+ public:
+  virtual ~RunLoop();
+  /// Fires every `interval` seconds in the default mode.
+  virtual std::unique_ptr<Timer> scheduledTimer(double interval, std::function<void()> fire) = 0;
+  /// Calls `work` once on the next turn of the loop, never before this call returned.
+  virtual std::unique_ptr<Deferred> performLater(std::function<void()> work) = 0;
+};
+
+}  // namespace ui
