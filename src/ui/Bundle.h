@@ -11,11 +11,12 @@
 namespace ui {
 
 /// The resources that travel with a loaded bundle: a folder with interface files, help pages and a
-/// folder "<language>.lproj" of strings tables for each language.
+/// folder "<language>.lproj" of strings tables for each language. Main thread only.
 class UI_EXPORT Bundle {
  public:
   /// `languages` are codes such as "de" in the user's order of preference; the first that the bundle
-  /// has is used, else "en". Tables are read when they are first asked for.
+  /// has is used, else "en". A code with a region, "de_AT" or "de-AT", settles for its language.
+  /// Tables are read when they are first asked for.
   Bundle(std::filesystem::path resources, std::vector<std::string> languages);
   Bundle(const Bundle&) = delete;
   Bundle& operator=(const Bundle&) = delete;
