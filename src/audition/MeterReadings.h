@@ -20,8 +20,8 @@ constexpr ReadingSet readingSetFor(std::uint32_t numChannels) {
 /// One reading of the details table and the figure of the statistics that feeds it.
 ///
 /// The name says signal (s source, e encoded), measure (s sample peak, i inter-sample peak) and
-/// channel (l, r, m); a clip counter's name ends in another c. A peak has the outlets name + "Field"
-/// and name + "Indicator", a counter name + "Field".
+/// channel (l, r, m); a clip counter's name ends in another c. A peak has the outlets name +
+/// "Field" and name + "Indicator", a counter name + "Field".
 struct MeterReading {
   using Peak = float TruePeakStats::*;
   using Count = std::int64_t TruePeakStats::*;

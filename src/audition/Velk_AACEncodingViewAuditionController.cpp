@@ -17,7 +17,9 @@ constexpr int kMonoPage = 1;
 constexpr int kDark = 0;
 constexpr int kLit = 2;
 
-bool isOn(const ui::Button* button) { return button != nullptr && button->state() == 1; }
+bool isOn(const ui::Button* button) {
+  return button != nullptr && button->state() == 1;
+}
 
 void latch(ui::LevelIndicator& lamp) {
   if (lamp.intValue() == kDark) {
@@ -27,8 +29,7 @@ void latch(ui::LevelIndicator& lamp) {
 
 }  // namespace
 
-Velk_AACEncodingViewAuditionController::Velk_AACEncodingViewAuditionController(
-    ui::Toolkit& toolkit)
+Velk_AACEncodingViewAuditionController::Velk_AACEncodingViewAuditionController(ui::Toolkit& toolkit)
     : toolkit_(toolkit) {
   connections_.outlet("monitorControl", monitorControl);
   connections_.outlet("sourceClipIndicator", sourceClipIndicator);
@@ -171,9 +172,13 @@ void Velk_AACEncodingViewAuditionController::toggleShowDetails(ui::Object* sende
   expand(isOn(dynamic_cast<ui::Button*>(sender)));
 }
 
-void Velk_AACEncodingViewAuditionController::expand() { expand(true); }
+void Velk_AACEncodingViewAuditionController::expand() {
+  expand(true);
+}
 
-void Velk_AACEncodingViewAuditionController::collapse() { expand(false); }
+void Velk_AACEncodingViewAuditionController::collapse() {
+  expand(false);
+}
 
 void Velk_AACEncodingViewAuditionController::expand(bool show) {
   if (isOn(showDetailsButton) != show) {
