@@ -17,8 +17,8 @@ class UI_EXPORT AUCocoaUIBase {
   /// 0.
   virtual std::uint32_t interfaceVersion() const = 0;
   virtual std::string description() const = 0;
-  /// A view bound to the unit, or null; the log says why. The size is a wish that a view may ignore.
-  /// The unit has to live until the view has left its parent or is destroyed.
+  /// A view bound to the unit, or null; the log says why. The size is a wish that a view may
+  /// ignore. The unit has to live until the view has left its parent or is destroyed.
   virtual std::unique_ptr<ui::NativeView> uiViewForAudioUnit(audio_unit::Unit* unit,
                                                              ui::Size size) = 0;
 };

@@ -14,9 +14,9 @@ namespace ui {
 /// folder "<language>.lproj" of strings tables for each language. Main thread only.
 class UI_EXPORT Bundle {
  public:
-  /// `languages` are codes such as "de" in the user's order of preference; the first that the bundle
-  /// has is used, else "en". A code with a region, "de_AT" or "de-AT", settles for its language.
-  /// Tables are read when they are first asked for.
+  /// `languages` are codes such as "de" in the user's order of preference; the first that the
+  /// bundle has is used, else "en". A code with a region, "de_AT" or "de-AT", settles for its
+  /// language. Tables are read when they are first asked for.
   Bundle(std::filesystem::path resources, std::vector<std::string> languages);
   Bundle(const Bundle&) = delete;
   Bundle& operator=(const Bundle&) = delete;

@@ -14,8 +14,8 @@
 
 namespace ui {
 
-/// The outlets and actions of one object, by the names that interface files use. The object declares
-/// them once; a skin fills the outlets and sends the actions.
+/// The outlets and actions of one object, by the names that interface files use. The object
+/// declares them once; a skin fills the outlets and sends the actions.
 class Connections {
  public:
   using Slot = std::variant<View**, Button**, TextField**, LevelIndicator**, SegmentedControl**,

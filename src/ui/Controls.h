@@ -7,8 +7,8 @@
 #include "ui/Geometry.h"
 #include "ui/Object.h"
 
-/// The controls that controllers reach through outlets, with just the operations that are used, under
-/// AppKit's names. A skin implements each over a widget of its toolkit. Main thread only.
+/// The controls that controllers reach through outlets, with just the operations that are used,
+/// under AppKit's names. A skin implements each over a widget of its toolkit. Main thread only.
 ///
 /// Setting a value from code never sends the control's action; a user's click, key or
 /// `performClick` does, after the control's own state has changed.

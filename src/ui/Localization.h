@@ -24,8 +24,9 @@ class UI_EXPORT Localization {
   virtual std::string longDateShortTime(std::chrono::system_clock::time_point moment) const = 0;
 };
 
-/// ICU's rules for a locale such as "de_DE". An empty name takes the user's own from the environment:
-/// LC_ALL, else LC_NUMERIC for numbers and LC_TIME for dates, else LANG, else American English.
+/// ICU's rules for a locale such as "de_DE". An empty name takes the user's own from the
+/// environment: LC_ALL, else LC_NUMERIC for numbers and LC_TIME for dates, else LANG, else American
+/// English.
 UI_EXPORT std::unique_ptr<Localization> makeLocalization(const std::string& locale);
 
 }  // namespace ui

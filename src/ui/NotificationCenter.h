@@ -17,8 +17,8 @@ struct Notification {
 
 /// Announcements within the process, delivered synchronously in the order of registration.
 /// An observer that is removed during a delivery is not called any more; one that is added is first
-/// called by the next post. An exception of an observer ends that delivery and reaches whoever posted.
-/// Main thread only.
+/// called by the next post. An exception of an observer ends that delivery and reaches whoever
+/// posted. Main thread only.
 class UI_EXPORT NotificationCenter {
  public:
   static NotificationCenter& defaultCenter();

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <optional>
-#include <filesystem>
 #include <string>
 
 #include "ui/Controls.h"
