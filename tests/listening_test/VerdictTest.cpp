@@ -1,0 +1,51 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+
+#include "listening_test/Verdict.h"
+
+namespace velk {
+namespace {
+
+constexpr std::uint32_t kMostTrials = 25;
+/// The fewest correct answers that pass, by trial size from 0 to 25; 99 where none does.
+constexpr std::array<std::uint32_t, kMostTrials + 1> kFewestToPass = {
+    99, 99, 99, 99, 99, 99, 99, 99, 99, 99,  // 0 to 9
+    8,  8,  9,  9,  10, 11, 11, 12, 12, 13,  // 10 to 19
+    14, 14, 14, 14, 14, 14};                 // 20 to 25
+
+TEST(SheetVerdict, CallsUpToEightTrialsIncompleteWhateverTheScore) {
+  for (std::uint32_t trials = 0; trials <= 8; ++trials) {
+    for (std::uint32_t correct = 0; correct <= trials; ++correct) {
+      EXPECT_EQ(sheetVerdict(trials, correct), Verdict::Incomplete) << correct << "/" << trials;
+    }
+  }
+}
+
+TEST(SheetVerdict, FailsNineTrialsEvenWhenAllAreCorrect) {
+  for (std::uint32_t correct = 0; correct <= 9; ++correct) {
+    EXPECT_EQ(sheetVerdict(9, correct), Verdict::Failed) << correct;
+  }
+}
+
+TEST(FileVerdict, CallsUpToNineTrialsIncompleteWhateverTheScore) {
+  for (std::uint32_t trials = 0; trials <= 9; ++trials) {
+    for (std::uint32_t correct = 0; correct <= trials; ++correct) {
+      EXPECT_EQ(fileVerdict(trials, correct), Verdict::Incomplete) << correct << "/" << trials;
+    }
+  }
+}
+
+TEST(Verdict, IsThatOfTheTableOnSheetAndInFileFromTenTrialsOn) {
+  for (std::uint32_t trials = 10; trials <= kMostTrials; ++trials) {
+    for (std::uint32_t correct = 0; correct <= trials; ++correct) {
+      const Verdict expected = correct >= kFewestToPass[trials] ? Verdict::Passed : Verdict::Failed;
+      EXPECT_EQ(sheetVerdict(trials, correct), expected) << correct << "/" << trials;
+      EXPECT_EQ(fileVerdict(trials, correct), expected) << correct << "/" << trials;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace velk
