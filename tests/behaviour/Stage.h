@@ -13,16 +13,19 @@
 
 namespace behaviour {
 
-/// A bound view with a unit that records every call, driven the way a user, a host or the unit would.
-/// Behaviour is written once against this interface; every skin brings a stage of its own.
+/// A bound view with a unit that records every call, driven the way a user, a host or the unit
+/// would. Behaviour is written once against this interface; every skin brings a stage of its own.
 ///
 /// Controls are named by the outlet that they fill: "auditionController.monitorControl",
 /// "view.encoderPopup". An unknown name is an error of the test and throws.
+///
+/// The view is in a window, audition page shown, and everything that binding caused has arrived.
 class Stage {
  public:
   virtual ~Stage() = default;
 
-  /// The unit that the view is bound to: its values, the failures to make, the calls it received.
+  /// The unit that the view is bound to: its values, the failures to make, and in its log the calls
+  /// it received.
   virtual fakes::FakeConverter& unit() = 0;
 
   // What a user does.
@@ -35,6 +38,10 @@ class Stage {
   virtual void clickTab(int index) = 0;
   /// A press of the key at that position (virtual key code), with the view as first responder.
   virtual void pressKey(std::uint16_t keyCode) = 0;
+  /// Clicks the help button with that tag (1000 audition, 1001 listening test).
+  virtual void clickHelp(int tag) = 0;
+  /// Clicks OK on the results sheet.
+  virtual void confirmResults() = 0;
   /// Answers the alert that is open.
   virtual void answerAlert(bool stop) = 0;
   /// What the next save panel answers; nothing stands for Cancel.
@@ -42,6 +49,8 @@ class Stage {
 
   // What a host does.
   virtual void requestSize(double width, double height) = 0;
+  /// Puts the view under another parent of the same window.
+  virtual void moveToOtherSuperview() = 0;
   virtual void removeFromSuperview() = 0;
 
   /// Lets time pass: timers fire, unit events and deferred work arrive.
@@ -53,7 +62,7 @@ class Stage {
   virtual int state(std::string_view button) = 0;
   virtual int selectedSegment(std::string_view control) = 0;
   virtual int lamp(std::string_view indicator) = 0;
-  /// The text that a field shows, through the field's own format.
+  /// The text that a field shows; a level through the field's own format, "−0.1 dB".
   virtual std::string text(std::string_view field) = 0;
   /// Whether a field shows its text in the over-full-scale colour.
   virtual bool isRed(std::string_view field) = 0;
@@ -73,7 +82,7 @@ class Stage {
 
   /// Lines written to the log since the stage was set.
   virtual const std::vector<std::string>& logLines() = 0;
-  /// Names of the notifications that the view posted since the stage was set.
+  /// Names of the notifications posted since the stage was set, in order.
   virtual const std::vector<std::string>& notifications() = 0;
 };
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "fakes/FakeControls.h"
+#include "ui/TabView.h"
+
+namespace fakes {
+
+/// Two pages; the first is selected.
+class FakeTabView final : public FakeControl<ui::TabView> {
+ public:
+  FakeTabView(CallLog& log, std::string name);
+
+  void userClicks(int index);
+  ui::TabViewDelegate* delegate() const { return delegate_; }
+
+  int indexOfSelectedItem() const override { return selected_; }
+  int indexOfItem(const ui::TabViewItem* item) const override;
+  ui::TabViewItem* itemAtIndex(int index) override;
+  void selectItemAtIndex(int index) override;
+  void setDelegate(ui::TabViewDelegate* delegate) override;
+
+ private:
+  std::vector<std::unique_ptr<ui::TabViewItem>> items_;
+  int selected_ = 0;
+  ui::TabViewDelegate* delegate_ = nullptr;
+};
+
+}  // namespace fakes
