@@ -15,8 +15,9 @@ inline constexpr AudioUnitPropertyID kConverterProperty_BitRate = 5311;
 /// UInt64: frames of encoded signal that came too late since the unit was made and were silence.
 inline constexpr AudioUnitPropertyID kConverterProperty_MissedFrames = 5312;
 
-/// Data of `kConverterProperty_EffectiveSetting`: the setting really used, which is the nearest that
-/// works where the parameters ask for one that the encoder cannot do at this rate and channel count.
+/// Data of `kConverterProperty_EffectiveSetting`: the setting really used, which is the nearest
+/// that works where the parameters ask for one that the encoder cannot do at this rate and channel
+/// count.
 struct EffectiveSetting {
   UInt32 format;
   UInt32 strategy;
@@ -46,20 +47,20 @@ struct UnitFormat {
 /// Encodes the audio passing through it to AAC and decodes it again at once. Source and encoded
 /// signal come out sample-aligned, delayed by one constant latency.
 ///
-/// `render` runs on the audio thread; `reset` and everything of `Unit` on the main thread, also while
-/// `render` runs. Parameters read back as written.
+/// `render` runs on the audio thread; `reset` and everything of `Unit` on the main thread, also
+/// while `render` runs. Parameters read back as written.
 class ConverterUnit : public audio_unit::Unit {
  public:
-  /// Throws `std::invalid_argument` for a format that the unit does not do, naming what is wrong, and
-  /// `std::runtime_error` when a codec cannot be opened.
+  /// Throws `std::invalid_argument` for a format that the unit does not do, naming what is wrong,
+  /// and `std::runtime_error` when a codec cannot be opened.
   static std::unique_ptr<ConverterUnit> make(const UnitFormat& format);
 
   /// Delay from input to output, whatever the setting and the monitored signal. Samples.
   virtual UInt32 latency() const = 0;
 
   /// Processes one block: `frames` samples from 1 to `maximumFrames`, of `channels` planes each.
-  /// Input and output may be the same planes. Audio thread; never allocates, locks or blocks, except
-  /// that with `kAudioUnitProperty_OfflineRender` set it waits for the codec.
+  /// Input and output may be the same planes. Audio thread; never allocates, locks or blocks,
+  /// except that with `kAudioUnitProperty_OfflineRender` set it waits for the codec.
   virtual void render(const float* const* input, float* const* output, UInt32 frames) noexcept = 0;
 
   /// Forgets the audio inside (after a seek): codec and rings, never the statistics. Not while

@@ -1,0 +1,170 @@
+#include "converter/AacConverter.h"
+
+#include <cstring>
+
+#include "contract/ConverterInterface.h"
+#include "converter/ParameterInfo.h"
+#include "converter/Presets.h"
+#include "converter/PropertyTable.h"
+
+namespace converter {
+namespace {
+
+/// The member that holds the parameter, or null for an identifier that the unit has not.
+float ParameterValues::*memberOf(AudioUnitParameterID id) {
+  switch (id) {
+    case velk::kConverterParam_Format:
+      return &ParameterValues::format;
+    case velk::kConverterParam_Strategy:
+      return &ParameterValues::strategy;
+    case velk::kConverterParam_RateQuality:
+      return &ParameterValues::rateOrQuality;
+    default:
+      return nullptr;
+  }
+}
+
+OSStatus checkParameter(AudioUnitParameterID id, AudioUnitScope scope, AudioUnitElement element) {
+  if (memberOf(id) == nullptr) return kAudioUnitErr_InvalidParameter;
+  if (scope != kAudioUnitScope_Global) return kAudioUnitErr_InvalidScope;
+  return element == 0 ? OSStatus{noErr} : kAudioUnitErr_InvalidElement;
+}
+
+AudioStreamBasicDescription streamFormat(const UnitFormat& format) {
+  AudioStreamBasicDescription stream{};
+  stream.mSampleRate = format.sampleRate;
+  stream.mFormatID = kAudioFormatLinearPCM;
+  stream.mFormatFlags =
+      kAudioFormatFlagIsFloat | kAudioFormatFlagIsPacked | kAudioFormatFlagIsNonInterleaved;
+  stream.mBytesPerPacket = sizeof(float);
+  stream.mFramesPerPacket = 1;
+  stream.mBytesPerFrame = sizeof(float);
+  stream.mChannelsPerFrame = format.channels;
+  stream.mBitsPerChannel = 8 * sizeof(float);
+  return stream;
+}
+
+template <typename Value>
+void put(void* data, const Value& value) {
+  std::memcpy(data, &value, sizeof(Value));
+}
+
+template <typename Value>
+Value take(const void* data) {
+  Value value{};
+  std::memcpy(&value, data, sizeof(Value));
+  return value;
+}
+
+}  // namespace
+
+AacConverter::AacConverter(const UnitFormat& format)
+    : format_(format),
+      abilities_(encoderAbilities()),
+      values_(presetValues(kDefaultPreset).value_or(ParameterValues{})),
+      controls_{.setting = setting()},
+      renderer_(format, controls_) {}
+
+OSStatus AacConverter::getParameter(AudioUnitParameterID id, AudioUnitScope scope,
+                                    AudioUnitElement element, AudioUnitParameterValue& value) {
+  const OSStatus error = checkParameter(id, scope, element);
+  if (error == noErr) value = values_.*memberOf(id);
+  return error;
+}
+
+OSStatus AacConverter::setParameter(AudioUnitParameterID id, AudioUnitScope scope,
+                                    AudioUnitElement element, AudioUnitParameterValue value,
+                                    UInt32 /*bufferOffsetInFrames*/) {
+  const OSStatus error = checkParameter(id, scope, element);
+  if (error != noErr) return error;
+  values_.*memberOf(id) = value;
+  publishSetting();
+  // The format bounds the rate, and the strategy says whether the third parameter is one.
+  if (id != velk::kConverterParam_RateQuality) {
+    announceParameter(velk::kConverterParam_RateQuality);
+  }
+  return noErr;
+}
+
+OSStatus AacConverter::getProperty(AudioUnitPropertyID id, AudioUnitScope scope,
+                                   AudioUnitElement element, void* data, UInt32& size) {
+  const OSStatus error = checkRead(id, scope, element, data, size);
+  if (error != noErr) return error;
+  readProperty(id, element, data);
+  size = propertySize(id);
+  return noErr;
+}
+
+void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data) {
+  switch (id) {
+    case kAudioUnitProperty_ParameterInfo:
+      return put(data, parameterInfo(element, highestFormat(abilities_, format_.channels)));
+    case kAudioUnitProperty_StreamFormat:
+      return put(data, streamFormat(format_));
+    case kAudioUnitProperty_Latency:
+      return put(data, Float64{latency() / format_.sampleRate});
+    case kAudioUnitProperty_MaximumFramesPerSlice:
+      return put(data, format_.maximumFrames);
+    case kAudioUnitProperty_FactoryPresets:
+      return put(data, copyFactoryPresets());
+    case kAudioUnitProperty_PresentPreset:
+      return put(data, copyPresentPreset(values_));
+    case kAudioUnitProperty_OfflineRender:
+      return put(data, offlineRender_);
+    case velk::kConverterProperty_MonitorSource:
+      return put(data, monitorSource_);
+    case velk::kConverterProperty_ListeningTestActive:
+      return put(data, listeningTestActive_);
+    case kConverterProperty_EffectiveSetting:
+      return put(data, effectiveSetting(setting()));
+    case kConverterProperty_BitRate:
+      return put(data, renderer_.bitRate());
+    case kConverterProperty_MissedFrames:
+      return put(data, controls_.missedFrames.load(std::memory_order_relaxed));
+    default:
+      return;
+  }
+}
+
+OSStatus AacConverter::setProperty(AudioUnitPropertyID id, AudioUnitScope scope,
+                                   AudioUnitElement element, const void* data, UInt32 size) {
+  const OSStatus error = checkWrite(id, scope, element, data, size);
+  if (error != noErr) return error;
+  switch (id) {
+    case kAudioUnitProperty_PresentPreset:
+      return applyPreset(take<AUPreset>(data));
+    case kAudioUnitProperty_OfflineRender:
+      offlineRender_ = take<UInt32>(data);
+      controls_.offline.store(offlineRender_ != 0, std::memory_order_relaxed);
+      break;
+    case velk::kConverterProperty_MonitorSource:
+      monitorSource_ = take<UInt32>(data);
+      controls_.monitorSource.store(monitorSource_ != 0, std::memory_order_relaxed);
+      break;
+    case velk::kConverterProperty_ListeningTestActive:
+      listeningTestActive_ = take<UInt32>(data);
+      break;
+    default:
+      break;
+  }
+  announceProperty(id);
+  return noErr;
+}
+
+OSStatus AacConverter::applyPreset(const AUPreset& preset) {
+  const auto values = presetValues(preset.presetNumber);
+  if (!values) return kAudioUnitErr_InvalidPropertyValue;
+  values_ = *values;
+  publishSetting();
+  announceParameter(velk::kConverterParam_Format);
+  announceParameter(velk::kConverterParam_Strategy);
+  announceParameter(velk::kConverterParam_RateQuality);
+  announceProperty(kAudioUnitProperty_PresentPreset);
+  return noErr;
+}
+
+void AacConverter::publishSetting() {
+  controls_.setting.store(setting(), std::memory_order_relaxed);
+}
+
+}  // namespace converter

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "converter/Controls.h"
+#include "converter/ConverterUnit.h"
+#include "converter/Renderer.h"
+#include "converter/Setting.h"
+
+namespace converter {
+
+/// The unit: parameters and properties on the main thread, a renderer for the audio thread.
+class AacConverter final : public ConverterUnit {
+ public:
+  /// The format has been found good.
+  explicit AacConverter(const UnitFormat& format);
+
+  OSStatus getParameter(AudioUnitParameterID id, AudioUnitScope scope, AudioUnitElement element,
+                        AudioUnitParameterValue& value) override;
+  OSStatus setParameter(AudioUnitParameterID id, AudioUnitScope scope, AudioUnitElement element,
+                        AudioUnitParameterValue value, UInt32 bufferOffsetInFrames) override;
+  OSStatus getProperty(AudioUnitPropertyID id, AudioUnitScope scope, AudioUnitElement element,
+                       void* data, UInt32& size) override;
+  OSStatus setProperty(AudioUnitPropertyID id, AudioUnitScope scope, AudioUnitElement element,
+                       const void* data, UInt32 size) override;
+
+  UInt32 latency() const override { return renderer_.latency(); }
+  void render(const float* const* input, float* const* output, UInt32 frames) noexcept override {
+    renderer_.render(input, output, frames);
+  }
+  void reset() override { renderer_.reset(); }
+
+ private:
+  void readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data);
+  OSStatus applyPreset(const AUPreset& preset);
+  void publishSetting();
+  Setting setting() const { return nearestSetting(values_, format_, abilities_); }
+
+  UnitFormat format_;
+  EncoderAbilities abilities_;
+  ParameterValues values_;
+  UInt32 monitorSource_ = 0;
+  UInt32 listeningTestActive_ = 0;
+  UInt32 offlineRender_ = 0;
+  Controls controls_;
+  Renderer renderer_;
+};
+
+}  // namespace converter

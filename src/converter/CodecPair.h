@@ -1,0 +1,50 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "converter/BitRateMeter.h"
+#include "converter/Decoder.h"
+#include "converter/Encoder.h"
+#include "converter/SourceHistory.h"
+
+namespace converter {
+
+/// An encoder and its decoder as one source of samples: asked for a stretch of the encoded signal
+/// by position in the source, it takes from the history the frames that this needs. One thread at a
+/// time.
+class CodecPair {
+ public:
+  /// Good for stretches from `start` on. Throws `std::runtime_error` when a codec refuses.
+  CodecPair(const Setting& setting, const UnitFormat& unit, Position start);
+
+  /// Writes the encoded signal at [position, position + frames), at most `kBlockFrames`, in the
+  /// source's own time. Positions only ever rise. The history has to reach `delay + frameLength`
+  /// further, one frame more for each of lookahead.
+  void render(const SourceHistory& history, Position position, UInt32 frames,
+              std::span<float* const> output);
+
+  /// Of the access units since priming.
+  BitRate bitRate() const { return bitRate_.value(); }
+
+ private:
+  void codeFrame(const SourceHistory& history);
+  void keepFrom(Position position);
+
+  std::unique_ptr<Encoder> encoder_;
+  CodecTiming timing_;
+  std::unique_ptr<Decoder> decoder_;
+  BitRateMeter bitRate_;
+  UInt32 channels_;
+  Position nextFrame_;
+  Position start_;
+  UInt32 lookaheadLeft_;
+  /// The decoded samples at [decodedBegin_, decodedEnd_).
+  std::array<std::vector<float>, kMaximumChannels> decoded_;
+  Position decodedBegin_;
+  Position decodedEnd_;
+};
+
+}  // namespace converter

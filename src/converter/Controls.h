@@ -1,0 +1,18 @@
+#pragma once
+
+#include <atomic>
+
+#include "converter/Setting.h"
+
+namespace converter {
+
+/// What the main thread asks of the audio thread, which looks at the start of every block, and what
+/// the audio thread counts for it.
+struct Controls {
+  std::atomic<Setting> setting{Setting{}};
+  std::atomic<bool> monitorSource{false};
+  std::atomic<bool> offline{false};
+  std::atomic<UInt64> missedFrames{0};
+};
+
+}  // namespace converter

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "converter/Controls.h"
+#include "converter/DelayLine.h"
+#include "converter/EncodedReader.h"
+#include "converter/MonitorSwitch.h"
+#include "converter/SourceFeeder.h"
+#include "converter/Worker.h"
+
+namespace converter {
+
+/// What the unit does with audio: feeds the worker, delays the source to meet the encoded signal,
+/// and sends one of the two on.
+class Renderer {
+ public:
+  /// Throws `std::runtime_error` when a codec cannot be opened.
+  Renderer(const UnitFormat& unit, Controls& controls);
+
+  /// As `ConverterUnit::render` and `ConverterUnit::reset`.
+  void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
+  void reset();
+
+  UInt32 latency() const { return latency_; }
+  BitRate bitRate() const { return worker_.bitRate(); }
+
+ private:
+  using Planes = std::array<std::vector<float>, kMaximumChannels>;
+
+  void renderSlice(const float* const* input, float* const* output, UInt32 frames);
+
+  UnitFormat unit_;
+  Controls& controls_;
+  UInt32 latency_;
+  Worker worker_;
+  SourceFeeder feeder_;
+  EncodedReader reader_;
+  DelayLine delay_;
+  MonitorSwitch monitor_;
+  Planes source_;
+  Planes encoded_;
+};
+
+}  // namespace converter
