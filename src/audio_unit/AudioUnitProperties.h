@@ -4,7 +4,8 @@
 #include "audio_unit/Export.h"
 
 /// Access to a unit's parameters and properties. Each call returns the unit's own status;
-/// a null unit gives `kAudioUnitErr_InvalidElement`. Any thread that the unit itself allows.
+/// a null unit gives `kAudioUnitErr_InvalidElement`, a null pointer to a result or to data that are
+/// not empty `kAudio_ParamError`. Any thread that the unit itself allows.
 
 /// Reads one parameter into `outValue`, which an error leaves as it was.
 AUDIO_UNIT_EXPORT OSStatus AudioUnitGetParameter(AudioUnit inUnit, AudioUnitParameterID inID,
@@ -17,7 +18,8 @@ AUDIO_UNIT_EXPORT OSStatus AudioUnitSetParameter(AudioUnit inUnit, AudioUnitPara
                                                  AudioUnitParameterValue inValue,
                                                  UInt32 inBufferOffsetInFrames);
 
-/// Reads one property. `ioDataSize` is the size of `outData` in bytes and becomes the size written.
+/// Reads one property. `ioDataSize` is the size of `outData` in bytes and becomes the size written;
+/// an error leaves it as it was.
 AUDIO_UNIT_EXPORT OSStatus AudioUnitGetProperty(AudioUnit inUnit, AudioUnitPropertyID inID,
                                                 AudioUnitScope inScope, AudioUnitElement inElement,
                                                 void* outData, UInt32* ioDataSize);

@@ -28,6 +28,8 @@ using AudioUnitParameterValue = Float32;
 
 enum : OSStatus {
   noErr = 0,
+  /// An argument that is missing or out of range.
+  kAudio_ParamError = -50,
   kAudioUnitErr_InvalidProperty = -10879,
   kAudioUnitErr_InvalidParameter = -10878,
   kAudioUnitErr_InvalidElement = -10877,

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <chrono>
+
+#include "audio_unit/AudioUnitTypes.h"
+
+namespace audio_unit {
+
+/// A time of the steady clock as listeners are told it: nanoseconds.
+inline UInt64 hostTime(std::chrono::steady_clock::time_point time) {
+  return static_cast<UInt64>(
+      std::chrono::duration_cast<std::chrono::nanoseconds>(time.time_since_epoch()).count());
+}
+
+}  // namespace audio_unit

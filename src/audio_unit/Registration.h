@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "audio_unit/EventListener.h"
+#include "audio_unit/RunLoop.h"
+#include "audio_unit/UnitIdentity.h"
+
+namespace audio_unit {
+
+/// One object's interest in one event. Gesture and property events pass by; of a parameter's value
+/// the newest one is kept here until the listener may be called again.
+struct Registration {
+  enum class ValueState { Quiet, Waiting, Due };
+
+  /// Null once the listener was disposed of.
+  EventListener* listener;
+  void* object;
+  AudioUnitEvent event;
+  std::shared_ptr<const UnitIdentity> unit;
+  /// Place among the registrations of its run loop.
+  UInt64 order;
+  /// Older changes do not concern it.
+  UInt64 firstTicket;
+
+  ValueState valueState = ValueState::Quiet;
+  AudioUnitParameterValue value = 0;
+  UInt64 valueHostTime = 0;
+  UInt64 valueTicket = 0;
+  std::optional<RunLoop::TimePoint> lastCallback{};
+
+  bool isEnded() const { return !listener || !unit->isAlive.load(std::memory_order_acquire); }
+  bool isForValues() const { return event.mEventType == kAudioUnitEvent_ParameterValueChange; }
+  /// When a waiting value may be delivered; nothing stands for at once.
+  std::optional<RunLoop::TimePoint> valueDue() const {
+    if (!lastCallback) return std::nullopt;
+    return *lastCallback + listener->notificationInterval;
+  }
+};
+
+}  // namespace audio_unit
