@@ -20,7 +20,7 @@ class UI_EXPORT Timer {
   virtual void invalidate() = 0;
 };
 
-/// Work that waits for its turn. Destroying it cancels it.
+/// Work that waits for its turn. Destroying it cancels it; safe inside the work itself.
 class UI_EXPORT Deferred {
  public:
   virtual ~Deferred();

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "contract/ConverterInterface.h"
+#include "keys/KeyBindings.h"
 #include "ui/Connections.h"
 #include "ui/CustomView.h"
 #include "ui/RunLoop.h"
@@ -22,11 +23,8 @@ class Velk_AACEncodingViewListeningTestController;
 class Velk_AACEncodingViewSettingsController;
 class TabController;
 
-/// Key label to the notification names that the key posts, in order.
-using KeyBindings = std::map<std::string, std::vector<std::string_view>, std::less<>>;
-
-/// The main view: bound to one converter unit, which everybody else reaches only through it. Owner of
-/// the four controllers' work, though the interface file owns the controllers. Main thread only.
+/// The main view: bound to one converter unit, which everybody else reaches only through it. Owner
+/// of the four controllers' work, though the interface file owns the controllers. Main thread only.
 ///
 /// The operations of the encoder menu are implemented in encoder/, those of the keys in keys/.
 class Velk_AUAACConverterCustomView final : public ui::Object,
@@ -52,7 +50,11 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   ui::Toolkit& toolkit() const { return toolkit_; }
 
   // Binding and teardown.
+  /// Binds the view to a unit, which is not owned and has to live until the teardown. An assertion
+  /// failure when a parameter cannot be read. May be called again for another unit.
   void setAU(AudioUnit unit);
+  /// Unbinds and ends everything that runs; what is pending then never happens. Once per view: when
+  /// it has left its superview or, failing that, when it is destroyed.
   void cleanup();
 
   // What the toolkit sends.
@@ -78,7 +80,8 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   /// Points. The only way in which the system itself changes the view's size.
   void changeHeight(double height);
 
-  // Typed access to the converter. A parameter that cannot be read or written is an assertion failure.
+  // Typed access to the converter. A parameter that cannot be read or written is an assertion
+  // failure.
   void setParameterValue(AudioUnitParameterID parameter, float value);
   float getParameterValue(AudioUnitParameterID parameter) const;
   float getFormat() const;
@@ -105,6 +108,7 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   void priv_addListenerForParameter(AudioUnitParameterID parameter, AudioUnitScope scope,
                                     AudioUnitElement element);
   void priv_removeListeners();
+  /// Turns one event into a refresh or a notification about `object`, the registered one.
   void priv_eventListener(void* object, const AudioUnitEvent& event, float value);
 
   // Encoder menu.
@@ -133,13 +137,24 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   std::string localized(std::string_view key) const;
 
  private:
+  void declareConnections();
   void addPropertyListener(AudioUnitPropertyID property);
   /// Reads a UInt32 of the unit; `fallback` when that fails.
   UInt32 propertyValue(AudioUnitPropertyID property, UInt32 fallback) const;
   OSStatus setPropertyValue(AudioUnitPropertyID property, UInt32 value);
   bool unitOffersHEV2() const;
-  void attachPresetKey(int tag, const ui::Dictionary& key);
-  std::string titleForSetting(float format, float strategy, float rateQuality) const;
+  void attachSetting(int tag, const ui::Dictionary& setting);
+  bool isTornDown() const { return inUse_ == nullptr; }
+  /// The work as an end function that does nothing any more after the teardown.
+  template <class Work>
+  auto whileInUse(Work work) const {
+    return
+        [inUse = std::weak_ptr<const bool>(inUse_), work = std::move(work)](auto&&... arguments) {
+          if (!inUse.expired()) {
+            work(std::forward<decltype(arguments)>(arguments)...);
+          }
+        };
+  }
 
   ui::NativeView& native_;
   ui::Toolkit& toolkit_;
@@ -161,8 +176,12 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   bool hasHEV2_ = false;
   bool allowSizeChange = false;
   KeyBindings keyBindings_;
-  bool cleanedUp_ = false;
+  /// The tab controllers know their owner: there is something to tear down.
+  bool hasBeenBound_ = false;
+  bool isAlertOpen_ = false;
   std::unique_ptr<ui::Deferred> pendingExpand_;
+  /// Null after the teardown.
+  std::shared_ptr<const bool> inUse_;
 };
 
 }  // namespace velk

@@ -106,11 +106,19 @@ void FakeConverter::hostMakesGesture(AudioUnitParameterID id) {
   }
 }
 
+void FakeConverter::announce(AudioUnitParameterID id) {
+  announcing_ = true;
+  announceParameter(id);
+  announcing_ = false;
+}
+
 OSStatus FakeConverter::getParameter(AudioUnitParameterID id, AudioUnitScope scope,
                                      AudioUnitElement element, AudioUnitParameterValue& value) {
-  log_.add(caller(), ".getParameter ", id);
-  if (const OSStatus status = failureFor(UnitCall::GetParameter, id)) {
-    return status;
+  if (!announcing_) {
+    log_.add(caller(), ".getParameter ", id);
+    if (const OSStatus status = failureFor(UnitCall::GetParameter, id)) {
+      return status;
+    }
   }
   if (scope != kAudioUnitScope_Global || element != 0) {
     return kAudioUnitErr_InvalidScope;
@@ -137,7 +145,7 @@ OSStatus FakeConverter::setParameter(AudioUnitParameterID id, AudioUnitScope sco
   }
   parameters[id] = value;
   if (id != velk::kConverterParam_RateQuality) {
-    announceParameter(velk::kConverterParam_RateQuality);
+    announce(velk::kConverterParam_RateQuality);
   }
   return noErr;
 }
@@ -247,7 +255,7 @@ OSStatus FakeConverter::applyPreset(SInt32 number) {
   }
   setSetting(*presets[index]);
   for (UInt32 id = 0; id < parameters.size(); ++id) {
-    announceParameter(id);
+    announce(id);
   }
   return noErr;
 }

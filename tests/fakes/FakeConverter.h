@@ -58,9 +58,9 @@ class FakeConverter final : public audio_unit::Unit {
   void hostSetsSetting(const Setting& setting);
   void hostSetsProperty(AudioUnitPropertyID id, UInt32 value);
   void hostSetsPreset(std::size_t index);
-  /// Announces a change without making one.
-  using audio_unit::Unit::announceParameter;
-  using audio_unit::Unit::announceProperty;
+  /// Announces a change without making one, with no sender.
+  void announce(AudioUnitParameterID id);
+  void announceChangeOf(AudioUnitPropertyID id) { announceProperty(id); }
   /// Tells listeners of a gesture on the parameter.
   void hostMakesGesture(AudioUnitParameterID id);
 
@@ -90,6 +90,8 @@ class FakeConverter final : public audio_unit::Unit {
   CallLog& log_;
   std::map<std::pair<UnitCall, UInt32>, Failure> failures_;
   bool fromHost_ = false;
+  /// The value that goes into an announcement is being read.
+  bool announcing_ = false;
   std::vector<AUPreset> presetRecords_;
   CFStringRef presetName_;
 };

@@ -1,0 +1,27 @@
+#include <string_view>
+#include <vector>
+
+#include "keys/KeyLabels.h"
+#include "ui/NotificationCenter.h"
+#include "view/Velk_AUAACConverterCustomView.h"
+
+/// From a key press to the commands that are bound to it. Which page acts on a command is decided
+/// by which controller observes.
+namespace velk {
+
+std::string Velk_AUAACConverterCustomView::unicodeStringForKeyCode(std::uint16_t keyCode) {
+  return std::string(keyLabel(keyCode));
+}
+
+void Velk_AUAACConverterCustomView::keyDown(const ui::KeyEvent& event) {
+  const auto binding = keyBindings_.find(keyLabel(event.keyCode));
+  if (binding != keyBindings_.end()) {
+    // A copy, since an observer may end in a teardown, which empties the table.
+    for (const std::string_view name : std::vector(binding->second)) {
+      ui::NotificationCenter::defaultCenter().post(name, this);
+    }
+  }
+  native_.interpretKeyEvents(event);
+}
+
+}  // namespace velk
