@@ -3,11 +3,12 @@
 #include "listening_test/PassThreshold.h"
 #include "ui/Bundle.h"
 #include "ui/Localization.h"
+#include "view/StringsTable.h"
 
 namespace velk {
 
 std::string TestTexts::text(std::string_view key) const {
-  return bundle_.localizedString(key, "AUDravoAACStrings");
+  return bundle_.localizedString(key, kStringsTable);
 }
 
 std::string TestTexts::text(std::string_view key, const std::vector<std::string>& arguments) const {

@@ -107,7 +107,7 @@ TEST(AuditionPage, IsBroughtBackInLineByTheNextChangeAfterARefusedKeyCommand) {
   EXPECT_EQ(page.control<FakeSegmentedControl>("monitorControl").selectedSegment(), 0);
   EXPECT_THAT(page.record.log.lines(),
               ElementsAre("There was an error changing the source to monitor: -50"));
-  page.unit.announceProperty(kConverterProperty_MonitorSource);
+  page.unit.announceChangeOf(kConverterProperty_MonitorSource);
   page.advance(60);
   EXPECT_EQ(page.control<FakeSegmentedControl>("monitorControl").selectedSegment(), 1);
 }
@@ -146,7 +146,7 @@ TEST(AuditionPage, IgnoresMonitorCommandsAndChangesDuringATest) {
   page.record.calls.clear();
   page.view->native->pressKey(kKey1);
   page.view->native->pressKey(kKey2);
-  page.unit.announceProperty(kConverterProperty_MonitorSource);
+  page.unit.announceChangeOf(kConverterProperty_MonitorSource);
   page.advance(10);
   EXPECT_THAT(page.record.calls.starting("unit.set", "auditionController."), IsEmpty());
 }

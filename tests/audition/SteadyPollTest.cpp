@@ -5,6 +5,7 @@
 #include <memory>
 #include <new>
 
+#include "audio_unit/Unit.h"
 #include "factory/InterfaceObjects.h"
 #include "factory/Velk_AUAACConverterFactory.h"
 #include "fakes/CallLog.h"
