@@ -13,6 +13,17 @@
 
 namespace behaviour {
 
+/// How every skin's interface file arranges the encoder menu: the presets, a separator, the custom
+/// entries, newest first, and last the item that opens the custom-encoder sheet.
+inline constexpr int kOndaraPlusItem = 0;
+inline constexpr int k128KItem = 1;
+inline constexpr int kStreamingItem = 2;
+inline constexpr int kHighQualityItem = 3;
+inline constexpr int kNewestCustomItem = 5;
+
+/// Long enough for every event of the unit and all deferred work to arrive.
+inline constexpr std::chrono::milliseconds kSettled{120};
+
 /// A bound view with a unit that records every call, driven the way a user, a host or the unit
 /// would. Behaviour is written once against this interface; every skin brings a stage of its own.
 ///
