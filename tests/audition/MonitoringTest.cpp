@@ -66,6 +66,7 @@ TEST(AuditionPage, RunsNothingTwiceWhenItIsPreparedTwice) {
   page.record.calls.clear();
   page.view->native->pressKey(kKey1);
   EXPECT_EQ(page.record.calls.count("unit.setProperty 5301"), 1U);
+  page.advance(60);
   page.controller().cleanup();
   page.record.calls.clear();
   page.advance(1000);
