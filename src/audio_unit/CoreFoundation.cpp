@@ -13,6 +13,7 @@ class CountedObject {
  public:
   CountedObject(const CountedObject&) = delete;
   CountedObject& operator=(const CountedObject&) = delete;
+  virtual ~CountedObject() = default;
 
   void retain() const { references_.fetch_add(1, std::memory_order_relaxed); }
   void release() const {
@@ -21,7 +22,6 @@ class CountedObject {
 
  protected:
   CountedObject() = default;
-  virtual ~CountedObject() = default;
 
  private:
   mutable std::atomic<long> references_{1};

@@ -4,7 +4,6 @@
 #include "audio_unit/AudioUnitProperties.h"
 #include "audio_unit/Unit.h"
 
-using testing::_;
 using testing::DoAll;
 using testing::Eq;
 using testing::Return;
@@ -37,7 +36,7 @@ class UnitAccess : public testing::Test {
 }  // namespace
 
 TEST_F(UnitAccess, ReadsAParameter) {
-  EXPECT_CALL(unit, getParameter(1, 2, 3, _))
+  EXPECT_CALL(unit, getParameter(1, 2, 3, testing::_))
       .WillOnce(DoAll(SetArgReferee<3>(4.5F), Return(noErr)));
   float value = 0;
   EXPECT_EQ(AudioUnitGetParameter(&unit, 1, 2, 3, &value), noErr);
