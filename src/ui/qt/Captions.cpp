@@ -1,0 +1,58 @@
+#include "ui/qt/Captions.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QTabWidget>
+
+#include "ui/Bundle.h"
+
+namespace ui::qt {
+
+namespace {
+
+class Translator {
+ public:
+  explicit Translator(const Bundle& bundle) : bundle_(bundle) {}
+
+  void translate(QWidget& widget) const {
+    if (auto* label = qobject_cast<QLabel*>(&widget)) {
+      label->setText(translated(label->text()));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+      button->setText(translated(button->text()));
+    } else if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
+      for (int index = 0; index < tabs->count(); ++index) {
+        tabs->setTabText(index, translated(tabs->tabText(index)));
+      }
+    } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+      for (int index = 0; index < box->count(); ++index) {
+        box->setItemText(index, translated(box->itemText(index)));
+      }
+    }
+    widget.setWindowTitle(translated(widget.windowTitle()));
+    widget.setToolTip(translated(widget.toolTip()));
+    widget.setAccessibleName(translated(widget.accessibleName()));
+    widget.setAccessibleDescription(translated(widget.accessibleDescription()));
+  }
+
+ private:
+  QString translated(const QString& caption) const {
+    return caption.isEmpty() ? caption
+                             : QString::fromStdString(
+                                   bundle_.localizedString(caption.toStdString(), kStringsTable));
+  }
+
+  const Bundle& bundle_;
+};
+
+}  // namespace
+
+void translateCaptions(QWidget& widget, const Bundle& bundle) {
+  const Translator translator(bundle);
+  translator.translate(widget);
+  for (QWidget* inner : widget.findChildren<QWidget*>()) {
+    translator.translate(*inner);
+  }
+}
+
+}  // namespace ui::qt

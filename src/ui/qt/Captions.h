@@ -1,0 +1,18 @@
+#pragma once
+
+class QWidget;
+
+namespace ui {
+class Bundle;
+}
+
+namespace ui::qt {
+
+/// The table that holds all texts of the views.
+inline constexpr const char* kStringsTable = "AUDravoAACStrings";
+
+/// Looks every caption up in the bundle's strings table that the widget and those within it show or
+/// have read out: texts, titles, tabs, menu items, tool tips, accessible names and descriptions.
+void translateCaptions(QWidget& widget, const Bundle& bundle);
+
+}  // namespace ui::qt

@@ -1,0 +1,143 @@
+#include "ui/qt/Form.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QUiLoader>
+#include <QVariant>
+#include <string>
+
+#include "ui/InterfaceFile.h"
+#include "ui/qt/CaptionClicks.h"
+#include "ui/qt/FrameOrigin.h"
+#include "ui/qt/Lamp.h"
+#include "ui/qt/SheetDialog.h"
+#include "ui/qt/SkinStyle.h"
+#include "ui/qt/TextStyle.h"
+
+namespace ui::qt {
+
+namespace {
+
+constexpr const char* kSeparatorTitle = "-";
+
+/// Makes the skin's own classes beside Qt's.
+class WidgetFactory final : public QUiLoader {
+ public:
+  QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+    QWidget* widget = nullptr;
+    if (className == QLatin1String("CustomView")) {
+      widget = new QtView(parent);
+    } else if (className == QLatin1String("Sheet")) {
+      widget = new SheetDialog(parent);
+    } else if (className == QLatin1String("Lamp")) {
+      widget = new Lamp(parent);
+    } else {
+      widget = QUiLoader::createWidget(className, parent, name);
+      if (widget == nullptr && unknownClass_.empty()) {
+        unknownClass_ = className.toStdString();
+      }
+      return widget;
+    }
+    widget->setObjectName(name);
+    return widget;
+  }
+
+  /// The first class that nobody could make; empty if there was none.
+  const std::string& unknownClass() const { return unknownClass_; }
+
+ private:
+  std::string unknownClass_;
+};
+
+std::unique_ptr<QWidget> read(const std::filesystem::path& path) {
+  QFile file(QString::fromStdString(path.string()));
+  if (!file.open(QIODevice::ReadOnly)) {
+    throw InterfaceError("cannot be opened: " + file.errorString().toStdString());
+  }
+  WidgetFactory factory;
+  std::unique_ptr<QWidget> top(factory.load(&file));
+  if (!factory.unknownClass().empty()) {
+    throw InterfaceError("a widget is of an unknown class, \"" + factory.unknownClass() + "\"");
+  }
+  if (!top) {
+    throw InterfaceError(factory.errorString().toStdString());
+  }
+  return top;
+}
+
+std::unique_ptr<QtView> takeApart(QWidget& top) {
+  auto* pages = qobject_cast<QStackedWidget*>(&top);
+  if (pages == nullptr) {
+    throw InterfaceError("its top widget is no QStackedWidget");
+  }
+  std::unique_ptr<QtView> view;
+  std::vector<SheetDialog*> sheets;
+  for (int index = pages->count() - 1; index >= 0; --index) {
+    QWidget* page = pages->widget(index);
+    if (auto* custom = dynamic_cast<QtView*>(page); custom != nullptr && !view) {
+      pages->removeWidget(custom);
+      custom->setParent(nullptr);
+      view.reset(custom);
+    } else if (auto* sheet = dynamic_cast<SheetDialog*>(page)) {
+      sheets.push_back(sheet);
+    } else {
+      throw InterfaceError("page \"" + page->objectName().toStdString() +
+                           "\" is neither its one view nor a sheet");
+    }
+  }
+  if (!view) {
+    throw InterfaceError("it has no page of the class CustomView");
+  }
+  for (SheetDialog* sheet : sheets) {
+    pages->removeWidget(sheet);
+    sheet->becomeWindowOf(*view);
+  }
+  return view;
+}
+
+void makeSeparators(QComboBox& box) {
+  for (int index = 0; index < box.count(); ++index) {
+    if (box.itemText(index) == QLatin1String(kSeparatorTitle)) {
+      box.removeItem(index);
+      box.insertSeparator(index);
+    }
+  }
+}
+
+void dress(QtView& view, QSize drawnSize) {
+  auto style = std::make_unique<SkinStyle>();
+  view.setFont(viewFont());
+  for (QWidget* widget : view.findChildren<QWidget*>()) {
+    widget->setStyle(style.get());
+    if (auto* label = qobject_cast<QLabel*>(widget)) {
+      applyTextStyle(*label, label->property("textStyle").toString());
+    } else if (auto* box = qobject_cast<QComboBox*>(widget)) {
+      makeSeparators(*box);
+    }
+    if (widget->property("keepsPlace").toBool()) {
+      QSizePolicy policy = widget->sizePolicy();
+      policy.setRetainSizeWhenHidden(true);
+      widget->setSizePolicy(policy);
+    }
+    if (widget->property(kFrameOriginProperty).isValid()) {
+      new FramePlacement(*widget, view, drawnSize.height());
+    }
+  }
+  view.setSkinStyle(std::move(style));
+}
+
+}  // namespace
+
+Form loadForm(const std::filesystem::path& file) {
+  const std::unique_ptr<QWidget> top = read(file);
+  Form form;
+  form.drawnSize = top->size();
+  form.view = takeApart(*top);
+  dress(*form.view, form.drawnSize);
+  connectCaptionClicks(*form.view);
+  return form;
+}
+
+}  // namespace ui::qt

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ui/qt/Adapter.h"
+#include "ui/qt/Lamp.h"
+
+namespace ui::qt {
+
+class LampAdapter final : public Adapter<LevelIndicator, Lamp> {
+ public:
+  using Adapter::Adapter;
+  int intValue() const override { return widget().value(); }
+  void setIntValue(int value) override { widget().setValue(value); }
+};
+
+}  // namespace ui::qt

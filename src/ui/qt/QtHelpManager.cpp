@@ -1,0 +1,30 @@
+#include "ui/qt/QtHelpManager.h"
+
+#include <QDesktopServices>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "ui/Bundle.h"
+#include "ui/Log.h"
+
+namespace ui::qt {
+
+QtHelpManager::QtHelpManager(const Bundle& bundle, std::function<bool(const QUrl&)> openUrl)
+    : bundle_(bundle), openUrl_(openUrl ? std::move(openUrl) : QDesktopServices::openUrl) {}
+
+void QtHelpManager::openHelpAnchor(const std::string& anchor, const std::string& /*book*/) {
+  const std::filesystem::path folder = bundle_.resources() / "help";
+  std::filesystem::path page = folder / ("index." + bundle_.language() + ".html");
+  std::error_code error;
+  if (!std::filesystem::exists(page, error)) {
+    page = folder / "index.html";
+  }
+  QUrl url = QUrl::fromLocalFile(QString::fromStdString(page.string()));
+  url.setFragment(QString::fromStdString(anchor));
+  if (!openUrl_(url)) {
+    log("Unable to open help page " + page.string());
+  }
+}
+
+}  // namespace ui::qt

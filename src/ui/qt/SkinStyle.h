@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ui::qt {
+
+/// The look of the views: flat controls, tabs with an underline in the accent colour, the system's
+/// palette. The same metrics on every desktop, so that what fits once fits everywhere.
+///
+/// A push button's dynamic property `look` may be "help" (a round button), "disclosure" (a triangle
+/// that points down while it is on), "firstSegment" or "lastSegment" (halves of a pair that touch).
+class SkinStyle final : public QProxyStyle {
+ public:
+  SkinStyle();
+
+  void polish(QWidget* widget) override;
+  using QProxyStyle::polish;
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                    bool enabled, const QString& text, QPalette::ColorRole role) const override;
+
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override;
+  QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                       SubControl subControl, const QWidget* widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override;
+};
+
+/// The font that shows the whole text in the width: the font itself, or a smaller one down to
+/// three quarters of its size.
+QFont fittingFont(const QFont& font, const QString& text, int width);
+
+}  // namespace ui::qt

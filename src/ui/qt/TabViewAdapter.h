@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <memory>
+#include <vector>
+
+#include "ui/TabView.h"
+#include "ui/qt/Adapter.h"
+
+namespace ui::qt {
+
+/// Pages with tabs (a QTabWidget) or without (a QStackedWidget). The delegate has the last word on
+/// every change, whether a click, a key, an assistive tool or code asks for it.
+class TabViewAdapter final : public Adapter<TabView, QWidget> {
+ public:
+  explicit TabViewAdapter(QTabWidget& tabs);
+  explicit TabViewAdapter(QStackedWidget& pages);
+
+  int indexOfSelectedItem() const override;
+  int indexOfItem(const TabViewItem* item) const override;
+  TabViewItem* itemAtIndex(int index) override;
+  void selectItemAtIndex(int index) override;
+  void setDelegate(TabViewDelegate* delegate) override;
+
+ private:
+  void makeItems(int count);
+  void showPage(int index);
+  /// Qt has changed the page already when it says so: takes that back and asks first.
+  void userSelected(int index);
+
+  QTabWidget* tabs_ = nullptr;
+  QStackedWidget* pages_ = nullptr;
+  std::vector<std::unique_ptr<TabViewItem>> items_;
+  TabViewDelegate* delegate_ = nullptr;
+  int selected_ = 0;
+};
+
+}  // namespace ui::qt

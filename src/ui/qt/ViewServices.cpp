@@ -1,0 +1,19 @@
+#include "ui/qt/ViewServices.h"
+
+#include <utility>
+
+#include "ui/qt/Environment.h"
+#include "ui/qt/QtRunLoop.h"
+
+namespace ui::qt {
+
+ViewServices::ViewServices(const Environment& environment, QWidget& view,
+                           std::function<void()> didLeaveSheet)
+    : bundle_(environment.resources, environment.languages),
+      localization_(makeLocalization(environment.locale)),
+      runLoop_(environment.makeRunLoop ? environment.makeRunLoop() : std::make_unique<QtRunLoop>()),
+      sheets_(view, std::move(didLeaveSheet)),
+      helpManager_(bundle_, environment.openUrl),
+      toolkit_{*runLoop_, sheets_, helpManager_, bundle_, *localization_} {}
+
+}  // namespace ui::qt

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "ui/Bundle.h"
+#include "ui/Localization.h"
+#include "ui/RunLoop.h"
+#include "ui/Toolkit.h"
+#include "ui/qt/QtHelpManager.h"
+#include "ui/qt/QtSheets.h"
+
+namespace ui::qt {
+
+struct Environment;
+
+/// The services of one view.
+class ViewServices {
+ public:
+  ViewServices(const Environment& environment, QWidget& view, std::function<void()> didLeaveSheet);
+
+  Toolkit& toolkit() { return toolkit_; }
+
+ private:
+  Bundle bundle_;
+  std::unique_ptr<Localization> localization_;
+  std::unique_ptr<RunLoop> runLoop_;
+  QtSheets sheets_;
+  QtHelpManager helpManager_;
+  Toolkit toolkit_;
+};
+
+}  // namespace ui::qt

@@ -1,0 +1,124 @@
+// Draws every page and sheet of the view, light and dark, into PNG files.
+// usage: screenshots FOLDER [LANGUAGE] [--long]     (QT_SCALE_FACTOR scales)
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QPixmap>
+#include <QTabWidget>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "contract/ConverterInterface.h"
+#include "qt/Host.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+velk::PeakStatistics hotMix() {
+  velk::PeakStatistics statistics{};
+  statistics[velk::kPeakStatsSlot_SourceLeft] = {-0.1F, 0.4F, 0, 12};
+  statistics[velk::kPeakStatsSlot_SourceRight] = {-0.1F, 0.2F, 0, 3};
+  statistics[velk::kPeakStatsSlot_EncodedLeft] = {0.9F, 1.2F, 31, 57};
+  statistics[velk::kPeakStatsSlot_EncodedRight] = {0.7F, 1.1F, 18, 44};
+  return statistics;
+}
+
+class Album {
+ public:
+  Album(std::filesystem::path folder, qt_test::HostOptions options, std::string theme)
+      : folder_(std::move(folder)), theme_(std::move(theme)), unit_(log_) {
+    unit_.setSetting({0.0F, 1.0F, 14.0F});
+    host_.emplace(unit_, std::move(options));
+  }
+
+  void shoot() {
+    host_->advance(100ms);
+    save(host_->window(), "1-audition");
+    unit_.statistics = hotMix();
+    host_->advance(200ms);
+    click("auditionController.showDetailsButton");
+    save(host_->window(), "2-details");
+    auto& tabs = host_->outlet<QTabWidget>("view.tabView");
+    tabs.setCurrentIndex(1);
+    save(host_->window(), "3-test");
+    click("listeningTestController.learnModeButton");
+    click("listeningTestController.aIsSourceButton");
+    host_->advance(100ms);
+    save(host_->window(), "4-learning");
+    click("listeningTestController.endTestButton");
+    save(host_->outlet("listeningTestController.resultsSheet"), "5-results");
+    static_cast<QAbstractButton&>(host_->named("resultsOKButton")).click();
+    click("view.settingsButton");
+    save(host_->outlet("keyController.keySettingsSheet"), "6-keys");
+    click("keyController.doneButton");
+    auto& menu = host_->outlet<QComboBox>("view.encoderPopup");
+    emit menu.activated(menu.count() - 1);
+    save(host_->outlet("settingsController.settingsSheet"), "7-custom");
+    unit_.hostSetsSetting({0.0F, 2.0F, 96.0F});
+    host_->advance(100ms);
+    save(host_->outlet("settingsController.settingsSheet"), "8-quality");
+    click("settingsController.OKButton");
+    host_->advance(100ms);
+    click("listeningTestController.aIsSourceButton");
+    host_->advance(100ms);
+    tabs.setCurrentIndex(0);
+    QApplication::processEvents();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->inherits("QMessageBox")) {
+        save(*window, "9-alert");
+      }
+    }
+  }
+
+ private:
+  void click(const char* outlet) { host_->outlet<QAbstractButton>(outlet).click(); }
+
+  void save(QWidget& widget, const std::string& name) const {
+    QApplication::processEvents();
+    const std::string file = (folder_ / (theme_ + "-" + name + ".png")).string();
+    if (!widget.grab().save(QString::fromStdString(file))) {
+      std::fprintf(stderr, "cannot write %s\n", file.c_str());
+    }
+  }
+
+  std::filesystem::path folder_;
+  std::string theme_;
+  fakes::CallLog log_;
+  fakes::FakeConverter unit_;
+  std::optional<qt_test::Host> host_;
+};
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  if (count < 2) {
+    std::fprintf(stderr, "usage: screenshots FOLDER [LANGUAGE] [--long]\n");
+    return 2;
+  }
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  const QApplication application(count, arguments);
+  const std::filesystem::path folder = arguments[1];
+  std::filesystem::create_directories(folder);
+  const qt_test::ResourceFolder resources;
+  qt_test::HostOptions options;
+  options.resources = resources.path();
+  for (int index = 2; index < count; ++index) {
+    if (std::string(arguments[index]) == "--long") {
+      resources.lengthenTexts();
+    } else {
+      options.language = options.locale = arguments[index];
+    }
+  }
+  for (const std::string theme : {"light", "dark"}) {
+    theme == "light" ? qt_test::setLightPalette() : qt_test::setDarkPalette();
+    Album(folder, options, theme).shoot();
+  }
+  return 0;
+}
