@@ -7,6 +7,7 @@ namespace fakes {
 FakeNativeView::FakeNativeView(CallLog& log, FakeToolkit& toolkit) : log_(log), toolkit_(toolkit) {}
 
 FakeNativeView::~FakeNativeView() {
+  observer_ = {};
   objects_.reset();
   toolkit_.sheets.cancelAll();
 }
@@ -52,8 +53,9 @@ void FakeNativeView::setFrameSizeObserver(std::function<void(ui::Size)> observer
 
 void FakeNativeView::applyFrameSize(ui::Size size) {
   log_.add("native.applyFrameSize ", size.width, " x ", size.height);
+  const bool changed = size != size_;
   size_ = size;
-  if (observer_) {
+  if (changed && observer_) {
     observer_(size);
   }
 }
