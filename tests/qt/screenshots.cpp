@@ -4,13 +4,16 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QPainter>
 #include <QPixmap>
 #include <QTabWidget>
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "contract/ConverterInterface.h"
 #include "qt/Host.h"
@@ -26,6 +29,12 @@ velk::PeakStatistics hotMix() {
   statistics[velk::kPeakStatsSlot_EncodedLeft] = {0.9F, 1.2F, 31, 57};
   statistics[velk::kPeakStatsSlot_EncodedRight] = {0.7F, 1.1F, 18, 44};
   return statistics;
+}
+
+void saveTo(const std::filesystem::path& file, const QPixmap& picture) {
+  if (!picture.save(QString::fromStdString(file.string()))) {
+    std::fprintf(stderr, "cannot write %s\n", file.c_str());
+  }
 }
 
 class Album {
@@ -75,15 +84,15 @@ class Album {
     }
   }
 
+  const std::vector<QPixmap>& pictures() const { return pictures_; }
+
  private:
   void click(const char* outlet) { host_->outlet<QAbstractButton>(outlet).click(); }
 
-  void save(QWidget& widget, const std::string& name) const {
+  void save(QWidget& widget, const std::string& name) {
     QApplication::processEvents();
-    const std::string file = (folder_ / (theme_ + "-" + name + ".png")).string();
-    if (!widget.grab().save(QString::fromStdString(file))) {
-      std::fprintf(stderr, "cannot write %s\n", file.c_str());
-    }
+    pictures_.push_back(widget.grab());
+    saveTo(folder_ / (theme_ + "-" + name + ".png"), pictures_.back());
   }
 
   std::filesystem::path folder_;
@@ -91,7 +100,41 @@ class Album {
   fakes::CallLog log_;
   fakes::FakeConverter unit_;
   std::optional<qt_test::Host> host_;
+  std::vector<QPixmap> pictures_;
 };
+
+/// All pictures on one page, a column for each theme.
+QPixmap overview(const std::vector<std::vector<QPixmap>>& columns) {
+  constexpr int kGap = 16;
+  int width = kGap;
+  int height = 0;
+  for (const auto& column : columns) {
+    int columnWidth = 0;
+    int columnHeight = kGap;
+    for (const QPixmap& picture : column) {
+      columnWidth = std::max(columnWidth, picture.width());
+      columnHeight += picture.height() + kGap;
+    }
+    width += columnWidth + kGap;
+    height = std::max(height, columnHeight);
+  }
+  QPixmap page(width, height);
+  page.fill(QColor(0x8B8F97));
+  QPainter painter(&page);
+  int x = kGap;
+  for (const auto& column : columns) {
+    int y = kGap;
+    int columnWidth = 0;
+    for (QPixmap picture : column) {
+      picture.setDevicePixelRatio(1.0);
+      painter.drawPixmap(x, y, picture);
+      y += picture.height() + kGap;
+      columnWidth = std::max(columnWidth, picture.width());
+    }
+    x += columnWidth + kGap;
+  }
+  return page;
+}
 
 }  // namespace
 
@@ -116,9 +159,13 @@ int main(int count, char** arguments) {
       options.language = options.locale = arguments[index];
     }
   }
+  std::vector<std::vector<QPixmap>> columns;
   for (const std::string theme : {"light", "dark"}) {
     theme == "light" ? qt_test::setLightPalette() : qt_test::setDarkPalette();
-    Album(folder, options, theme).shoot();
+    Album album(folder, options, theme);
+    album.shoot();
+    columns.push_back(album.pictures());
   }
+  saveTo(folder / "overview.png", overview(columns));
   return 0;
 }

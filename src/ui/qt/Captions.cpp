@@ -11,6 +11,9 @@ namespace ui::qt {
 
 namespace {
 
+/// An accessible name may be put together from several captions.
+const QString kPartSeparator = QStringLiteral(", ");
+
 class Translator {
  public:
   explicit Translator(const Bundle& bundle) : bundle_(bundle) {}
@@ -31,8 +34,7 @@ class Translator {
     }
     widget.setWindowTitle(translated(widget.windowTitle()));
     widget.setToolTip(translated(widget.toolTip()));
-    widget.setAccessibleName(translated(widget.accessibleName()));
-    widget.setAccessibleDescription(translated(widget.accessibleDescription()));
+    widget.setAccessibleName(translatedParts(widget.accessibleName()));
   }
 
  private:
@@ -40,6 +42,14 @@ class Translator {
     return caption.isEmpty() ? caption
                              : QString::fromStdString(
                                    bundle_.localizedString(caption.toStdString(), kStringsTable));
+  }
+
+  QString translatedParts(const QString& name) const {
+    QStringList parts = name.split(kPartSeparator, Qt::SkipEmptyParts);
+    for (QString& part : parts) {
+      part = translated(part);
+    }
+    return parts.join(kPartSeparator);
   }
 
   const Bundle& bundle_;

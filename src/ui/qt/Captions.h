@@ -12,7 +12,8 @@ namespace ui::qt {
 inline constexpr const char* kStringsTable = "AUDravoAACStrings";
 
 /// Looks every caption up in the bundle's strings table that the widget and those within it show or
-/// have read out: texts, titles, tabs, menu items, tool tips, accessible names and descriptions.
+/// have read out: texts, titles, tabs, menu items, tool tips, and accessible names part by part, as
+/// commas separate them.
 void translateCaptions(QWidget& widget, const Bundle& bundle);
 
 }  // namespace ui::qt

@@ -12,6 +12,7 @@
 #include "ui/qt/CaptionClicks.h"
 #include "ui/qt/FrameOrigin.h"
 #include "ui/qt/Lamp.h"
+#include "ui/qt/PushButton.h"
 #include "ui/qt/SheetDialog.h"
 #include "ui/qt/SkinStyle.h"
 #include "ui/qt/TextStyle.h"
@@ -33,6 +34,8 @@ class WidgetFactory final : public QUiLoader {
       widget = new SheetDialog(parent);
     } else if (className == QLatin1String("Lamp")) {
       widget = new Lamp(parent);
+    } else if (className == QLatin1String("QPushButton")) {
+      widget = new PushButton(parent);
     } else {
       widget = QUiLoader::createWidget(className, parent, name);
       if (widget == nullptr && unknownClass_.empty()) {
@@ -109,6 +112,7 @@ void makeSeparators(QComboBox& box) {
 void dress(QtView& view, QSize drawnSize) {
   auto style = std::make_unique<SkinStyle>();
   view.setFont(viewFont());
+  view.setStyle(style.get());
   for (QWidget* widget : view.findChildren<QWidget*>()) {
     widget->setStyle(style.get());
     if (auto* label = qobject_cast<QLabel*>(widget)) {

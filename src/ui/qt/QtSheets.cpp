@@ -57,7 +57,6 @@ void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
   delete alert_;
   alert_ = new QMessageBox(&view_);
   alert_->setWindowModality(Qt::WindowModal);
-  alert_->setIcon(QMessageBox::Question);
   alert_->setTextFormat(Qt::PlainText);
   alert_->setWindowTitle(QString::fromStdString(texts.title));
   alert_->setText(QString::fromStdString(texts.message));
@@ -67,6 +66,10 @@ void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
                                              QMessageBox::DestructiveRole);
   alert_->setDefaultButton(normal);
   alert_->setEscapeButton(normal);
+  alert_->setFont(view_.font());
+  for (QWidget* part : alert_->findChildren<QWidget*>()) {
+    part->setStyle(view_.style());
+  }
   QObject::connect(
       alert_, &QMessageBox::finished,
       [this, box = alert_.data(), alternate, didEnd = std::move(didEnd)] {

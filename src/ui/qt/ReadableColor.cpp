@@ -25,7 +25,7 @@ QColor withLightness(const QColor& color, double lightness) {
 }  // namespace
 
 double contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+  const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
   return (light + 0.05) / (dark + 0.05);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLayout>
+#include <QPushButton>
 #include <QVariant>
 
 namespace ui::qt {
@@ -22,6 +23,11 @@ void SheetDialog::begin() {
   const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wanted.width())
                                                    : wanted.height();
   setFixedSize(wanted.width(), height);
+  for (QPushButton* button : findChildren<QPushButton*>()) {
+    if (button->isDefault()) {
+      button->setFocus();
+    }
+  }
   show();
   raise();
   activateWindow();

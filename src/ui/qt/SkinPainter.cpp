@@ -199,7 +199,9 @@ void drawSlider(QPainter& painter, const QStyleOptionSlider& option, const QRect
   knob.moveCenter(QPointF(QRectF(handle).center().x(), middle));
   QPainterPath path;
   path.addEllipse(knob);
-  drawBody(painter, path, fillColor(colors, option, false), mixed(colors.window, colors.text, 0.4));
+  const QColor fill =
+      isDark(colors.window) ? mixed(colors.window, colors.text, 0.8) : colors.controlFill;
+  drawBody(painter, path, fill, mixed(colors.window, colors.text, 0.4));
   if (showsFocus(option)) {
     drawFocusRing(painter, knob.toRect().adjusted(-1, -1, 1, 1), option.palette);
   }
@@ -228,8 +230,7 @@ void drawCheckMark(QPainter& painter, const QStyleOption& option) {
 void drawKeyCap(QPainter& painter, const QStyleOption& option) {
   const Smooth smooth(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
-  drawBody(painter,
-           outline(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), ButtonLook::Plain),
+  drawBody(painter, outline(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), ButtonLook::Plain),
            colors.controlFill, colors.controlBorder);
 }
 

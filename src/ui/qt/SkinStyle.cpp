@@ -19,6 +19,7 @@ constexpr int kSegmentPadding = 20;
 constexpr int kSegmentWidth = 84;
 constexpr int kRoundButton = 24;
 constexpr int kTriangleButton = 20;
+constexpr int kCheckBoxHeight = 22;
 constexpr int kTabHeight = 32;
 constexpr int kComboPadding = 10;
 constexpr int kComboArrow = 26;
@@ -152,6 +153,12 @@ QSize SkinStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
       case ButtonLook::Plain:
         return {text + 2 * kButtonPadding, kControlHeight};
     }
+  }
+  if (const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+      type == CT_CheckBox && box != nullptr) {
+    const int mark = pixelMetric(PM_IndicatorWidth, option, widget) +
+                     pixelMetric(PM_CheckBoxLabelSpacing, option, widget);
+    return {mark + option->fontMetrics.horizontalAdvance(box->text) + 1, kCheckBoxHeight};
   }
   if (type == CT_ComboBox) {
     return {size.width() + kComboPadding + kComboArrow, kControlHeight};
