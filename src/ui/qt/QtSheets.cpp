@@ -24,7 +24,11 @@ QtSheets::QtSheets(QWidget& view, std::function<void()> didLeave)
     : view_(view), didLeave_(std::move(didLeave)) {}
 
 QtSheets::~QtSheets() {
-  for (const auto& [sheet, didEnd] : begun_) {
+  cancelAll();
+}
+
+void QtSheets::cancelAll() {
+  for (const auto& [sheet, didEnd] : std::exchange(begun_, {})) {
     dialogOf(*sheet).hide();
   }
   delete alert_;

@@ -19,8 +19,9 @@ class QtSheets final : public Sheets {
  public:
   /// `didLeave` is called whenever a sheet has been ordered out or an alert was answered.
   QtSheets(QWidget& view, std::function<void()> didLeave);
-  /// Takes away what is open; no end function is called.
   ~QtSheets() override;
+  /// Takes away what is open; no end function is called.
+  void cancelAll();
 
   void beginSheet(Sheet& sheet, View& control, std::function<void(int code)> didEnd) override;
   void endSheet(Sheet& sheet, int code) override;

@@ -147,6 +147,7 @@ void QtView::parentChanged() {
     windowMayHaveChanged();
   } else {
     window_ = nullptr;
+    services_->sheets().cancelAll();
   }
 }
 

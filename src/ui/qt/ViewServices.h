@@ -19,6 +19,7 @@ class ViewServices {
   ViewServices(const Environment& environment, QWidget& view, std::function<void()> didLeaveSheet);
 
   Toolkit& toolkit() { return toolkit_; }
+  QtSheets& sheets() { return sheets_; }
 
  private:
   Bundle bundle_;

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+class QWidget;
+
+namespace qt_test {
+
+/// Sends the press and release of the key at that position, as an X11 keyboard of the US layout
+/// would, to the widget.
+void pressKeyAt(std::uint16_t positionCode, QWidget& widget);
+
+}  // namespace qt_test
