@@ -16,7 +16,7 @@ AudioUnitParameter target(const AudioUnitEvent& event) {
   return {property.mAudioUnit, property.mPropertyID, property.mScope, property.mElement};
 }
 
-/// Same event of the same address; whether it is the same unit is for the serial number to say.
+// Which unit the events are about is for the serial number to say, not for its address.
 bool isSameEvent(const AudioUnitEvent& a, const AudioUnitEvent& b) {
   const AudioUnitParameter first = target(a);
   const AudioUnitParameter second = target(b);
@@ -31,22 +31,6 @@ bool isNamedSender(const Registration& registration, const Change& change) {
 
 }  // namespace
 
-/// Registrations that end during a pump stay in place until its end, because the pump refers to
-/// them.
-class Dispatcher::Pumping {
- public:
-  explicit Pumping(Dispatcher& dispatcher) : dispatcher_(dispatcher) { ++dispatcher_.pumpDepth_; }
-  Pumping(const Pumping&) = delete;
-  Pumping& operator=(const Pumping&) = delete;
-  ~Pumping() {
-    --dispatcher_.pumpDepth_;
-    dispatcher_.removeEndedRegistrations();
-  }
-
- private:
-  Dispatcher& dispatcher_;
-};
-
 Dispatcher::Dispatcher() : mailbox_(Mailbox::acquire()) {}
 
 Dispatcher::~Dispatcher() {
@@ -60,12 +44,11 @@ void Dispatcher::addListener(EventListener& listener) {
 }
 
 void Dispatcher::removeListener(EventListener& listener) {
-  for (const auto& registration : registrations_) {
-    if (registration->listener == &listener) registration->listener = nullptr;
-  }
   std::erase(listeners_, &listener);
   if (listeners_.empty()) mailbox_.close();
-  removeEndedRegistrations();
+  std::erase_if(outbox_,
+                [&](const Delivery& each) { return each.registration->listener == &listener; });
+  std::erase_if(registrations_, [&](const auto& each) { return each->listener == &listener; });
 }
 
 void Dispatcher::addRegistration(EventListener& listener, void* object,
@@ -82,7 +65,6 @@ void Dispatcher::addRegistration(EventListener& listener, void* object,
 }
 
 std::optional<Dispatcher::TimePoint> Dispatcher::pump(TimePoint now) {
-  const Pumping pumping(*this);
   wakeUp().acknowledge();
   try {
     collect(now);
@@ -96,6 +78,8 @@ std::optional<Dispatcher::TimePoint> Dispatcher::pump(TimePoint now) {
     wakeUp().request();
     throw;
   }
+  // Nothing refers to a registration now that the outbox is empty.
+  std::erase_if(registrations_, [](const auto& each) { return each->isEnded(); });
   return nextDue(now);
 }
 
@@ -110,7 +94,7 @@ void Dispatcher::collect(TimePoint now) {
 
   for (const auto& registration : registrations_) {
     if (registration->valueState != Registration::ValueState::Waiting) continue;
-    if (registration->isEnded() || registration->valueDue().value_or(now) > now) continue;
+    if (registration->valueDue().value_or(now) > now) continue;
     registration->valueState = Registration::ValueState::Due;
     batch.push_back({registration.get(), registration->valueTicket, 0});
   }
@@ -186,7 +170,7 @@ void Dispatcher::deliver(const Delivery& delivery, TimePoint now) {
     time = registration.valueHostTime;
     value = registration.value;
   }
-  // The callback may dispose of the listener: nothing of it is used afterwards.
+  // The callback may dispose of the listener: neither it nor the registration is used afterwards.
   const EventListener listener = *registration.listener;
   const AudioUnitEvent event = registration.event;
   listener.proc(listener.userData, registration.object, &event, time, value);
@@ -196,19 +180,11 @@ std::optional<Dispatcher::TimePoint> Dispatcher::nextDue(TimePoint now) const {
   if (mailbox_.hasChange()) return now;
   std::optional<TimePoint> next;
   for (const auto& registration : registrations_) {
-    if (registration->valueState == Registration::ValueState::Quiet || registration->isEnded()) {
-      continue;
-    }
+    if (registration->valueState == Registration::ValueState::Quiet) continue;
     const TimePoint due = registration->valueDue().value_or(now);
     if (!next || due < *next) next = due;
   }
   return next;
-}
-
-void Dispatcher::removeEndedRegistrations() {
-  if (pumpDepth_ > 0) return;
-  std::erase_if(outbox_, [](const Delivery& delivery) { return delivery.registration->isEnded(); });
-  std::erase_if(registrations_, [](const auto& registration) { return registration->isEnded(); });
 }
 
 }  // namespace audio_unit

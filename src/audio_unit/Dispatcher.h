@@ -40,14 +40,12 @@ class Dispatcher {
     /// Of a gesture or property event; a value's is with the registration.
     UInt64 hostTime;
   };
-  class Pumping;
 
   void collect(TimePoint now);
   void receive(const ChangeQueue::Entry& entry, std::vector<Delivery>& batch);
   void announceEverything(TimePoint now, UInt64 end, std::vector<Delivery>& batch);
   static void deliver(const Delivery& delivery, TimePoint now);
   std::optional<TimePoint> nextDue(TimePoint now) const;
-  void removeEndedRegistrations();
 
   Mailbox& mailbox_;
   std::vector<EventListener*> listeners_;
@@ -56,7 +54,6 @@ class Dispatcher {
   UInt64 registrationCount_ = 0;
   /// Due and in order. Kept here, so that a pump inside a callback goes on where the outer one is.
   std::deque<Delivery> outbox_;
-  int pumpDepth_ = 0;
 };
 
 }  // namespace audio_unit

@@ -14,7 +14,6 @@ namespace audio_unit {
 struct Registration {
   enum class ValueState { Quiet, Waiting, Due };
 
-  /// Null once the listener was disposed of.
   EventListener* listener;
   void* object;
   AudioUnitEvent event;
@@ -30,7 +29,8 @@ struct Registration {
   UInt64 valueTicket = 0;
   std::optional<RunLoop::TimePoint> lastCallback{};
 
-  bool isEnded() const { return !listener || !unit->isAlive.load(std::memory_order_acquire); }
+  /// Whether the unit is gone.
+  bool isEnded() const { return !unit->isAlive.load(std::memory_order_acquire); }
   bool isForValues() const { return event.mEventType == kAudioUnitEvent_ParameterValueChange; }
   /// When a waiting value may be delivered; nothing stands for at once.
   std::optional<RunLoop::TimePoint> valueDue() const {

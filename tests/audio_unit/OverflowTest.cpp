@@ -118,6 +118,16 @@ TEST_F(Overflow, DoesNotReadFromAUnitThatEnded) {
   EXPECT_THAT(journal, IsEmpty());
 }
 
+TEST_F(Overflow, DoesNotConcernListenersThatCameWhenAllFormerOnesHadGone) {
+  listener.listenTo(propertyOf(&unit, 1));
+  flood();
+  listener.dispose();
+  TestListener next(loop, journal);
+  next.listenTo(propertyOf(&unit, 1));
+  EXPECT_EQ(pumpAt(0), std::nullopt);
+  EXPECT_THAT(journal, IsEmpty());
+}
+
 TEST_F(Overflow, WakesTheLoopOnce) {
   int wakeUps = 0;
   loop.setWakeUp([&] { ++wakeUps; });
