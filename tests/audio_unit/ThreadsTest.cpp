@@ -216,6 +216,24 @@ TEST_F(Threads, MayChangeTheHookWhileOthersWake) {
   EXPECT_GE(wakeUps, 100);
 }
 
+TEST_F(Threads, HaveLeftTheHookWhenItsRemovalReturns) {
+  TestListener listener(loop, journal);
+  listener.listenTo(propertyOf(&unit, 1));
+  std::latch hasEntered(1);
+  std::atomic<bool> hasLeft{false};
+  loop.setWakeUp([&] {
+    hasEntered.count_down();
+    for (int i = 0; i < 10000; ++i) std::this_thread::yield();
+    hasLeft = true;
+  });
+
+  std::thread announcing([&] { unit.announceProperty(1); });
+  hasEntered.wait();
+  loop.setWakeUp(nullptr);
+  EXPECT_TRUE(hasLeft);
+  announcing.join();
+}
+
 TEST_F(Threads, NeverLeaveALoopAsleepThatHasWork) {
   TestListener listener(loop, journal);
   listener.listenTo(propertyOf(&unit, 1));
