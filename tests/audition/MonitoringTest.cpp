@@ -7,7 +7,6 @@ namespace audition_test {
 namespace {
 
 using fakes::BoundView;
-using fakes::FakeButton;
 using fakes::FakeConverter;
 using fakes::FakeSegmentedControl;
 using fakes::UnitCall;

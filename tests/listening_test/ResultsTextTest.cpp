@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstdint>
 #include <filesystem>
@@ -30,14 +31,17 @@ class Language {
 
   /// The bytes of a file with the results, empty when it could not be written.
   std::string file(const TestResults& testResults) const {
-    const std::filesystem::path path =
-        std::filesystem::path(testing::TempDir()) / "ResultsTextTest.txt";
+    // Tests of this program may run side by side.
+    const std::filesystem::path path = std::filesystem::path(testing::TempDir()) /
+                                       ("results-text-" + std::to_string(::getpid()) + ".txt");
     std::filesystem::remove(path);
     if (!ui::writeMacRoman(path, results(testResults))) {
       return {};
     }
     std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    std::filesystem::remove(path);
+    return bytes;
   }
 
  private:
