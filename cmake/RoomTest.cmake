@@ -9,5 +9,13 @@ function(velk_test name)
   gtest_discover_tests(${name}
     TEST_PREFIX "${name}: "
     DISCOVERY_TIMEOUT 60
-    PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT 120 ${TEST_PROPERTIES})
+    PROPERTIES TIMEOUT 120 ${TEST_PROPERTIES})
+  # The discovery would take a list apart, so the labels are set when ctest reads the tests.
+  set(labels ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
+  file(CONFIGURE OUTPUT ${labels} @ONLY CONTENT
+    "foreach(test IN LISTS @name@_TESTS)
+  set_tests_properties(\"\${test}\" PROPERTIES LABELS \"@TEST_LABELS@\")
+endforeach()
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${labels})
 endfunction()
