@@ -32,7 +32,7 @@ bool Velk_AUAACConverterCustomView::isEncoderHighQuality() const {
 
 void Velk_AUAACConverterCustomView::setPreset(UInt32 index) {
   CFArrayRef list = nullptr;
-  UInt32 size = sizeof(list);
+  UInt32 size = sizeof(CFArrayRef);
   const OSStatus read = AudioUnitGetProperty(mAU, kAudioUnitProperty_FactoryPresets,
                                              kAudioUnitScope_Global, 0, &list, &size);
   if (read != noErr || list == nullptr) {
