@@ -12,6 +12,7 @@
 #include "ui/qt/CaptionClicks.h"
 #include "ui/qt/FrameOrigin.h"
 #include "ui/qt/Lamp.h"
+#include "ui/qt/PopUpBox.h"
 #include "ui/qt/PushButton.h"
 #include "ui/qt/SheetDialog.h"
 #include "ui/qt/SkinStyle.h"
@@ -36,6 +37,8 @@ class WidgetFactory final : public QUiLoader {
       widget = new Lamp(parent);
     } else if (className == QLatin1String("QPushButton")) {
       widget = new PushButton(parent);
+    } else if (className == QLatin1String("QComboBox")) {
+      widget = new PopUpBox(parent);
     } else {
       widget = QUiLoader::createWidget(className, parent, name);
       if (widget == nullptr && unknownClass_.empty()) {

@@ -1,7 +1,5 @@
 #include "ui/qt/PopUpButtonAdapter.h"
 
-#include <QEvent>
-#include <QKeyEvent>
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -42,7 +40,6 @@ PopUpButtonAdapter::PopUpButtonAdapter(QComboBox& box) : Adapter(box) {
   }
   QObject::connect(&box, &QComboBox::activated, receiver(),
                    [this](int index) { userPicked(index); });
-  box.installEventFilter(this);
 }
 
 PopUpButtonAdapter::~PopUpButtonAdapter() = default;
@@ -100,30 +97,6 @@ void PopUpButtonAdapter::setAction(Action action) {
 
 void PopUpButtonAdapter::setTag(int index, int tag) {
   items_.at(static_cast<std::size_t>(index))->setTag(tag);
-}
-
-bool PopUpButtonAdapter::eventFilter(QObject* /*watched*/, QEvent* event) {
-  if (event->type() == QEvent::Wheel) {
-    event->ignore();
-    return true;
-  }
-  if (event->type() != QEvent::KeyPress) {
-    return false;
-  }
-  switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-      widget().showPopup();
-      return true;
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-      return false;
-    default:
-      // Not for this control; it goes on to the widgets around it.
-      event->ignore();
-      return true;
-  }
 }
 
 void PopUpButtonAdapter::userPicked(int index) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QComboBox>
-#include <QObject>
 #include <memory>
 #include <vector>
 
@@ -33,9 +32,6 @@ class PopUpButtonAdapter final : public QObject,
 
   void setAction(Action action) override;
   void setTag(int index, int tag);
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   class Item;

@@ -117,7 +117,7 @@ bool QtView::eventFilter(QObject* watched, QEvent* event) {
     return false;
   }
   const auto* control = static_cast<const QWidget*>(watched);
-  if (event->type() == QEvent::KeyPress && control->hasFocus() &&
+  if (event->type() == QEvent::KeyPress && control == QApplication::focusWidget() &&
       QApplication::activePopupWidget() == nullptr &&
       !control->testAttribute(Qt::WA_InputMethodEnabled)) {
     return !dispatch(static_cast<QKeyEvent&>(*event));
