@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -10,7 +12,8 @@ class Translation : public fakes::ViewTest {
  protected:
   Translation()
       : resources(std::filesystem::path(testing::TempDir()) /
-                  testing::UnitTest::GetInstance()->current_test_info()->name()) {
+                  (testing::UnitTest::GetInstance()->current_test_info()->name() +
+                   std::to_string(::getpid()))) {
     std::filesystem::create_directories(resources / "xx.lproj");
   }
   ~Translation() override {
