@@ -1,0 +1,152 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <thread>
+
+#include "MeterSignals.h"
+#include "converter/SignalMeters.h"
+
+using converter::clearedPeakStatistics;
+using converter::SignalMeters;
+using meter_signals::Samples;
+using velk::PeakStatistics;
+
+namespace {
+
+std::atomic<std::size_t> allocations{0};
+
+bool same(const PeakStatistics& a, const PeakStatistics& b) {
+  return std::memcmp(a.data(), b.data(), sizeof a) == 0;
+}
+
+/// Feeds `frames` frames from `at` of a different signal in every plane.
+struct Feed {
+  std::array<Samples, 4> planes{
+      meter_signals::hotMix(20000, 2.0F, 1), meter_signals::mix(20000, 0.2F, 2),
+      meter_signals::clippedMix(20000, 5.0F, 3), meter_signals::whiteNoise(20000, 1.2F, 4)};
+
+  void into(SignalMeters& meters, std::size_t at, std::size_t frames) const {
+    const std::array<const float*, 2> source{planes[0].data() + at, planes[1].data() + at};
+    const std::array<const float*, 2> encoded{planes[2].data() + at, planes[3].data() + at};
+    meters.process(source.data(), encoded.data(), frames);
+  }
+
+  velk::TruePeakStats alone(std::size_t plane, std::size_t from, std::size_t to) const {
+    converter::TruePeakMeter meter;
+    meter.process(planes[plane].data(), from);
+    meter.reset();
+    meter.process(planes[plane].data() + from, to - from);
+    return meter.statistics();
+  }
+};
+
+void expectSame(const velk::TruePeakStats& read, const velk::TruePeakStats& expected) {
+  EXPECT_EQ(std::memcmp(&read, &expected, sizeof read), 0);
+}
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  ++allocations;
+  if (void* const memory = std::malloc(size)) return memory;
+  throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+TEST(SignalMeters, PutEachChannelOfEachSignalIntoItsSlot) {
+  const Feed feed;
+  SignalMeters meters(2);
+  feed.into(meters, 0, 9000);
+  const PeakStatistics read = meters.read();
+  for (std::size_t slot = 0; slot < read.size(); ++slot) {
+    expectSame(read[slot], feed.alone(slot, 0, 9000));
+  }
+}
+
+TEST(SignalMeters, LeaveTheSecondChannelClearedInMono) {
+  const Feed feed;
+  SignalMeters meters(1);
+  feed.into(meters, 0, 5000);
+  const PeakStatistics read = meters.read();
+  expectSame(read[velk::kPeakStatsSlot_SourceLeft], feed.alone(0, 0, 5000));
+  expectSame(read[velk::kPeakStatsSlot_SourceRight], converter::clearedStatistics());
+  expectSame(read[velk::kPeakStatsSlot_EncodedLeft], feed.alone(2, 0, 5000));
+  expectSame(read[velk::kPeakStatsSlot_EncodedRight], converter::clearedStatistics());
+}
+
+TEST(SignalMeters, ReadClearedAfterAResetAlthoughNoBlockFollows) {
+  const Feed feed;
+  SignalMeters meters(2);
+  feed.into(meters, 0, 5000);
+  EXPECT_FALSE(same(meters.read(), clearedPeakStatistics()));
+  meters.requestReset();
+  EXPECT_TRUE(same(meters.read(), clearedPeakStatistics()));
+}
+
+TEST(SignalMeters, CutBothSignalsAtTheSameSample) {
+  const Feed feed;
+  SignalMeters meters(2);
+  feed.into(meters, 0, 5000);
+  meters.requestReset();
+  feed.into(meters, 5000, 4000);
+  const PeakStatistics read = meters.read();
+  for (std::size_t slot = 0; slot < read.size(); ++slot) {
+    expectSame(read[slot], feed.alone(slot, 5000, 9000));
+  }
+}
+
+TEST(SignalMeters, KeepTheReadingsWhenTheSignalEnds) {
+  const Feed feed;
+  SignalMeters meters(2);
+  feed.into(meters, 0, 5000);
+  const PeakStatistics before = meters.read();
+  meters.finish();
+  const PeakStatistics after = meters.read();
+  for (std::size_t slot = 0; slot < before.size(); ++slot) {
+    EXPECT_EQ(after[slot].mSamplePeak, before[slot].mSamplePeak);
+    EXPECT_GE(after[slot].mInterSampleClipCount, before[slot].mInterSampleClipCount);
+  }
+}
+
+TEST(SignalMeters, NeverAllocate) {
+  const Feed feed;
+  SignalMeters meters(2);
+  const std::size_t before = allocations;
+  for (std::size_t at = 0; at + 512 <= 20000; at += 512) {
+    feed.into(meters, at, 512);
+    meters.requestReset();
+    static_cast<void>(meters.read());
+  }
+  meters.finish();
+  EXPECT_EQ(allocations, before);
+}
+
+TEST(SignalMeters, AreReadAndResetWhileTheyRun) {
+  const Feed feed;
+  SignalMeters meters(2);
+  std::atomic<bool> done{false};
+  std::thread audio([&] {
+    for (int round = 0; round < 5; ++round) {
+      for (std::size_t at = 0; at + 64 <= 20000; at += 64) feed.into(meters, at, 64);
+    }
+    done = true;
+  });
+  bool ordered = true;
+  while (!done) {
+    for (const velk::TruePeakStats& stats : meters.read()) {
+      ordered = ordered && stats.mInterSamplePeak >= stats.mSamplePeak;
+    }
+    meters.requestReset();
+  }
+  audio.join();
+  EXPECT_TRUE(ordered);
+}
