@@ -1,0 +1,124 @@
+#include "host/CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cmath>
+
+#include "host/Failure.h"
+
+namespace host {
+namespace {
+
+constexpr const char* description =
+    R"(Plays a mix through an AAC encoder and decoder and shows what they do to it.
+
+aac-audition opens a window with the converter's view: the encoder's setting, the
+monitored signal, peaks and overs of the source and of the encoded signal, and the
+blind listening test. Without FILE it waits for one to be opened or dropped.
+WAV, AIFF, FLAC, Ogg and MP3 files with one or two channels are played; sample
+rates other than 32, 44.1, 48, 88.2 and 96 kHz are converted.)";
+
+constexpr const char* footer = R"(
+With --headless the same window is made off screen and FILE is run through the
+converter as fast as it goes. After the last sample has left the converter the
+screenshot is written and the readings are printed: as text, or with --json as one
+JSON object with the keys file, seconds, sample_rate_hz, channels, setting,
+bit_rate_kbps, latency_samples, monitor, source and encoded. source and encoded have
+one record per channel: sample_peak_dbfs, inter_sample_peak_dbtp, sample_clips and
+inter_sample_overs.
+
+Without --headless FILE is played at once; --seconds then closes the window after
+that time, --screenshot is written and --json printed when the window closes.
+
+Keys in the window: Ctrl+O opens a file, Ctrl+P or a keyboard's play key plays and
+pauses, Ctrl+Left and Ctrl+Right move by five seconds, Ctrl+Home goes back to the
+beginning, Ctrl+Q quits. All other keys are the view's.
+
+Exit status: 0 success, 1 something went wrong, 2 the command line makes no sense.
+Every error is one line on standard error; no file is left half-written.
+
+Examples:
+  aac-audition mix.wav
+  aac-audition mix.wav --headless --preset 128k --json
+  aac-audition mix.flac --headless --set he,abr,64 --record decoded.wav)";
+
+/// The command line parser's messages may have several lines.
+std::string firstLine(const std::string& text) {
+  return text.substr(0, text.find('\n'));
+}
+
+bool monitorsSource(const std::string& word) {
+  if (word == "source") return true;
+  if (word == "encoded") return false;
+  throw UsageError("bad --monitor '" + word + "': give source or encoded");
+}
+
+void check(const AuditionOptions& options) {
+  if (options.headless && !options.file) {
+    throw UsageError("--headless plays a file: give FILE");
+  }
+  if (options.seconds && !(*options.seconds > 0 && std::isfinite(*options.seconds))) {
+    throw UsageError("bad --seconds: give a number above 0");
+  }
+  if (options.preset && options.setting) {
+    throw UsageError("--preset and --set contradict each other: give one of them");
+  }
+  if (options.record && options.screenshot && *options.record == *options.screenshot) {
+    throw UsageError("--record and --screenshot name the same file: give two");
+  }
+  std::error_code error;
+  if (options.file && options.record &&
+      std::filesystem::equivalent(*options.file, *options.record, error)) {
+    throw UsageError("--record would overwrite FILE: give another name");
+  }
+  if (options.file && options.screenshot &&
+      std::filesystem::equivalent(*options.file, *options.screenshot, error)) {
+    throw UsageError("--screenshot would overwrite FILE: give another name");
+  }
+}
+
+}  // namespace
+
+std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const char* const* argv) {
+  CLI::App app(description, "aac-audition");
+  app.footer(footer);
+  app.set_version_flag("--version", "aac-audition 0.1.0", "Print the version and exit");
+  AuditionOptions options;
+  std::string monitor;
+  std::string preset;
+  std::string setting;
+  app.add_option("FILE", options.file, "The sound file to play");
+  app.add_flag("--headless", options.headless, "Run off screen, as fast as it goes, and end");
+  app.add_option("--seconds", options.seconds, "End after this much of the file")->type_name("N");
+  app.add_option("--screenshot", options.screenshot, "Write a picture of the window at the end")
+      ->type_name("PNG");
+  app.add_flag("--json", options.json, "Print the readings as JSON at the end");
+  app.add_option("--device", options.device,
+                 "Play to this device (part of its name will do), or to none")
+      ->type_name("NAME|none");
+  app.add_option("--record", options.record,
+                 "Write what the device plays, or would play, as 32-bit float")
+      ->type_name("WAV");
+  app.add_option("--monitor", monitor, "The signal that is heard")->type_name("source|encoded");
+  app.add_option("--preset", preset, "The encoder preset")->type_name("plus|128k|streaming|high");
+  app.add_option("--set", setting,
+                 "The encoder setting: aac, he or hev2; abr, vbrc or vbr; kbit/s of the list, or "
+                 "for vbr a quality from 0 to 127")
+      ->type_name("FORMAT,STRATEGY,RATE");
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::CallForHelp&) {
+    return HelpText{app.help()};
+  } catch (const CLI::CallForVersion& version) {
+    return HelpText{std::string(version.what()) + "\n"};
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(firstLine(error.what()));
+  }
+  if (!monitor.empty()) options.monitorsSource = monitorsSource(monitor);
+  if (!preset.empty()) options.preset = presetIndex(preset);
+  if (!setting.empty()) options.setting = parsedEncoderSetting(setting);
+  check(options);
+  return options;
+}
+
+}  // namespace host

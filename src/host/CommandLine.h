@@ -1,0 +1,34 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "host/EncoderSetting.h"
+
+namespace host {
+
+/// What `aac-audition` is asked to do.
+struct AuditionOptions {
+  std::optional<std::filesystem::path> file;
+  bool headless = false;
+  std::optional<double> seconds;
+  std::optional<std::filesystem::path> screenshot;
+  bool json = false;
+  std::optional<std::string> device;
+  std::optional<std::filesystem::path> record;
+  std::optional<bool> monitorsSource;
+  std::optional<std::uint32_t> preset;
+  std::optional<EncoderSetting> setting;
+};
+
+/// A text to print before ending with success.
+struct HelpText {
+  std::string text;
+};
+
+/// Reads the arguments, `argv[0]` first. Throws `UsageError`.
+std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const char* const* argv);
+
+}  // namespace host

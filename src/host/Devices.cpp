@@ -1,0 +1,85 @@
+#include "host/Devices.h"
+
+#include <rtaudio/RtAudio.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <utility>
+
+#include "host/Failure.h"
+#include "host/QuietStandardError.h"
+
+namespace host {
+namespace {
+
+constexpr std::array<RtAudio::Api, 3> systems = {RtAudio::UNIX_JACK, RtAudio::LINUX_PULSE,
+                                                 RtAudio::LINUX_ALSA};
+
+std::string lower(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(),
+                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+  return result;
+}
+
+void appendDevices(RtAudio::Api system, std::vector<Device>& devices) {
+  RtAudio audio(system);
+  // A system that this build lacks makes another one step in.
+  if (audio.getCurrentApi() != system) return;
+  audio.showWarnings(false);
+  const auto count = audio.getDeviceCount();
+  for (unsigned index = 0; index < count; ++index) {
+    const auto info = audio.getDeviceInfo(index);
+    if (!info.probed || info.outputChannels == 0) continue;
+    devices.push_back({RtAudio::getApiDisplayName(system) + ": " + info.name,
+                       static_cast<int>(system), index, info.isDefaultOutput, info.sampleRates,
+                       info.outputChannels});
+  }
+}
+
+}  // namespace
+
+std::vector<Device> outputDevices() {
+  const QuietStandardError quiet;
+  std::vector<Device> devices;
+  for (const auto system : systems) {
+    try {
+      appendDevices(system, devices);
+    } catch (const RtAudioError&) {
+      // A system that does not answer has no devices.
+      continue;
+    }
+  }
+  return devices;
+}
+
+std::optional<Device> deviceNamed(const std::vector<Device>& devices, std::string_view name) {
+  const auto wanted = lower(name);
+  const auto find = [&](auto matches) {
+    return std::find_if(devices.begin(), devices.end(),
+                        [&](const Device& device) { return matches(lower(device.name)); });
+  };
+  auto found = find([&](const std::string& each) { return each == wanted; });
+  if (found == devices.end()) {
+    found = find([&](const std::string& each) { return each.find(wanted) != std::string::npos; });
+  }
+  if (found == devices.end()) return std::nullopt;
+  return *found;
+}
+
+Device requiredDevice(const std::vector<Device>& devices, std::string_view name) {
+  auto device = deviceNamed(devices, name);
+  if (device) return *std::move(device);
+  std::string names = "none";
+  for (const auto& each : devices) names += ", '" + each.name + "'";
+  throw Failure("there is no device '" + std::string(name) + "'; give one of: " + names);
+}
+
+std::vector<Device> inOrderOfPreference(std::vector<Device> devices) {
+  std::stable_partition(devices.begin(), devices.end(),
+                        [](const Device& device) { return device.isDefault; });
+  return devices;
+}
+
+}  // namespace host

@@ -1,0 +1,19 @@
+#include "host/OpenedFile.h"
+
+#include <utility>
+
+#include "host/ResampledSource.h"
+#include "host/SampleRates.h"
+#include "host/SoundFile.h"
+
+namespace host {
+
+OpenedFile openedForPlaying(const std::filesystem::path& path) {
+  auto file = std::make_unique<SoundFile>(path);
+  const auto original = file->format();
+  auto truncated = file->truncation();
+  auto source = atSampleRate(std::move(file), unitSampleRateFor(original.sampleRate));
+  return {path, std::move(source), original, std::move(truncated)};
+}
+
+}  // namespace host

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <atomic>
+#include <filesystem>
+#include <memory>
+
+#include "host/AudioSource.h"
+
+namespace host {
+
+/// A sound file made ready for a converter unit.
+struct OpenedFile {
+  std::filesystem::path path;
+  /// At a rate that the unit does.
+  std::unique_ptr<AudioSource> source;
+  /// As it is in the file.
+  AudioFormat original;
+  /// Whether the file proved to hold less than it promises.
+  std::shared_ptr<const std::atomic<bool>> truncated;
+};
+
+/// Throws `Failure` when the file cannot be played.
+OpenedFile openedForPlaying(const std::filesystem::path& path);
+
+}  // namespace host

@@ -1,0 +1,201 @@
+#include "host/Player.h"
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+#include "converter/ConverterUnit.h"
+
+namespace host {
+namespace {
+
+/// 6 ms at 44.1 kHz.
+constexpr std::uint32_t fadeFrames = 256;
+constexpr float fadeStep = 1.0F / static_cast<float>(fadeFrames);
+/// Longer than any device's block; a device that does not call within it is dead.
+constexpr auto fadePatience = std::chrono::milliseconds(250);
+constexpr auto lookAgain = std::chrono::milliseconds(1);
+
+}  // namespace
+
+Player::Player(converter::ConverterUnit& unit, std::uint32_t maximumFrames,
+               std::unique_ptr<AudioSource> source)
+    : unit_(unit),
+      maximumFrames_(maximumFrames),
+      reader_(std::move(source)),
+      end_(reader_.frames()),
+      interleaved_(std::size_t{maximumFrames} * reader_.format().channels),
+      planes_(std::size_t{maximumFrames} * reader_.format().channels) {
+  seek(0);
+}
+
+Player::~Player() = default;
+
+void Player::limitLength(std::int64_t frames) {
+  quiesce();
+  end_ = std::min(end_.load(), std::max<std::int64_t>(frames, 1));
+  wake();
+}
+
+void Player::play() {
+  if (isFinished()) seek(0);
+  wanted_ = Wanted::Sound;
+}
+
+void Player::pause() {
+  wanted_ = Wanted::Silence;
+}
+
+void Player::setOffline(bool offline) {
+  offline_ = offline;
+  setUnitOffline(offline);
+}
+
+void Player::setUnitOffline(bool offline) {
+  const UInt32 value = offline ? 1 : 0;
+  unit_.setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &value,
+                    sizeof value);
+}
+
+void Player::quiesce() {
+  const auto wanted = wanted_.exchange(Wanted::Silence);
+  if (deviceRuns_) {
+    const auto givenUp = std::chrono::steady_clock::now() + fadePatience;
+    while (!silent_ && std::chrono::steady_clock::now() < givenUp) {
+      std::this_thread::sleep_for(lookAgain);
+    }
+  }
+  // Either the audio thread sees this before it starts a block, or we see that it is in one.
+  suspended_ = true;
+  while (rendering_) std::this_thread::yield();
+  wanted_ = wanted;
+}
+
+void Player::wake() {
+  suspended_ = false;
+}
+
+std::int64_t Player::audiblePosition(std::uint32_t deviceLatency) const {
+  return std::max(position() - static_cast<std::int64_t>(deviceLatency), start_);
+}
+
+void Player::seek(std::int64_t frame) {
+  if (isFinished()) wanted_ = Wanted::Silence;
+  quiesce();
+  frame = std::clamp<std::int64_t>(frame, 0, length());
+  reader_.seek(frame);
+  unit_.reset();
+  fed_ = frame;
+  start_ = frame;
+  position_ = frame;
+  finished_ = false;
+  // The very beginning is played as it is; any other place would begin with a click.
+  gain_ = frame == 0 ? 1.0F : 0.0F;
+  runThroughLatency();
+  wake();
+}
+
+void Player::runThroughLatency() {
+  setUnitOffline(true);
+  const auto channels = format().channels;
+  Planes output{};
+  for (std::uint32_t channel = 0; channel < channels; ++channel) {
+    output[channel] = planes_.data() + std::size_t{channel} * maximumFrames_;
+  }
+  for (auto left = unit_.latency(); left > 0;) {
+    const auto frames = std::min<std::uint32_t>(left, maximumFrames_);
+    reader_.waitFor(frames);
+    const auto got = reader_.read(interleaved_.data(), frames);
+    feedUnit(interleaved_.data(), got, output.data(), 0, frames);
+    left -= frames;
+  }
+  setUnitOffline(offline_);
+}
+
+void Player::feedUnit(const float* interleaved, std::size_t got, float* const* output,
+                      std::uint32_t offset, std::uint32_t frames) noexcept {
+  const auto channels = format().channels;
+  Planes planes{};
+  for (std::uint32_t channel = 0; channel < channels; ++channel) {
+    float* const plane = output[channel] + offset;
+    for (std::size_t i = 0; i < got; ++i) plane[i] = interleaved[i * channels + channel];
+    std::fill(plane + got, plane + frames, 0.0F);
+    planes[channel] = plane;
+  }
+  unit_.render(planes.data(), planes.data(), frames);
+  fed_ += static_cast<std::int64_t>(got);
+  // Where the source ended is only known for certain when it was reached.
+  if (got < frames && fed_ < end_.load(std::memory_order_relaxed)) {
+    end_.store(fed_, std::memory_order_relaxed);
+  }
+}
+
+std::uint32_t Player::renderSound(float* const* planes, std::uint32_t offset,
+                                  std::uint32_t frames) noexcept {
+  std::uint32_t done = 0;
+  while (done < frames && !finished_) {
+    const auto position = position_.load(std::memory_order_relaxed);
+    const auto left = std::max<std::int64_t>(length() - position, 0);
+    const auto count = static_cast<std::uint32_t>(
+        std::min<std::int64_t>(std::min(frames - done, maximumFrames_), left));
+    if (count > 0) {
+      if (offline_) reader_.waitFor(count);
+      const bool ended = reader_.hasEnded();
+      if (!ended && reader_.readable() < count) break;
+      const auto got = reader_.read(interleaved_.data(), count);
+      feedUnit(interleaved_.data(), got, planes, offset + done, count);
+    }
+    // A source that ended early has moved the end, perhaps into this block.
+    const auto heard = std::clamp<std::int64_t>(length() - position, 0, count);
+    position_.store(position + heard, std::memory_order_relaxed);
+    done += static_cast<std::uint32_t>(heard);
+    if (position + heard >= length()) finished_.store(true, std::memory_order_release);
+  }
+  return done;
+}
+
+std::uint32_t Player::renderFadeOut(float* const* planes, std::uint32_t frames) noexcept {
+  const auto done = renderSound(planes, 0, std::min(frames, fadeFrames));
+  fade(planes, done, -fadeStep);
+  // A source that stalls in mid-fade is silent as well.
+  if (gain_ <= 0.0F || done == 0) {
+    gain_ = 0.0F;
+    silent_ = true;
+  }
+  return done;
+}
+
+void Player::fade(float* const* planes, std::uint32_t frames, float step) noexcept {
+  const auto begin = gain_;
+  for (std::uint32_t channel = 0; channel < format().channels; ++channel) {
+    gain_ = begin;
+    for (std::uint32_t i = 0; i < frames; ++i) {
+      gain_ = std::clamp(gain_ + step, 0.0F, 1.0F);
+      planes[channel][i] *= gain_;
+    }
+  }
+}
+
+void Player::renderBlock(float* const* planes, std::uint32_t frames) noexcept {
+  rendering_ = true;
+  std::uint32_t done = 0;
+  if (!suspended_ && !finished_) {
+    if (wanted_ == Wanted::Sound) {
+      silent_ = false;
+      done = renderSound(planes, 0, frames);
+      if (gain_ < 1.0F) fade(planes, done, fadeStep);
+      if (done < frames && !finished_) missed_ += frames - done;
+    } else if (!silent_) {
+      done = renderFadeOut(planes, frames);
+    }
+    if (finished_) silent_ = true;
+    if (done > 0 && tap_ != nullptr) tap_->hear(planes, done);
+  }
+  for (std::uint32_t channel = 0; channel < format().channels; ++channel) {
+    std::fill(planes[channel] + done, planes[channel] + frames, 0.0F);
+  }
+  rendering_ = false;
+}
+
+}  // namespace host

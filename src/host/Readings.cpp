@@ -1,0 +1,48 @@
+#include "host/Readings.h"
+
+#include "contract/ConverterInterface.h"
+#include "converter/ConverterUnit.h"
+#include "host/Failure.h"
+
+namespace host {
+namespace {
+
+template <class Data>
+Data property(AudioUnit unit, AudioUnitPropertyID id, const char* what) {
+  Data data{};
+  UInt32 size = sizeof data;
+  const auto status = AudioUnitGetProperty(unit, id, kAudioUnitScope_Global, 0, &data, &size);
+  if (status != noErr) {
+    throw Failure(std::string("the converter does not tell its ") + what + " (status " +
+                  std::to_string(status) + ")");
+  }
+  return data;
+}
+
+ChannelReading reading(const velk::TruePeakStats& stats) {
+  return {stats.mSamplePeak, stats.mInterSamplePeak, stats.mSampleClipCount,
+          stats.mInterSampleClipCount};
+}
+
+}  // namespace
+
+Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format) {
+  Readings readings;
+  readings.format = format;
+  readings.setting = encoderSettingOf(&unit);
+  readings.bitRateKbps = static_cast<double>(
+      property<converter::BitRate>(&unit, converter::kConverterProperty_BitRate, "bit rate")
+          .averageKbps);
+  readings.latencySamples = unit.latency();
+  readings.monitorsSource =
+      property<UInt32>(&unit, velk::kConverterProperty_MonitorSource, "monitored signal") != 0;
+  const auto stats =
+      property<velk::PeakStatistics>(&unit, velk::kConverterProperty_PeakStats, "peak statistics");
+  for (std::size_t channel = 0; channel < format.channels; ++channel) {
+    readings.source.push_back(reading(stats.at(velk::kPeakStatsSlot_SourceLeft + channel)));
+    readings.encoded.push_back(reading(stats.at(velk::kPeakStatsSlot_EncodedLeft + channel)));
+  }
+  return readings;
+}
+
+}  // namespace host

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "audio_unit/Framework.h"
+#include "host/AudioSource.h"
+#include "host/EncoderSetting.h"
+
+namespace converter {
+class ConverterUnit;
+}
+
+namespace host {
+
+/// What the meters of one channel read.
+struct ChannelReading {
+  double samplePeakDbfs = 0;
+  double interSamplePeakDbtp = 0;
+  std::int64_t sampleClips = 0;
+  std::int64_t interSampleOvers = 0;
+};
+
+/// What a run through the converter came to.
+struct Readings {
+  std::string file;
+  double seconds = 0;
+  AudioFormat format;
+  EncoderSetting setting;
+  double bitRateKbps = 0;
+  std::uint32_t latencySamples = 0;
+  bool monitorsSource = false;
+  /// One record per channel.
+  std::vector<ChannelReading> source;
+  std::vector<ChannelReading> encoded;
+};
+
+/// Asks the unit; `file` and `seconds` stay empty. Throws `Failure` when the unit does not tell.
+Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format);
+
+/// One JSON object on one line, without a line end.
+std::string asJson(const Readings& readings);
+/// A small table, for people.
+std::string asText(const Readings& readings);
+
+}  // namespace host

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace host {
+
+/// The sample rates that a converter unit does, Hz.
+inline constexpr std::array<std::uint32_t, 5> unitSampleRates = {32000, 44100, 48000, 88200, 96000};
+
+/// The rate at which audio of `sampleRate` Hz is played through the converter: its own where the
+/// unit does it, else one that loses nothing audible and is in a simple ratio to it if there is
+/// one.
+std::uint32_t unitSampleRateFor(std::uint32_t sampleRate);
+
+}  // namespace host

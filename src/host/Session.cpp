@@ -1,0 +1,113 @@
+#include "host/Session.h"
+
+#include <utility>
+
+#include "contract/ConverterInterface.h"
+#include "converter/ConverterUnit.h"
+#include "host/Failure.h"
+#include "host/SilentClock.h"
+
+namespace host {
+namespace {
+
+std::unique_ptr<converter::ConverterUnit> unitFor(AudioFormat format) {
+  converter::UnitFormat unitFormat;
+  unitFormat.sampleRate = format.sampleRate;
+  unitFormat.channels = format.channels;
+  unitFormat.maximumFrames = Session::maximumFrames;
+  try {
+    return converter::ConverterUnit::make(unitFormat);
+  } catch (const std::exception& error) {
+    throw Failure(std::string("cannot make the converter: ") + error.what());
+  }
+}
+
+}  // namespace
+
+Session::Session(OpenedFile file)
+    : path_(std::move(file.path)),
+      format_(file.source->format()),
+      original_(file.original),
+      truncated_(std::move(file.truncated)),
+      unit_(unitFor(format_)),
+      player_(std::make_unique<Player>(*unit_, maximumFrames, std::move(file.source))) {}
+
+Session::~Session() {
+  stop();
+}
+
+bool Session::suits(const OpenedFile& file) const {
+  return file.source->format() == format_;
+}
+
+void Session::load(OpenedFile file) {
+  const bool hadOutput = output_ != nullptr;
+  stop();
+  path_ = std::move(file.path);
+  original_ = file.original;
+  truncated_ = std::move(file.truncated);
+  player_ = std::make_unique<Player>(*unit_, maximumFrames, std::move(file.source));
+  player_->setTap(tap_);
+  // What was read of the other file says nothing about this one.
+  const UInt32 reset = 1;
+  unit_->setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global, 0, &reset,
+                     sizeof reset);
+  if (hadOutput) setDevice(std::exchange(device_, std::nullopt));
+}
+
+void Session::setDevice(const std::optional<Device>& device) {
+  stop();
+  try {
+    startOutput(device);
+  } catch (const Failure&) {
+    startOutput(std::nullopt);
+    throw;
+  }
+}
+
+std::string Session::setFirstWorkingDevice(const std::vector<Device>& devices) {
+  stop();
+  std::string why;
+  for (const auto& device : devices) {
+    try {
+      startOutput(device);
+      return {};
+    } catch (const Failure& failure) {
+      if (why.empty()) why = failure.what();
+    }
+  }
+  startOutput(std::nullopt);
+  return why;
+}
+
+void Session::startOutput(const std::optional<Device>& device) {
+  player_->setDeviceRuns(true);
+  device_.reset();
+  if (device) {
+    output_ = openDevice(*device, format_, *player_);
+  } else {
+    output_ = std::make_unique<SilentClock>(format_, *player_);
+  }
+  device_ = device;
+}
+
+void Session::stop() {
+  output_.reset();
+  player_->setDeviceRuns(false);
+}
+
+std::string Session::checkOutput() {
+  if (!output_) return {};
+  auto why = output_->failure();
+  if (why.empty()) return {};
+  const auto name = output_->name();
+  setDevice(std::nullopt);
+  return "'" + name + "' failed: " + why;
+}
+
+void Session::setTap(AudioTap* tap) {
+  tap_ = tap;
+  player_->setTap(tap);
+}
+
+}  // namespace host

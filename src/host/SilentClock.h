@@ -1,0 +1,32 @@
+#pragma once
+
+#include <atomic>
+#include <thread>
+
+#include "host/AudioSource.h"
+#include "host/BlockRenderer.h"
+#include "host/Output.h"
+
+namespace host {
+
+/// Renders in real time and lets nobody hear it.
+class SilentClock : public Output {
+ public:
+  SilentClock(AudioFormat format, BlockRenderer& renderer);
+  ~SilentClock() override;
+
+  std::string name() const override { return "none"; }
+  bool isSilent() const override { return true; }
+  std::uint32_t latency() const override { return 0; }
+  std::string failure() override { return {}; }
+
+ private:
+  void run();
+
+  AudioFormat format_;
+  BlockRenderer& renderer_;
+  std::atomic<bool> stop_{false};
+  std::thread thread_;
+};
+
+}  // namespace host

@@ -1,0 +1,159 @@
+#include "host/SoundFile.h"
+
+#include <sndfile.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+#include <vector>
+
+#include "host/Failure.h"
+#include "host/QuietStandardError.h"
+
+namespace host {
+namespace {
+
+constexpr std::uint32_t lowestSampleRate = 2000;
+constexpr std::uint32_t highestSampleRate = 768000;
+
+SNDFILE* handle(void* file) {
+  return static_cast<SNDFILE*>(file);
+}
+
+[[noreturn]] void refuse(const std::filesystem::path& path, const std::string& why) {
+  throw Failure("cannot play '" + path.string() + "': " + why);
+}
+
+void requireOrdinaryFile(const std::filesystem::path& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (status.type() == std::filesystem::file_type::not_found) {
+    refuse(path, "there is no such file; give the path of a sound file");
+  }
+  if (error) refuse(path, error.message() + "; check the path and its permissions");
+  if (status.type() == std::filesystem::file_type::directory) {
+    refuse(path, "it is a folder; give the path of a sound file");
+  }
+  if (status.type() != std::filesystem::file_type::regular) {
+    refuse(path, "it is not an ordinary file; give the path of a sound file");
+  }
+  const auto size = std::filesystem::file_size(path, error);
+  if (!error && size == 0) refuse(path, "the file is empty; give a file that holds audio");
+}
+
+}  // namespace
+
+bool promisesMoreThanItHolds(std::string_view log) {
+  if (log.find("File ended unexpectedly") != std::string_view::npos) return true;
+  if (log.find("does not match value from 'ds64'") != std::string_view::npos) return true;
+  const auto number = [](std::string_view text) {
+    std::uint64_t value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+  };
+  // Rows such as "data : 384000 (should be 230382)". Recorders that never came back to write the
+  // size leave 0 or all ones; a few bytes of padding are no loss either.
+  constexpr std::uint64_t padding = 8;
+  constexpr std::uint64_t neverWritten = 0xFFFFFF00;
+  constexpr std::string_view correction = " (should be ";
+  for (const std::string_view name : {"data : ", "SSND : ", "Data Size   : ", "riff : "}) {
+    for (auto at = log.find(name); at != std::string_view::npos; at = log.find(name, at + 1)) {
+      const auto line = log.substr(at, log.find('\n', at) - at);
+      const auto corrected = line.find(correction);
+      if (corrected == std::string_view::npos) continue;
+      const auto promised = number(line.substr(name.size()));
+      const auto held = number(line.substr(corrected + correction.size()));
+      if (promised > held + padding && promised < neverWritten) return true;
+    }
+  }
+  return false;
+}
+
+void SoundFile::Close::operator()(void* file) const {
+  sf_close(handle(file));
+}
+
+SoundFile::SoundFile(const std::filesystem::path& path) : path_(path) {
+  requireOrdinaryFile(path);
+  open();
+  std::array<char, 16384> log{};
+  sf_command(handle(file_.get()), SFC_GET_LOG_INFO, log.data(), static_cast<int>(log.size()));
+  if (promisesMoreThanItHolds(log.data())) *truncated_ = true;
+  if (frames_ == SF_COUNT_MAX) {
+    *truncated_ = true;
+    const auto held = countFrames();
+    open();
+    frames_ = held;
+  }
+  if (frames_ <= 0) refuse(path, "it holds no audio; give a file with at least one sample");
+}
+
+SoundFile::~SoundFile() = default;
+
+void SoundFile::open() {
+  SF_INFO info{};
+  {
+    const QuietStandardError quiet;
+    file_.reset(sf_open(path_.c_str(), SFM_READ, &info));
+  }
+  if (!file_) {
+    std::string why = sf_strerror(nullptr);
+    while (!why.empty() && (why.back() == '.' || why.back() == '\n')) why.pop_back();
+    std::replace(why.begin(), why.end(), '\n', ' ');
+    refuse(path_, why + "; give a WAV, AIFF, FLAC, Ogg or MP3 file");
+  }
+  if (info.channels < 1 || info.channels > 2) {
+    refuse(path_, "it has " + std::to_string(info.channels) +
+                      " channels; give a mono or stereo file, or mix it down first");
+  }
+  format_ = {static_cast<std::uint32_t>(info.samplerate),
+             static_cast<std::uint32_t>(info.channels)};
+  if (format_.sampleRate < lowestSampleRate || format_.sampleRate > highestSampleRate) {
+    refuse(path_, "its sample rate is " + std::to_string(info.samplerate) +
+                      " Hz; give a file from 2 to 768 kHz");
+  }
+  frames_ = info.frames;
+}
+
+std::int64_t SoundFile::countFrames() {
+  constexpr std::size_t block = 8192;
+  std::vector<float> scratch(block * format_.channels);
+  std::int64_t count = 0;
+  for (;;) {
+    const auto got = sf_readf_float(handle(file_.get()), scratch.data(), block);
+    if (got <= 0) break;
+    count += got;
+  }
+  return count;
+}
+
+std::size_t SoundFile::read(float* interleaved, std::size_t frames) {
+  const auto wanted = std::min<std::int64_t>(static_cast<std::int64_t>(frames),
+                                             std::max<std::int64_t>(frames_ - position_, 0));
+  std::int64_t done = 0;
+  while (done < wanted) {
+    const auto got =
+        sf_readf_float(handle(file_.get()), interleaved + done * format_.channels, wanted - done);
+    if (got <= 0) break;
+    done += got;
+  }
+  if (done < wanted) *truncated_ = true;
+  position_ += done;
+  const auto samples = static_cast<std::size_t>(done) * format_.channels;
+  std::replace_if(
+      interleaved, interleaved + samples, [](float sample) { return !std::isfinite(sample); },
+      0.0F);
+  return static_cast<std::size_t>(done);
+}
+
+void SoundFile::seek(std::int64_t frame) {
+  frame = std::clamp<std::int64_t>(frame, 0, frames_);
+  const auto reached = sf_seek(handle(file_.get()), frame, SEEK_SET);
+  // A place that a damaged file cannot give reads as the end.
+  position_ = reached < 0 ? frames_ : frame;
+  if (reached < 0) *truncated_ = true;
+}
+
+}  // namespace host

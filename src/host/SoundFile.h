@@ -1,0 +1,53 @@
+#pragma once
+
+#include <atomic>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "host/AudioSource.h"
+
+namespace host {
+
+/// A sound file of any format that libsndfile reads, mono or stereo. Samples that are not finite
+/// come out as silence.
+class SoundFile : public AudioSource {
+ public:
+  /// Throws `Failure` when the file is missing, empty, no audio, no ordinary file, or has a channel
+  /// count or sample rate that cannot be played.
+  explicit SoundFile(const std::filesystem::path& path);
+  ~SoundFile() override;
+
+  AudioFormat format() const override { return format_; }
+  std::int64_t frames() const override { return frames_; }
+  std::size_t read(float* interleaved, std::size_t frames) override;
+  void seek(std::int64_t frame) override;
+
+  /// Whether the file holds less than its header promises, as far as that has shown yet. Any
+  /// thread.
+  bool isTruncated() const { return *truncated_; }
+  /// The same for whoever outlives the file.
+  std::shared_ptr<const std::atomic<bool>> truncation() const { return truncated_; }
+
+ private:
+  struct Close {
+    void operator()(void* file) const;
+  };
+
+  void open();
+  std::int64_t countFrames();
+
+  std::filesystem::path path_;
+  std::unique_ptr<void, Close> file_;
+  AudioFormat format_;
+  std::int64_t frames_ = 0;
+  std::int64_t position_ = 0;
+  std::shared_ptr<std::atomic<bool>> truncated_ = std::make_shared<std::atomic<bool>>(false);
+};
+
+/// Whether libsndfile's log of opening a file says that the header promises more audio than the
+/// file holds.
+bool promisesMoreThanItHolds(std::string_view openingLog);
+
+}  // namespace host

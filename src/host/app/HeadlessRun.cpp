@@ -1,0 +1,112 @@
+#include <QApplication>
+#include <QTimer>
+#include <array>
+#include <exception>
+#include <functional>
+#include <vector>
+
+#include "converter/ConverterUnit.h"
+#include "host/CarriedSetting.h"
+#include "host/Failure.h"
+#include "host/app/Report.h"
+#include "host/app/Run.h"
+#include "host/app/Words.h"
+
+namespace host::app {
+namespace {
+
+constexpr std::uint32_t blockFrames = 1024;
+/// Between two turns of the event loop: half a second of audio or so.
+constexpr int blocksPerTurn = 20;
+/// The view polls its meters every 75 ms: long enough for the last readings to show.
+constexpr int settlingMilliseconds = 250;
+constexpr int refreshMilliseconds = 50;
+
+/// Renders block after block while the event loop turns.
+class Pump {
+ public:
+  Pump(Session& session, Recorder* recorder) : session_(session), recorder_(recorder) {
+    session.player().setOffline(true);
+  }
+
+  /// False once everything has been rendered.
+  bool turn() {
+    auto& player = session_.player();
+    const std::array<float*, 2> planes = {samples_.data(), samples_.data() + blockFrames};
+    for (int block = 0; block < blocksPerTurn && !player.isFinished(); ++block) {
+      if (recorder_ != nullptr) recorder_->waitForRoom(blockFrames);
+      player.renderBlock(planes.data(), blockFrames);
+    }
+    return !player.isFinished();
+  }
+
+ private:
+  Session& session_;
+  Recorder* recorder_;
+  std::vector<float> samples_ = std::vector<float>(std::size_t{blockFrames} * 2);
+};
+
+/// Lets the application run until `work` says that it is done or the user ends the program.
+void turnWhile(const std::function<bool()>& work, bool& interrupted) {
+  std::exception_ptr error;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    try {
+      if (!interrupted && work()) return;
+    } catch (...) {
+      error = std::current_exception();
+    }
+    timer.stop();
+    QApplication::quit();
+  });
+  timer.start(0);
+  QApplication::exec();
+  if (error) std::rethrow_exception(error);
+}
+
+void settle(bool& interrupted) {
+  if (interrupted) return;
+  QTimer::singleShot(settlingMilliseconds, [] { QApplication::quit(); });
+  QApplication::exec();
+}
+
+void requireDevice(const std::optional<std::string>& name) {
+  if (name && *name != "none") static_cast<void>(requiredDevice(outputDevices(), *name));
+}
+
+}  // namespace
+
+int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
+  // Nothing sounds, but a wrong name should not wait until somebody listens.
+  requireDevice(options.device);
+  auto file = openedForPlaying(*options.file);
+  Audition audition(options, std::move(files.record), std::nullopt);
+  audition.open(std::move(file));
+  if (options.seconds) limitLength(audition, *options.seconds);
+  bool interrupted = false;
+  const auto listening = signals.listen([&] {
+    interrupted = true;
+    QApplication::quit();
+  });
+  audition.window().show();
+  QTimer refresh;
+  QObject::connect(&refresh, &QTimer::timeout, [&] { audition.refresh(); });
+  refresh.start(refreshMilliseconds);
+
+  Pump pump(*audition.session(), audition.recorder());
+  audition.session()->player().play();
+  turnWhile([&] { return pump.turn(); }, interrupted);
+  if (!interrupted && files.screenshot) settle(interrupted);
+  if (interrupted) throw Failure("interrupted; nothing was written");
+
+  refresh.stop();
+  audition.refresh();
+  audition.finish();
+  const auto readings = readingsAfter(audition);
+  if (const auto carried = carriedOtherwise(&audition.session()->unit())) warn(*carried);
+  if (files.screenshot) writeScreenshot(audition.window(), *files.screenshot);
+  say(options.json ? asJson(readings) + "\n" : asText(readings));
+  return 0;
+}
+
+}  // namespace host::app

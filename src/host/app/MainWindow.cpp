@@ -1,0 +1,147 @@
+#include "host/app/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFrame>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <utility>
+
+#include "host/Failure.h"
+
+namespace host::app {
+namespace {
+
+constexpr int viewWidth = 560;
+constexpr int emptyHeight = 195;
+constexpr int step = 5000;
+
+QFrame* separator(QWidget* parent) {
+  auto* const line = new QFrame(parent);
+  line->setFrameShape(QFrame::HLine);
+  line->setFrameShadow(QFrame::Plain);
+  line->setForegroundRole(QPalette::Mid);
+  line->setFixedHeight(1);
+  return line;
+}
+
+/// The one local file that a drag brings, or nothing.
+QString droppedFile(const QMimeData& data) {
+  const auto urls = data.urls();
+  return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
+}
+
+}  // namespace
+
+MainWindow::MainWindow()
+    : transport_(new TransportBar(this)),
+      status_(new StatusLine(this)),
+      rows_(new QVBoxLayout),
+      invitation_(new QLabel(tr("Open a sound file, or drop one here"), this)) {
+  setWindowTitle(tr("AAC Audition"));
+  setAcceptDrops(true);
+  static_cast<QLabel*>(invitation_)->setAlignment(Qt::AlignCenter);
+  invitation_->setEnabled(false);
+  invitation_->setFixedSize(viewWidth, emptyHeight);
+
+  auto* const centre = new QWidget(this);
+  centre->setLayout(rows_);
+  rows_->setContentsMargins(0, 0, 0, 0);
+  rows_->setSpacing(0);
+  rows_->addWidget(transport_);
+  rows_->addWidget(separator(this));
+  rows_->addWidget(invitation_);
+  rows_->addWidget(separator(this));
+  rows_->addWidget(status_);
+  centre->setFixedWidth(viewWidth);
+  setCentralWidget(centre);
+  // The window is as large as its contents ask for, always.
+  rows_->setSizeConstraint(QLayout::SetFixedSize);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+
+  makeMenus();
+  connect(transport_, &TransportBar::openClicked, this, &MainWindow::openRequested);
+  connect(transport_, &TransportBar::playClicked, this, &MainWindow::playRequested);
+  setTransportEnabled(false);
+}
+
+MainWindow::~MainWindow() {
+  removeView();
+}
+
+void MainWindow::makeMenus() {
+  auto* const file = menuBar()->addMenu(tr("&File"));
+  open_ =
+      file->addAction(tr("&Open…"), QKeySequence(tr("Ctrl+O")), this, &MainWindow::openRequested);
+  file->addSeparator();
+  file->addAction(tr("&Quit"), QKeySequence(tr("Ctrl+Q")), this, &QWidget::close);
+
+  auto* const playback = menuBar()->addMenu(tr("&Playback"));
+  auto* const play = playback->addAction(tr("&Play or Pause"), this, &MainWindow::playRequested);
+  play->setShortcuts({QKeySequence(tr("Ctrl+P")), QKeySequence(Qt::Key_MediaPlay),
+                      QKeySequence(Qt::Key_MediaTogglePlayPause)});
+  transportActions_ = {
+      play,
+      playback->addAction(tr("To the &Beginning"), QKeySequence(tr("Ctrl+Home")), this,
+                          &MainWindow::rewindRequested),
+      playback->addAction(tr("Five Seconds Ba&ck"), QKeySequence(tr("Ctrl+Left")), this,
+                          [this] { Q_EMIT moveRequested(-step); }),
+      playback->addAction(tr("Five Seconds &Forward"), QKeySequence(tr("Ctrl+Right")), this,
+                          [this] { Q_EMIT moveRequested(step); })};
+}
+
+void MainWindow::setView(std::unique_ptr<ui::NativeView> view) {
+  auto* const widget = dynamic_cast<QWidget*>(view.get());
+  if (view && widget == nullptr) {
+    throw Failure("cannot show the converter's view: it is made for another toolkit");
+  }
+  removeView();
+  invitation_->setVisible(widget == nullptr);
+  if (widget == nullptr) return;
+  view->setFrameSizeObserver([this](ui::Size) { rows_->invalidate(); });
+  rows_->insertWidget(rows_->indexOf(invitation_), widget, 0, Qt::AlignLeft);
+  // The layout's widget is its parent now and owns it.
+  static_cast<void>(view.release());
+  view_ = widget;
+  view_->show();
+  view_->setFocus();
+}
+
+void MainWindow::removeView() {
+  if (view_ == nullptr) return;
+  // Leaving its parent is what tells the view to let go of the unit.
+  view_->setParent(nullptr);
+  delete std::exchange(view_, nullptr);
+}
+
+void MainWindow::setOpenEnabled(bool enabled) {
+  open_->setEnabled(enabled);
+  transport_->setOpenEnabled(enabled);
+  setAcceptDrops(enabled);
+}
+
+void MainWindow::setTransportEnabled(bool enabled) {
+  transport_->setTransportEnabled(enabled);
+  for (auto* const action : transportActions_) action->setEnabled(enabled);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  Q_EMIT closing();
+  QMainWindow::closeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!droppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const auto path = droppedFile(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->acceptProposedAction();
+  Q_EMIT fileDropped(path);
+}
+
+}  // namespace host::app

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QVBoxLayout>
+#include <memory>
+
+#include "host/app/StatusLine.h"
+#include "host/app/TransportBar.h"
+#include "ui/CustomView.h"
+
+class QAction;
+
+namespace host::app {
+
+/// The window: transport above, the converter's view, the status below. Its width is the view's,
+/// its height follows the view's.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  MainWindow();
+  ~MainWindow() override;
+
+  TransportBar& transport() { return *transport_; }
+  StatusLine& status() { return *status_; }
+
+  /// Puts the view into the window in place of the earlier one, which is destroyed. Null shows an
+  /// invitation to open a file. Throws `Failure` for a view of another toolkit.
+  void setView(std::unique_ptr<ui::NativeView> view);
+  /// Whether files can be opened and dropped.
+  void setOpenEnabled(bool enabled);
+  void setTransportEnabled(bool enabled);
+
+ Q_SIGNALS:
+  void openRequested();
+  void fileDropped(const QString& path);
+  void playRequested();
+  /// Relative, in milliseconds.
+  void moveRequested(int milliseconds);
+  void rewindRequested();
+  /// The window is about to close, still as the user saw it.
+  void closing();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void makeMenus();
+  void removeView();
+
+  TransportBar* transport_;
+  StatusLine* status_;
+  QVBoxLayout* rows_;
+  QWidget* invitation_;
+  QWidget* view_ = nullptr;
+  QAction* open_ = nullptr;
+  QList<QAction*> transportActions_;
+};
+
+}  // namespace host::app

@@ -1,0 +1,29 @@
+#include "host/app/OutputFiles.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include "host/Failure.h"
+
+namespace host::app {
+namespace {
+
+std::unique_ptr<AtomicFile> claimed(const std::optional<std::filesystem::path>& path) {
+  return path ? std::make_unique<AtomicFile>(*path) : nullptr;
+}
+
+}  // namespace
+
+OutputFiles claimedOutputFiles(const AuditionOptions& options) {
+  return {claimed(options.screenshot), claimed(options.record)};
+}
+
+void writeScreenshot(QWidget& window, AtomicFile& file) {
+  const auto picture = window.grab();
+  if (!picture.save(QString::fromStdString(file.temporaryPath().string()), "PNG")) {
+    throw Failure("cannot write '" + file.path().string() + "': the disk may be full");
+  }
+  file.commit();
+}
+
+}  // namespace host::app

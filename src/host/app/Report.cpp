@@ -1,0 +1,25 @@
+#include "host/app/Report.h"
+
+#include <cmath>
+
+#include "converter/ConverterUnit.h"
+
+namespace host::app {
+
+Readings readingsAfter(Audition& audition) {
+  auto& session = *audition.session();
+  auto readings = readingsOf(session.unit(), session.format());
+  readings.file = session.path().string();
+  readings.seconds = static_cast<double>(session.player().position()) / session.format().sampleRate;
+  return readings;
+}
+
+void limitLength(Audition& audition, double seconds) {
+  auto& session = *audition.session();
+  const auto frames = seconds * session.format().sampleRate;
+  if (frames < static_cast<double>(session.player().length())) {
+    session.player().limitLength(std::llround(frames));
+  }
+}
+
+}  // namespace host::app

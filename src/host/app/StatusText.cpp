@@ -1,0 +1,53 @@
+#include "host/app/StatusText.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QStringList>
+
+#include "contract/ConverterInterface.h"
+#include "converter/ConverterUnit.h"
+#include "host/EncoderSetting.h"
+
+namespace host::app {
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("StatusText", text);
+}
+
+template <class Data>
+bool read(AudioUnit unit, AudioUnitPropertyID id, Data& data) {
+  UInt32 size = sizeof data;
+  return AudioUnitGetProperty(unit, id, kAudioUnitScope_Global, 0, &data, &size) == noErr;
+}
+
+QString settingText(const converter::EffectiveSetting& setting) {
+  const auto name =
+      QString::fromStdString(formatName(setting.format) + " " + strategyName(setting.strategy));
+  if (setting.vbrMode != 0) return tr("%1 mode %2").arg(name).arg(setting.vbrMode);
+  return tr("%1 %2 kbit/s").arg(name, QLocale().toString(setting.bitRate / 1000.0, 'g', 4));
+}
+
+}  // namespace
+
+bool listeningTestRuns(AudioUnit unit) {
+  UInt32 runs = 0;
+  return read(unit, velk::kConverterProperty_ListeningTestActive, runs) && runs != 0;
+}
+
+QString encoderText(converter::ConverterUnit& unit, double sampleRate) {
+  if (listeningTestRuns(&unit)) return tr("Listening test");
+  QStringList parts;
+  converter::EffectiveSetting setting{};
+  if (read(&unit, converter::kConverterProperty_EffectiveSetting, setting)) {
+    parts << settingText(setting);
+  }
+  converter::BitRate rate{};
+  if (read(&unit, converter::kConverterProperty_BitRate, rate) && rate.recentKbps > 0) {
+    parts << tr("really %1 kbit/s").arg(QLocale().toString(rate.recentKbps, 'f', 1));
+  }
+  parts << tr("latency %1 ms").arg(qRound(unit.latency() * 1000 / sampleRate));
+  return parts.join(QStringLiteral("  ·  "));
+}
+
+}  // namespace host::app

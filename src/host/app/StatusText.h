@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include "audio_unit/AudioUnitTypes.h"
+
+namespace converter {
+class ConverterUnit;
+}
+
+namespace host::app {
+
+/// Whether a listening test runs in the unit's view.
+bool listeningTestRuns(AudioUnit unit);
+
+/// The encoder setting really used, the bit rate it comes to and the latency. While a listening
+/// test runs, nothing that changes with what is heard or encoded.
+QString encoderText(converter::ConverterUnit& unit, double sampleRate);
+
+}  // namespace host::app

@@ -1,0 +1,61 @@
+#include <QApplication>
+#include <clocale>
+#include <cstdlib>
+#include <exception>
+
+#include "host/CommandLine.h"
+#include "host/Failure.h"
+#include "host/app/Run.h"
+#include "host/app/Words.h"
+
+namespace {
+
+bool hasDisplay() {
+  for (const char* const name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    if (!qEnvironmentVariableIsEmpty(name)) return true;
+  }
+  return false;
+}
+
+void choosePlatform(bool headless) {
+  if (headless && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  if (!hasDisplay()) {
+    throw host::Failure("there is no display to open a window on; add --headless FILE");
+  }
+}
+
+int run(const host::AuditionOptions& options, const char* program) {
+  choosePlatform(options.headless);
+  auto files = host::app::claimedOutputFiles(options);
+  host::app::TerminationSignals signals;
+  // The toolkit's own options are not this program's: it only gets its name.
+  int count = 1;
+  char* arguments[] = {const_cast<char*>(program), nullptr};
+  const QApplication application(count, arguments);
+  QApplication::setApplicationName("aac-audition");
+  // Numbers for machines keep their point whatever the user's language.
+  std::setlocale(LC_NUMERIC, "C");
+  return options.headless ? host::app::runHeadless(options, std::move(files), signals)
+                          : host::app::runWithWindow(options, std::move(files), signals);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const auto parsed = host::parsedAuditionArguments(argc, argv);
+    if (const auto* const help = std::get_if<host::HelpText>(&parsed)) {
+      host::app::say(help->text);
+      return EXIT_SUCCESS;
+    }
+    return run(std::get<host::AuditionOptions>(parsed), argv[0]);
+  } catch (const host::UsageError& error) {
+    host::app::complain(std::string(error.what()) + " (aac-audition --help tells more)");
+    return 2;
+  } catch (const std::exception& error) {
+    host::app::complain(error.what());
+    return EXIT_FAILURE;
+  }
+}
