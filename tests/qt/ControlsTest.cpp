@@ -211,7 +211,7 @@ class PopUpButton : public testing::Test {
     box_.activateWindow();
     box_.setFocus();
   }
-  ~PopUpButton() override { box_.hidePopup(); }
+  void TearDown() override { box_.hidePopup(); }
 
   void pick(int index) {
     box_.showPopup();

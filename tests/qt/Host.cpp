@@ -109,7 +109,7 @@ void ResourceFolder::lengthenTexts() const {
   }
 }
 
-Host::Host(fakes::FakeConverter& unit, HostOptions options) : runLoop_(log_) {
+Host::Host(fakes::FakeConverter& unit, const HostOptions& options) : runLoop_(log_) {
   // The test delivers the events of units; nobody else may.
   CFRunLoopGetCurrent()->setWakeUp([] {});
   ui::qt::Environment environment = testEnvironment(options.resources);

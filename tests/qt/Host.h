@@ -48,7 +48,7 @@ class ResourceFolder {
 /// events and whose time the test drives.
 class Host {
  public:
-  explicit Host(fakes::FakeConverter& unit, HostOptions options = {});
+  explicit Host(fakes::FakeConverter& unit, const HostOptions& options = {});
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
   ~Host();

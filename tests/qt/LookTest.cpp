@@ -293,7 +293,7 @@ TEST(Captions, AreAllTranslated) {
 
 class Palettes : public testing::Test {
  protected:
-  ~Palettes() override { QApplication::setPalette(original_); }
+  void TearDown() override { QApplication::setPalette(original_); }
 
   fakes::CallLog calls_;
   fakes::FakeConverter unit_{calls_};

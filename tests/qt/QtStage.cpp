@@ -157,6 +157,7 @@ class QtStage final : public Stage {
   std::vector<std::string> itemTitles(std::string_view popUp) override {
     const auto& box = host_->outlet<QComboBox>(popUp);
     std::vector<std::string> titles;
+    titles.reserve(static_cast<std::size_t>(box.count()));
     for (int index = 0; index < box.count(); ++index) {
       titles.push_back(box.itemText(index).toStdString());
     }

@@ -39,10 +39,10 @@ void saveTo(const std::filesystem::path& file, const QPixmap& picture) {
 
 class Album {
  public:
-  Album(std::filesystem::path folder, qt_test::HostOptions options, std::string theme)
+  Album(std::filesystem::path folder, const qt_test::HostOptions& options, std::string theme)
       : folder_(std::move(folder)), theme_(std::move(theme)), unit_(log_) {
     unit_.setSetting({0.0F, 1.0F, 14.0F});
-    host_.emplace(unit_, std::move(options));
+    host_.emplace(unit_, options);
   }
 
   void shoot() {
