@@ -114,7 +114,15 @@ TEST_F(CustomEncoderSheet, SurvivesAnyValueOfAParameter) {
   openWith({0, 1, 12});
   for (const float value :
        {kNaN, -1.0F, -1e30F, 1e30F, 17.0F, -std::numeric_limits<float>::infinity()}) {
+    forget();
     refresh({0, value, value});
+    EXPECT_THAT(record.calls.starting("settingsController.strategyPopup.select",
+                                      "settingsController.bitratePopup.select"),
+                ElementsAre("settingsController.strategyPopup.selectItemAtIndex " +
+                                std::to_string(value == 17.0F ? 17 : -1),
+                            "settingsController.bitratePopup.selectItemAtIndex " +
+                                std::to_string(value == 17.0F ? 17 : -1)))
+        << value;
     EXPECT_EQ(popUp("bitratePopup").indexOfSelectedItem(), -1) << value;
     refresh({value, 2, value});
   }
