@@ -106,13 +106,15 @@ void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element
     case kAudioUnitProperty_MaximumFramesPerSlice:
       return put(data, format_.maximumFrames);
     case kAudioUnitProperty_FactoryPresets:
-      return put(data, copyFactoryPresets());
+      return put<const void*>(data, copyFactoryPresets());
     case kAudioUnitProperty_PresentPreset:
       return put(data, copyPresentPreset(values_));
     case kAudioUnitProperty_OfflineRender:
       return put(data, offlineRender_);
     case velk::kConverterProperty_MonitorSource:
       return put(data, monitorSource_);
+    case velk::kConverterProperty_PeakStats:
+      return put(data, renderer_.peakStatistics());
     case velk::kConverterProperty_ListeningTestActive:
       return put(data, listeningTestActive_);
     case kConverterProperty_EffectiveSetting:
@@ -140,6 +142,9 @@ OSStatus AacConverter::setProperty(AudioUnitPropertyID id, AudioUnitScope scope,
     case velk::kConverterProperty_MonitorSource:
       monitorSource_ = take<UInt32>(data);
       controls_.monitorSource.store(monitorSource_ != 0, std::memory_order_relaxed);
+      break;
+    case velk::kConverterProperty_ResetPeakStats:
+      renderer_.resetPeakStatistics();
       break;
     case velk::kConverterProperty_ListeningTestActive:
       listeningTestActive_ = take<UInt32>(data);

@@ -30,6 +30,7 @@ constexpr std::array kProperties = {
     Property{kAudioUnitProperty_PresentPreset, sizeof(AUPreset), Access::readWrite},
     Property{kAudioUnitProperty_OfflineRender, sizeof(UInt32), Access::readWrite},
     Property{velk::kConverterProperty_MonitorSource, sizeof(UInt32), Access::readWrite},
+    Property{velk::kConverterProperty_PeakStats, sizeof(velk::PeakStatistics), Access::read},
     Property{velk::kConverterProperty_ResetPeakStats, sizeof(UInt32), Access::write},
     Property{velk::kConverterProperty_ListeningTestActive, sizeof(UInt32), Access::readWrite},
     Property{kConverterProperty_EffectiveSetting, sizeof(EffectiveSetting), Access::read},

@@ -28,11 +28,12 @@ Renderer::Renderer(const UnitFormat& unit, Controls& controls)
       feeder_(worker_),
       reader_(worker_),
       delay_(unit.channels, latency_, unit.maximumFrames),
+      meters_(unit.channels),
       monitor_(unit.sampleRate) {
   for (auto& plane : source_) plane.resize(unit.maximumFrames);
   for (auto& plane : encoded_) plane.resize(unit.maximumFrames);
   // Says at once whether the codec works here, and spares the worker the libraries' slow first use.
-  CodecPair{controls.setting.load(), unit, 0};
+  const CodecPair trial(controls.setting.load(), unit, 0);
   worker_.start();
 }
 
@@ -62,6 +63,7 @@ void Renderer::renderSlice(const float* const* input, float* const* output, UInt
   delay_.process(input, source.data(), frames);
   const UInt32 missed = reader_.read(position, frames, encoded.data(), unit_.channels, wait);
   if (missed > 0) controls_.missedFrames.fetch_add(missed, std::memory_order_relaxed);
+  meters_.process(source.data(), encoded.data(), frames);
   monitor_.process(source.data(), encoded.data(), output, unit_.channels, frames, monitorSource);
 }
 
@@ -69,6 +71,7 @@ void Renderer::reset() {
   worker_.stop();
   feeder_.clear();
   delay_.clear();
+  meters_.finish();
   monitor_.settle(controls_.monitorSource.load());
   worker_.start();
 }

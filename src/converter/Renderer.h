@@ -7,6 +7,7 @@
 #include "converter/DelayLine.h"
 #include "converter/EncodedReader.h"
 #include "converter/MonitorSwitch.h"
+#include "converter/SignalMeters.h"
 #include "converter/SourceFeeder.h"
 #include "converter/Worker.h"
 
@@ -24,7 +25,10 @@ class Renderer {
   void reset();
 
   UInt32 latency() const { return latency_; }
+  /// Any thread.
   BitRate bitRate() const { return worker_.bitRate(); }
+  velk::PeakStatistics peakStatistics() const { return meters_.read(); }
+  void resetPeakStatistics() { meters_.requestReset(); }
 
  private:
   using Planes = std::array<std::vector<float>, kMaximumChannels>;
@@ -38,6 +42,7 @@ class Renderer {
   SourceFeeder feeder_;
   EncodedReader reader_;
   DelayLine delay_;
+  SignalMeters meters_;
   MonitorSwitch monitor_;
   Planes source_;
   Planes encoded_;

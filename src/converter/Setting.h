@@ -10,15 +10,16 @@ namespace converter {
 enum class Format : std::uint8_t { lc, he, heV2 };
 enum class Strategy : std::uint8_t { abr, constrainedVbr, vbr };
 
-/// One way to run the encoder; always one that it can do.
-struct Setting {
+/// One way to run the encoder; always one that it can do. Aligned so that threads can exchange it
+/// as one word.
+struct alignas(8) Setting {
   /// `abr`: the target. `constrainedVbr`: the peak rate. `vbr`: 0. bit/s.
   std::uint32_t bitRate = 0;
   Format format = Format::lc;
   Strategy strategy = Strategy::abr;
   /// `vbr`: the encoder's mode, 1 to 5. Otherwise 0.
   std::uint8_t vbrMode = 0;
-  /// Fills the record, so that it can be exchanged between threads as one word.
+  /// Fills the word: padding would have no value to compare.
   std::uint8_t unused = 0;
 
   friend bool operator==(const Setting&, const Setting&) = default;

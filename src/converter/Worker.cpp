@@ -11,7 +11,7 @@ void Worker::start() {
   source_.clear();
   encoded_.clear();
   transcoder_.clear();
-  bitRate_ = BitRate{0, 0};
+  bitRate_ = std::bit_cast<UInt64>(BitRate{0, 0});
   stopping_ = false;
   thread_ = std::thread([this] { run(); });
 }
@@ -37,7 +37,7 @@ void Worker::processWaiting() {
     AudioBlock* encoded = encoded_.claim();
     transcoder_.process(*block, encoded != nullptr ? *encoded : surplus_);
     if (encoded != nullptr) encoded_.push();
-    bitRate_.store(transcoder_.bitRate(), std::memory_order_relaxed);
+    bitRate_.store(std::bit_cast<UInt64>(transcoder_.bitRate()), std::memory_order_relaxed);
     source_.pop();
     if (waiting_.exchange(false, std::memory_order_acq_rel)) progress_.release();
   }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <bit>
 #include <thread>
 
 #include "converter/Semaphore.h"
@@ -39,7 +40,9 @@ class Worker {
   }
 
   /// Any thread.
-  BitRate bitRate() const { return bitRate_.load(std::memory_order_relaxed); }
+  BitRate bitRate() const {
+    return std::bit_cast<BitRate>(bitRate_.load(std::memory_order_relaxed));
+  }
 
  private:
   void run();
@@ -54,9 +57,10 @@ class Worker {
   Semaphore progress_;
   std::atomic<bool> waiting_{false};
   std::atomic<bool> stopping_{false};
-  std::atomic<BitRate> bitRate_{BitRate{0, 0}};
+  /// A `BitRate`, whose own alignment is too small for one atomic word.
+  std::atomic<UInt64> bitRate_{0};
   std::thread thread_;
 };
-static_assert(std::atomic<BitRate>::is_always_lock_free);
+static_assert(sizeof(BitRate) == sizeof(UInt64));
 
 }  // namespace converter

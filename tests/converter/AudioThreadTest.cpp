@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+
+#include "AudioThreadTraps.h"
+#include "Rig.h"
+
+namespace {
+
+constexpr std::size_t kBlock = 64;
+constexpr std::size_t kFrames = 200000;
+
+/// Renders in real time with every kind of change, and in between on another thread.
+class AudioThread : public testing::Test {
+ protected:
+  AudioThread() {
+    rig_.setOffline(false);
+    output_ = silence(2, kFrames);
+  }
+
+  /// Calls `render` of one block after the other; `between` is called without traps.
+  template <typename Between>
+  AudioThreadTraps::Counts renderTrapped(Between between) {
+    AudioThreadTraps::Counts sum;
+    for (std::size_t at = 0; at + kBlock <= kFrames; at += kBlock) {
+      between(at);
+      const float* in[] = {input_[0].data() + at, input_[1].data() + at};
+      float* out[] = {output_[0].data() + at, output_[1].data() + at};
+      AudioThreadTraps traps;
+      rig_.unit().render(in, out, kBlock);
+      const auto counts = traps.counts();
+      sum.allocations += counts.allocations;
+      sum.locks += counts.locks;
+      sum.waits += counts.waits;
+      sum.wakeUps += counts.wakeUps;
+    }
+    return sum;
+  }
+
+  void operate(std::size_t at) {
+    if (at % 12800 == 0) rig_.setPreset(static_cast<SInt32>(at / 12800 % 4));
+    if (at % 9600 == 0) rig_.monitorSource(at / 9600 % 2 == 1);
+    if (at % 32000 == 0) {
+      const UInt32 one = 1;
+      rig_.unit().setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global, 0,
+                              &one, sizeof one);
+    }
+  }
+
+  Rig rig_{{.sampleRate = 48000, .channels = 2, .maximumFrames = kBlock}};
+  const Signal input_ = music(2, kFrames, 48000);
+  Signal output_;
+};
+
+TEST_F(AudioThread, NeitherAllocatesNorLocksNorWaits) {
+  const auto counts = renderTrapped([&](std::size_t at) { operate(at); });
+  EXPECT_EQ(counts.allocations, 0);
+  EXPECT_EQ(counts.locks, 0);
+  EXPECT_EQ(counts.waits, 0);
+}
+
+TEST_F(AudioThread, WakesTheWorkerAtMostOncePerAccessUnit) {
+  const auto counts = renderTrapped([&](std::size_t at) { operate(at); });
+  EXPECT_GT(counts.wakeUps, 0);
+  EXPECT_LE(counts.wakeUps, static_cast<int>(kFrames / 2048));
+}
+
+TEST_F(AudioThread, MakesNoSystemCallButTheWakeUp) {
+  std::atomic<bool> isTrapped{false};
+  std::atomic<int> callsWhileRendering{-1};
+  std::atomic<int> ownCalls{-1};
+  std::thread audio([&] {
+    isTrapped = trapSystemCalls();
+    if (!isTrapped) return;
+    const int before = trappedSystemCalls();
+    getppid();
+    ownCalls = trappedSystemCalls() - before;
+    const int start = trappedSystemCalls();
+    for (std::size_t at = 0; at + kBlock <= kFrames; at += kBlock) {
+      const float* in[] = {input_[0].data() + at, input_[1].data() + at};
+      float* out[] = {output_[0].data() + at, output_[1].data() + at};
+      rig_.unit().render(in, out, kBlock);
+    }
+    callsWhileRendering = trappedSystemCalls() - start;
+  });
+  audio.join();
+  if (!isTrapped) GTEST_SKIP() << "this system lets no thread filter its system calls";
+  EXPECT_EQ(ownCalls, 1) << "the trap catches nothing";
+  EXPECT_EQ(callsWhileRendering, 0);
+}
+
+TEST_F(AudioThread, TrapsCatchWhatTheyAreFor) {
+  AudioThreadTraps traps;
+  // Volatile, or a compiler may leave both out.
+  int* volatile memory = new int(1);
+  delete memory;
+  EXPECT_GE(traps.counts().allocations, 2);
+}
+
+}  // namespace

@@ -1,0 +1,159 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+#include <stdexcept>
+
+#include "Rig.h"
+
+namespace {
+
+constexpr AudioUnitScope kGlobal = kAudioUnitScope_Global;
+
+TEST(Properties, ShowTheStreamFormatOnInputAndOutput) {
+  Rig rig({.sampleRate = 88200, .channels = 1, .maximumFrames = 512});
+  for (const AudioUnitScope scope : {kAudioUnitScope_Input, kAudioUnitScope_Output}) {
+    AudioStreamBasicDescription format{};
+    UInt32 size = sizeof format;
+    ASSERT_EQ(rig.unit().getProperty(kAudioUnitProperty_StreamFormat, scope, 0, &format, size),
+              noErr);
+    EXPECT_EQ(size, 40U);
+    EXPECT_EQ(format.mSampleRate, 88200);
+    EXPECT_EQ(format.mChannelsPerFrame, 1U);
+    EXPECT_EQ(format.mFormatID, kAudioFormatLinearPCM);
+    EXPECT_EQ(format.mBitsPerChannel, 32U);
+    EXPECT_EQ(format.mBytesPerFrame, 4U);
+  }
+}
+
+TEST(Properties, ShowTheLargestBlock) {
+  Rig rig({.sampleRate = 48000, .channels = 2, .maximumFrames = 777});
+  EXPECT_EQ(rig.property<UInt32>(kAudioUnitProperty_MaximumFramesPerSlice), 777U);
+}
+
+TEST(Properties, KeepFlagsAsWritten) {
+  Rig rig;
+  for (const AudioUnitPropertyID id :
+       {velk::kConverterProperty_ListeningTestActive, velk::kConverterProperty_MonitorSource,
+        AudioUnitPropertyID{kAudioUnitProperty_OfflineRender}}) {
+    for (const UInt32 value : {0U, 1U, 7U, 0U}) {
+      ASSERT_EQ(rig.unit().setProperty(id, kGlobal, 0, &value, sizeof value), noErr);
+      EXPECT_EQ(rig.property<UInt32>(id), value);
+    }
+  }
+}
+
+struct Reading {
+  AudioUnitPropertyID id;
+  AudioUnitScope scope;
+  UInt32 size;
+};
+
+constexpr Reading kReadings[] = {
+    {kAudioUnitProperty_ParameterInfo, kGlobal, sizeof(AudioUnitParameterInfo)},
+    {kAudioUnitProperty_StreamFormat, kAudioUnitScope_Output, 40},
+    {kAudioUnitProperty_Latency, kGlobal, 8},
+    {kAudioUnitProperty_MaximumFramesPerSlice, kGlobal, 4},
+    {kAudioUnitProperty_FactoryPresets, kGlobal, sizeof(void*)},
+    {kAudioUnitProperty_PresentPreset, kGlobal, 16},
+    {kAudioUnitProperty_OfflineRender, kGlobal, 4},
+    {velk::kConverterProperty_MonitorSource, kGlobal, 4},
+    {velk::kConverterProperty_PeakStats, kGlobal, 96},
+    {velk::kConverterProperty_ListeningTestActive, kGlobal, 4},
+    {converter::kConverterProperty_EffectiveSetting, kGlobal, 16},
+    {converter::kConverterProperty_BitRate, kGlobal, 8},
+    {converter::kConverterProperty_MissedFrames, kGlobal, 8},
+};
+
+TEST(Properties, NameWhatIsWrongWithAReading) {
+  Rig rig;
+  for (const Reading& reading : kReadings) {
+    const AudioUnitScope scope = reading.scope;
+    const UInt32 right = reading.size;
+    SCOPED_TRACE(reading.id);
+    std::array<unsigned char, 256> data{};
+    std::array<unsigned char, 256> untouched{};
+    const auto get = [&](AudioUnitScope at, AudioUnitElement element, void* to, UInt32 size) {
+      const UInt32 given = size;
+      const OSStatus status = rig.unit().getProperty(reading.id, at, element, to, size);
+      EXPECT_EQ(size, given);
+      return status;
+    };
+    EXPECT_EQ(get(7, 0, data.data(), right), kAudioUnitErr_InvalidScope);
+    EXPECT_EQ(get(scope, 3, data.data(), right), kAudioUnitErr_InvalidElement);
+    EXPECT_EQ(get(scope, 0, data.data(), right - 1), kAudioUnitErr_InvalidPropertyValue);
+    EXPECT_EQ(get(scope, 0, data.data(), 0), kAudioUnitErr_InvalidPropertyValue);
+    EXPECT_EQ(get(scope, 0, nullptr, right), kAudioUnitErr_InvalidPropertyValue);
+    EXPECT_EQ(data, untouched);
+  }
+}
+
+TEST(Properties, WriteTheirOwnSizeIntoALargerBuffer) {
+  Rig rig;
+  std::array<unsigned char, 200> data{};
+  UInt32 size = 200;
+  ASSERT_EQ(
+      rig.unit().getProperty(velk::kConverterProperty_PeakStats, kGlobal, 0, data.data(), size),
+      noErr);
+  EXPECT_EQ(size, 96U);
+}
+
+TEST(Properties, NameWhatIsWrongWithAWriting) {
+  Rig rig;
+  auto& unit = rig.unit();
+  const UInt32 value = 1;
+  const auto set = [&](AudioUnitPropertyID id, AudioUnitScope scope, AudioUnitElement element,
+                       const void* data,
+                       UInt32 size) { return unit.setProperty(id, scope, element, data, size); };
+  for (const AudioUnitPropertyID id :
+       {velk::kConverterProperty_MonitorSource, velk::kConverterProperty_ResetPeakStats,
+        velk::kConverterProperty_ListeningTestActive}) {
+    EXPECT_EQ(set(id, kAudioUnitScope_Input, 0, &value, 4), kAudioUnitErr_InvalidScope);
+    EXPECT_EQ(set(id, kGlobal, 1, &value, 4), kAudioUnitErr_InvalidElement);
+    EXPECT_EQ(set(id, kGlobal, 0, &value, 3), kAudioUnitErr_InvalidPropertyValue);
+    EXPECT_EQ(set(id, kGlobal, 0, &value, 8), kAudioUnitErr_InvalidPropertyValue);
+    EXPECT_EQ(set(id, kGlobal, 0, nullptr, 4), kAudioUnitErr_InvalidPropertyValue);
+  }
+  for (const auto& [id, scope, size] : kReadings) {
+    const bool writable = id == velk::kConverterProperty_MonitorSource ||
+                          id == velk::kConverterProperty_ListeningTestActive ||
+                          id == kAudioUnitProperty_OfflineRender ||
+                          id == kAudioUnitProperty_PresentPreset;
+    std::array<unsigned char, 256> zeros{};
+    EXPECT_EQ(set(id, scope, 0, zeros.data(), size),
+              writable ? OSStatus{noErr} : kAudioUnitErr_PropertyNotWritable)
+        << id;
+  }
+}
+
+TEST(Properties, AreUnknownWhereTheUnitHasNone) {
+  Rig rig;
+  UInt32 value = 1;
+  UInt32 size = sizeof value;
+  for (const AudioUnitPropertyID id : {0U, 1U, 5300U, 5305U, 5309U, 5313U, 0xffffffffU}) {
+    EXPECT_EQ(rig.unit().getProperty(id, kGlobal, 0, &value, size), kAudioUnitErr_InvalidProperty);
+    EXPECT_EQ(rig.unit().setProperty(id, kGlobal, 0, &value, size), kAudioUnitErr_InvalidProperty);
+  }
+  EXPECT_EQ(
+      rig.unit().getProperty(velk::kConverterProperty_ResetPeakStats, kGlobal, 0, &value, size),
+      kAudioUnitErr_InvalidProperty)
+      << "a request has no value to read";
+}
+
+TEST(ConverterUnit, IsNotMadeForFormatsThatItDoesNotDo) {
+  using converter::ConverterUnit;
+  EXPECT_THROW(ConverterUnit::make({.sampleRate = 22050}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.sampleRate = 192000}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.sampleRate = 0}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.channels = 0}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.channels = 6}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.maximumFrames = 0}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.maximumFrames = 8193}), std::invalid_argument);
+  try {
+    ConverterUnit::make({.channels = 6});
+  } catch (const std::invalid_argument& error) {
+    EXPECT_NE(std::strstr(error.what(), "6 channels"), nullptr) << error.what();
+  }
+}
+
+}  // namespace

@@ -1,0 +1,71 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "Rig.h"
+
+namespace {
+
+/// Music far faster than any worker can encode it: the audio thread waits for nothing.
+class Starving : public testing::Test {
+ protected:
+  Starving() {
+    rig_.setPreset(2);
+    rig_.setOffline(false);
+    output_ = rig_.render(input_, 2048);
+    missedAtOnce_ = rig_.missedFrames();
+    // Then there is time again.
+    rig_.setOffline(true);
+    after_ = rig_.render(input_, 2048);
+  }
+
+  Rig rig_{{.sampleRate = 44100, .channels = 2, .maximumFrames = 2048}};
+  const Signal input_ = smoothNoise(2, std::size_t{8} * 44100, 44100, 2200);
+  const std::size_t latency_ = rig_.unit().latency();
+  Signal output_;
+  Signal after_;
+  UInt64 missedAtOnce_ = 0;
+};
+
+TEST_F(Starving, IsCountedFrameByFrame) {
+  ASSERT_GT(missedAtOnce_, 0U);
+  EXPECT_LE(missedAtOnce_, input_[0].size() - latency_);
+  std::size_t silent = 0;
+  for (std::size_t i = latency_; i < output_[0].size(); ++i) {
+    if (output_[0][i] == 0 && output_[1][i] == 0) ++silent;
+  }
+  EXPECT_EQ(silent, missedAtOnce_);
+}
+
+TEST_F(Starving, IsSilenceAndNeverTheSource) {
+  for (std::size_t i = latency_; i < output_[0].size(); ++i) {
+    ASSERT_FALSE(output_[0][i] != 0 && output_[0][i] == input_[0][i - latency_] &&
+                 output_[1][i] == input_[1][i - latency_])
+        << i;
+  }
+}
+
+TEST_F(Starving, LeavesWhatComesLaterInItsPlace) {
+  const std::size_t begin = latency_ + std::size_t{3} * 44100;
+  Signal delayed = silence(2, input_[0].size());
+  for (std::size_t i = latency_; i < delayed[0].size(); ++i)
+    delayed[0][i] = input_[0][i - latency_];
+  EXPECT_LT(std::abs(delayBetween(delayed[0], after_[0], begin, begin + 100000)), 0.55);
+  EXPECT_LT(residual(delayed[0], after_[0], begin, begin + 100000), -20);
+}
+
+TEST_F(Starving, CountsNothingMoreOnceTheWorkerIsWaitedForAndHasCaughtUp) {
+  const UInt64 caughtUp = rig_.missedFrames();
+  rig_.render(input_, 2048);
+  EXPECT_EQ(rig_.missedFrames(), caughtUp);
+}
+
+TEST_F(Starving, LeavesTheSourceWhole) {
+  rig_.setOffline(false);
+  rig_.monitorSource(true);
+  rig_.render(silence(2, 20480), 2048);
+  const Signal source = rig_.renderAligned(input_, 2048);
+  EXPECT_EQ(source, input_);
+}
+
+}  // namespace
