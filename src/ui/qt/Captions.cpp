@@ -32,9 +32,16 @@ class Translator {
         box->setItemText(index, translated(box->itemText(index)));
       }
     }
-    widget.setWindowTitle(translated(widget.windowTitle()));
-    widget.setToolTip(translated(widget.toolTip()));
-    widget.setAccessibleName(translatedParts(widget.accessibleName()));
+    // Setting what is empty would still send an event to every widget.
+    if (!widget.windowTitle().isEmpty()) {
+      widget.setWindowTitle(translated(widget.windowTitle()));
+    }
+    if (!widget.toolTip().isEmpty()) {
+      widget.setToolTip(translated(widget.toolTip()));
+    }
+    if (!widget.accessibleName().isEmpty()) {
+      widget.setAccessibleName(translatedParts(widget.accessibleName()));
+    }
   }
 
  private:

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QUiLoader>
 #include <QVariant>
 #include <string>
@@ -24,9 +26,12 @@ namespace {
 
 constexpr const char* kSeparatorTitle = "-";
 
-/// Makes the skin's own classes beside Qt's.
+/// Makes the skin's own classes beside Qt's, and gives every widget the skin's style while there is
+/// no layout yet that would have to follow.
 class WidgetFactory final : public QUiLoader {
  public:
+  explicit WidgetFactory(QStyle& style) : style_(style) {}
+
   QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
     QWidget* widget = nullptr;
     if (className == QLatin1String("CustomView")) {
@@ -41,28 +46,30 @@ class WidgetFactory final : public QUiLoader {
       widget = new PopUpBox(parent);
     } else {
       widget = QUiLoader::createWidget(className, parent, name);
-      if (widget == nullptr && unknownClass_.empty()) {
-        unknownClass_ = className.toStdString();
-      }
-      return widget;
+    }
+    if (widget == nullptr) {
+      unknownClass_ = className.toStdString();
+      return nullptr;
     }
     widget->setObjectName(name);
+    widget->setStyle(&style_);
     return widget;
   }
 
-  /// The first class that nobody could make; empty if there was none.
+  /// A class that nobody could make; empty if there was none.
   const std::string& unknownClass() const { return unknownClass_; }
 
  private:
+  QStyle& style_;
   std::string unknownClass_;
 };
 
-std::unique_ptr<QWidget> read(const std::filesystem::path& path) {
+std::unique_ptr<QWidget> read(const std::filesystem::path& path, QStyle& style) {
   QFile file(QString::fromStdString(path.string()));
   if (!file.open(QIODevice::ReadOnly)) {
     throw InterfaceError("cannot be opened: " + file.errorString().toStdString());
   }
-  WidgetFactory factory;
+  WidgetFactory factory(style);
   std::unique_ptr<QWidget> top(factory.load(&file));
   if (!factory.unknownClass().empty()) {
     throw InterfaceError("a widget is of an unknown class, \"" + factory.unknownClass() + "\"");
@@ -113,13 +120,13 @@ void makeSeparators(QComboBox& box) {
 }
 
 void dress(QtView& view, QSize drawnSize) {
-  auto style = std::make_unique<SkinStyle>();
+  const TextStyles textStyles;
   view.setFont(viewFont());
-  view.setStyle(style.get());
   for (QWidget* widget : view.findChildren<QWidget*>()) {
-    widget->setStyle(style.get());
-    if (auto* label = qobject_cast<QLabel*>(widget)) {
-      applyTextStyle(*label, label->property("textStyle").toString());
+    if (auto* tabs = qobject_cast<QTabWidget*>(widget)) {
+      tabs->tabBar()->setStyle(view.style());
+    } else if (auto* label = qobject_cast<QLabel*>(widget)) {
+      textStyles.apply(label->property("textStyle").toString(), *label);
     } else if (auto* box = qobject_cast<QComboBox*>(widget)) {
       makeSeparators(*box);
     }
@@ -132,17 +139,18 @@ void dress(QtView& view, QSize drawnSize) {
       new FramePlacement(*widget, view, drawnSize.height());
     }
   }
-  view.setSkinStyle(std::move(style));
 }
 
 }  // namespace
 
 Form loadForm(const std::filesystem::path& file) {
-  const std::unique_ptr<QWidget> top = read(file);
+  auto style = std::make_unique<SkinStyle>();
+  const std::unique_ptr<QWidget> top = read(file, *style);
   Form form;
   form.drawnSize = top->size();
   form.view = takeApart(*top);
   dress(*form.view, form.drawnSize);
+  form.view->setSkinStyle(std::move(style));
   connectCaptionClicks(*form.view);
   return form;
 }

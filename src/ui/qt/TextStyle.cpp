@@ -44,22 +44,23 @@ QFont tabularFont(const QFont& font) {
   return fixed;
 }
 
-void applyTextStyle(QLabel& label, const QString& style) {
+TextStyles::TextStyles() : plain_(viewFont()), tabular_(tabularFont(plain_)) {}
+
+void TextStyles::apply(const QString& style, QLabel& label) const {
   const QStringList words = style.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-  QFont font = viewFont();
+  if (words.isEmpty()) {
+    return;
+  }
+  QFont font = words.contains(QLatin1String("tabular")) ? tabular_ : plain_;
   if (words.contains(QLatin1String("small"))) {
     font.setPixelSize(kSmallTextSize);
   }
   font.setBold(words.contains(QLatin1String("strong")));
-  label.setFont(words.contains(QLatin1String("tabular")) ? tabularFont(font) : font);
+  label.setFont(font);
   if (words.contains(QLatin1String("secondary"))) {
     // A role that means quieter text; the skin's style chooses its colour.
     label.setForegroundRole(QPalette::PlaceholderText);
   }
-}
-
-bool isSecondary(const QLabel& label) {
-  return label.foregroundRole() == QPalette::PlaceholderText;
 }
 
 }  // namespace ui::qt

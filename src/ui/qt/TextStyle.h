@@ -15,11 +15,16 @@ QFont viewFont();
 /// system's fixed one.
 QFont tabularFont(const QFont& font);
 
-/// Applies a style of the interface file: any of the words "secondary", "small", "strong" and
-/// "tabular", separated by blanks.
-void applyTextStyle(QLabel& label, const QString& style);
+/// The styles of the interface file, with their fonts made once for a whole form.
+class TextStyles {
+ public:
+  TextStyles();
+  /// `style` is any of the words "secondary", "small", "strong" and "tabular", separated by blanks.
+  void apply(const QString& style, QLabel& label) const;
 
-/// Whether a widget's text is drawn in the quieter colour of captions.
-bool isSecondary(const QLabel& label);
+ private:
+  QFont plain_;
+  QFont tabular_;
+};
 
 }  // namespace ui::qt
