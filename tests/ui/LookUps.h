@@ -8,5 +8,6 @@
 /// keys that the C++ source looks up, as far as they stand in the call itself.
 std::set<std::string> lookedUpKeys(std::string_view source);
 
-/// Every caption of a Qt interface file that is looked up as it is loaded.
+/// Every caption of a Qt interface file that is looked up as it is loaded: texts, titles, tool
+/// tips, number formats, and each part of an accessible name.
 std::set<std::string> captions(std::string_view interfaceFile);
