@@ -47,6 +47,12 @@ std::string firstLine(const std::string& text) {
   return text.substr(0, text.find('\n'));
 }
 
+/// Where a path leads, however it is written.
+std::filesystem::path place(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
+}
+
 bool monitorsSource(const std::string& word) {
   if (word == "source") return true;
   if (word == "encoded") return false;
@@ -63,7 +69,11 @@ void check(const AuditionOptions& options) {
   if (options.preset && options.setting) {
     throw UsageError("--preset and --set contradict each other: give one of them");
   }
-  if (options.record && options.screenshot && *options.record == *options.screenshot) {
+  if (options.device && options.device->empty()) {
+    throw UsageError("bad --device '': give a device's name or none");
+  }
+  if (options.record && options.screenshot &&
+      place(*options.record) == place(*options.screenshot)) {
     throw UsageError("--record and --screenshot name the same file: give two");
   }
   std::error_code error;
@@ -84,9 +94,9 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
   app.footer(footer);
   app.set_version_flag("--version", "aac-audition 0.1.0", "Print the version and exit");
   AuditionOptions options;
-  std::string monitor;
-  std::string preset;
-  std::string setting;
+  std::optional<std::string> monitor;
+  std::optional<std::string> preset;
+  std::optional<std::string> setting;
   app.add_option("FILE", options.file, "The sound file to play");
   app.add_flag("--headless", options.headless, "Run off screen, as fast as it goes, and end");
   app.add_option("--seconds", options.seconds, "End after this much of the file")->type_name("N");
@@ -114,9 +124,9 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
   } catch (const CLI::ParseError& error) {
     throw UsageError(firstLine(error.what()));
   }
-  if (!monitor.empty()) options.monitorsSource = monitorsSource(monitor);
-  if (!preset.empty()) options.preset = presetIndex(preset);
-  if (!setting.empty()) options.setting = parsedEncoderSetting(setting);
+  if (monitor) options.monitorsSource = monitorsSource(*monitor);
+  if (preset) options.preset = presetIndex(*preset);
+  if (setting) options.setting = parsedEncoderSetting(*setting);
   check(options);
   return options;
 }

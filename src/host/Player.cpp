@@ -40,6 +40,7 @@ void Player::limitLength(std::int64_t frames) {
 
 void Player::play() {
   if (isFinished()) seek(0);
+  if (silent_) start_ = position();
   wanted_ = Wanted::Sound;
 }
 
@@ -77,7 +78,9 @@ void Player::wake() {
 }
 
 std::int64_t Player::audiblePosition(std::uint32_t deviceLatency) const {
-  return std::max(position() - static_cast<std::int64_t>(deviceLatency), start_);
+  const auto pending = std::max<std::int64_t>(
+      std::int64_t{deviceLatency} - silence_.load(std::memory_order_relaxed), 0);
+  return std::max(position() - pending, start_);
 }
 
 void Player::seek(std::int64_t frame) {
@@ -195,6 +198,8 @@ void Player::renderBlock(float* const* planes, std::uint32_t frames) noexcept {
   for (std::uint32_t channel = 0; channel < format().channels; ++channel) {
     std::fill(planes[channel] + done, planes[channel] + frames, 0.0F);
   }
+  const auto silence = done > 0 ? 0 : silence_.load(std::memory_order_relaxed);
+  silence_.store(silence + frames - done, std::memory_order_relaxed);
   rendering_ = false;
 }
 

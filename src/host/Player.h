@@ -45,7 +45,8 @@ class Player : public BlockRenderer {
   void seek(std::int64_t frame);
   /// The next frame to leave the unit.
   std::int64_t position() const { return position_.load(std::memory_order_relaxed); }
-  /// The frame that sounds now from a device with this latency, in frames.
+  /// The frame that sounds now from a device with this latency, in frames; the last one that did
+  /// once the device has run dry.
   std::int64_t audiblePosition(std::uint32_t deviceLatency) const;
   /// Frames of silence because the source could not be read fast enough.
   std::uint64_t missedFrames() const { return missed_.load(std::memory_order_relaxed); }
@@ -82,6 +83,7 @@ class Player : public BlockRenderer {
   AudioTap* tap_ = nullptr;
   bool deviceRuns_ = false;
   bool offline_ = false;
+  /// Where the device began to play, from silence.
   std::int64_t start_ = 0;
 
   std::atomic<Wanted> wanted_{Wanted::Silence};
@@ -89,6 +91,8 @@ class Player : public BlockRenderer {
   std::atomic<std::int64_t> position_{0};
   std::atomic<std::int64_t> end_;
   std::atomic<std::uint64_t> missed_{0};
+  /// Frames of silence rendered since the last one of sound.
+  std::atomic<std::int64_t> silence_{0};
 
   /// The main thread keeps the audio thread out while it works on reader and unit.
   std::atomic<bool> suspended_{false};

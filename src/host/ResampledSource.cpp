@@ -47,7 +47,7 @@ ResampledSource::~ResampledSource() = default;
 void ResampledSource::restart() {
   soxr_error_t error = nullptr;
   const auto samples = soxr_io_spec(SOXR_FLOAT32_I, SOXR_FLOAT32_I);
-  const auto quality = soxr_quality_spec(SOXR_VHQ, 0);
+  const auto quality = soxr_quality_spec(SOXR_VHQ, SOXR_ROLLOFF_NONE | SOXR_HI_PREC_CLOCK);
   const auto threads = soxr_runtime_spec(1);
   resampler_.reset(soxr_create(original_->format().sampleRate, format_.sampleRate, format_.channels,
                                &error, &samples, &quality, &threads));

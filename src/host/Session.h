@@ -42,8 +42,8 @@ class Session {
   /// Plays to the device, or to nobody without one. Throws `Failure` and plays to nobody when the
   /// device cannot be opened.
   void setDevice(const std::optional<Device>& device);
-  /// Plays to the first of the devices that works, or to nobody. Gives why a device was passed
-  /// over, empty if none was.
+  /// Plays to the first of the devices that works, or to nobody. Gives why there was no playing to
+  /// the first of them when none works, else nothing.
   std::string setFirstWorkingDevice(const std::vector<Device>& devices);
   /// The device that plays; nothing while nobody listens.
   const std::optional<Device>& device() const { return device_; }

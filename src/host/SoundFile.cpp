@@ -82,7 +82,9 @@ SoundFile::SoundFile(const std::filesystem::path& path) : path_(path) {
   sf_command(handle(file_.get()), SFC_GET_LOG_INFO, log.data(), static_cast<int>(log.size()));
   if (promisesMoreThanItHolds(log.data())) *truncated_ = true;
   if (frames_ == SF_COUNT_MAX) {
-    *truncated_ = true;
+    // The last page of an Ogg file says that it is the last. A FLAC stream out of a pipe just never
+    // learnt its length.
+    if (isOgg_) *truncated_ = true;
     const auto held = countFrames();
     open();
     frames_ = held;
@@ -115,6 +117,7 @@ void SoundFile::open() {
                       " Hz; give a file from 2 to 768 kHz");
   }
   frames_ = info.frames;
+  isOgg_ = (info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG;
 }
 
 std::int64_t SoundFile::countFrames() {

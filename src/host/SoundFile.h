@@ -42,6 +42,7 @@ class SoundFile : public AudioSource {
   std::unique_ptr<void, Close> file_;
   AudioFormat format_;
   std::int64_t frames_ = 0;
+  bool isOgg_ = false;
   std::int64_t position_ = 0;
   std::shared_ptr<std::atomic<bool>> truncated_ = std::make_shared<std::atomic<bool>>(false);
 };

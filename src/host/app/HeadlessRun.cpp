@@ -57,7 +57,7 @@ void turnWhile(const std::function<bool()>& work, bool& interrupted) {
       error = std::current_exception();
     }
     timer.stop();
-    QApplication::quit();
+    QApplication::exit();
   });
   timer.start(0);
   QApplication::exec();
@@ -66,7 +66,7 @@ void turnWhile(const std::function<bool()>& work, bool& interrupted) {
 
 void settle(bool& interrupted) {
   if (interrupted) return;
-  QTimer::singleShot(settlingMilliseconds, [] { QApplication::quit(); });
+  QTimer::singleShot(settlingMilliseconds, [] { QApplication::exit(); });
   QApplication::exec();
 }
 
@@ -86,7 +86,7 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   bool interrupted = false;
   const auto listening = signals.listen([&] {
     interrupted = true;
-    QApplication::quit();
+    QApplication::exit();
   });
   audition.window().show();
   QTimer refresh;

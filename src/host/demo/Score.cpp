@@ -1,0 +1,33 @@
+#include "host/demo/Score.h"
+
+#include <cmath>
+
+#include "host/demo/Stereo.h"
+
+namespace host::demo {
+namespace {
+
+constexpr std::size_t barsOfPiece = 12;
+constexpr std::size_t barsOfOpening = 4;
+
+}  // namespace
+
+Bar barAt(std::size_t number) {
+  static constexpr std::array<Bar, 4> progression = {{{33, {57, 60, 64, 67}, true},
+                                                      {29, {57, 60, 64, 65}, true},
+                                                      {36, {55, 60, 64, 71}, true},
+                                                      {31, {55, 59, 62, 69}, true}}};
+  auto bar = progression[number % progression.size()];
+  bar.isFull = number % barsOfPiece >= barsOfOpening;
+  return bar;
+}
+
+double hertzOf(int note) {
+  return 440 * std::exp2((note - 69) / 12.0);
+}
+
+std::size_t frameOf(std::size_t sixteenth) {
+  return framesIn(static_cast<double>(sixteenth) * secondsPerSixteenth);
+}
+
+}  // namespace host::demo
