@@ -32,7 +32,7 @@ std::string chosenLanguage(const std::filesystem::path& resources,
       return language;
     }
     // "de_AT" and "de-AT" settle for "de".
-    const std::string withoutRegion = language.substr(0, language.find_first_of("_-.@"));
+    std::string withoutRegion = language.substr(0, language.find_first_of("_-.@"));
     if (isThere(withoutRegion)) {
       return withoutRegion;
     }
@@ -79,7 +79,7 @@ class Bundle::Tables {
   std::map<std::string, StringsTable, std::less<>> tables_;
 };
 
-Bundle::Bundle(std::filesystem::path resources, std::vector<std::string> languages)
+Bundle::Bundle(std::filesystem::path resources, const std::vector<std::string>& languages)
     : tables_(std::make_unique<Tables>(std::move(resources), languages)) {}
 
 Bundle::~Bundle() = default;

@@ -17,7 +17,7 @@ class UI_EXPORT Bundle {
   /// `languages` are codes such as "de" in the user's order of preference; the first that the
   /// bundle has is used, else "en". A code with a region, "de_AT" or "de-AT", settles for its
   /// language. Tables are read when they are first asked for.
-  Bundle(std::filesystem::path resources, std::vector<std::string> languages);
+  Bundle(std::filesystem::path resources, const std::vector<std::string>& languages);
   Bundle(const Bundle&) = delete;
   Bundle& operator=(const Bundle&) = delete;
   ~Bundle();

@@ -15,13 +15,15 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 class AssertionHandlerTest : public testing::Test {
- protected:
-  AssertionHandlerTest()
-      : earlier_(ui::setLogSink([this](std::string_view line) { lines.emplace_back(line); })) {}
+ public:
   ~AssertionHandlerTest() override {
     ui::AssertionHandler::setCurrentHandler(nullptr);
     ui::setLogSink(earlier_);
   }
+
+ protected:
+  AssertionHandlerTest()
+      : earlier_(ui::setLogSink([this](std::string_view line) { lines.emplace_back(line); })) {}
 
   const ui::Assertion assertion{"setParameterValue:value:", this, "AACConverter/View", 84,
                                 "the unit refused"};

@@ -17,6 +17,9 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 class BundleTest : public testing::Test {
+ public:
+  ~BundleTest() override { ui::setLogSink(earlier_); }
+
  protected:
   BundleTest() {
     for (const char* language : {"en", "de", "fr"}) {
@@ -26,7 +29,6 @@ class BundleTest : public testing::Test {
     }
     earlier_ = ui::setLogSink([this](std::string_view line) { lines.emplace_back(line); });
   }
-  ~BundleTest() override { ui::setLogSink(earlier_); }
 
   std::filesystem::path folderOf(const std::string& language) const {
     return resources / (language + ".lproj");

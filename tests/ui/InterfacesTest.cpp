@@ -16,13 +16,15 @@
 namespace {
 
 class LoadedSkin : public testing::Test {
- protected:
-  void SetUp() override { ASSERT_NE(library, nullptr) << dlerror(); }
+ public:
   ~LoadedSkin() override {
     if (library != nullptr) {
       dlclose(library);
     }
   }
+
+ protected:
+  void SetUp() override { ASSERT_NE(library, nullptr) << dlerror(); }
 
   template <class Function>
   Function find(const char* symbol) const {

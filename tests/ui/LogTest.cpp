@@ -20,10 +20,12 @@ using testing::MatchesRegex;
 using testing::SizeIs;
 
 class LogTest : public testing::Test {
+ public:
+  ~LogTest() override { ui::setLogSink(earlier_); }
+
  protected:
   LogTest()
       : earlier_(ui::setLogSink([this](std::string_view line) { lines.emplace_back(line); })) {}
-  ~LogTest() override { ui::setLogSink(earlier_); }
 
   std::vector<std::string> lines;
 
@@ -63,6 +65,7 @@ TEST_F(LogTest, TakesLinesOfManyThreadsOneByOne) {
   constexpr int threadCount = 4;
   constexpr int lineCount = 250;
   std::vector<std::thread> threads;
+  threads.reserve(threadCount);
   for (int thread = 0; thread < threadCount; ++thread) {
     threads.emplace_back([thread] {
       for (int line = 0; line < lineCount; ++line) {

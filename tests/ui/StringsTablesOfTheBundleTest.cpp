@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 #include <iterator>
 #include <numeric>
@@ -118,10 +119,10 @@ const std::set<std::string> kTextsOfTheView = {
     "You are currently performing a listening test. Would you like to stop the test?",
     "%@/%@ (%@ Correct)",
     "0/0- Test aborted",
-    "Test Incomplete. You need to perform at least 10 tests for your results to be "
-    "statistically significant.",
-    "You were not successful in identifying the encoded audio in a statistically "
-    "significant manner. You needed %@ correct answers to pass this test",
+    ("Test Incomplete. You need to perform at least 10 tests for your results to be "
+     "statistically significant."),
+    ("You were not successful in identifying the encoded audio in a statistically "
+     "significant manner. You needed %@ correct answers to pass this test"),
     "You successfully identified the encoded audio with a 95% confidence rating.",
     "Save Test Results",
     "ListeningTestResults-%@",
@@ -280,12 +281,12 @@ TEST_P(ResultsFileOf, CanHoldEveryTextOfTheTable) {
 TEST_P(ResultsFileOf, CanHoldTheNumbersAndDatesOfAWholeYear) {
   const auto localization = ui::makeLocalization(GetParam().locale);
   std::vector<std::string> texts;
-  for (int day = 0; day < 366; ++day) {
+  for (std::int64_t day = 0; day < 366; ++day) {
     const std::chrono::system_clock::time_point moment{std::chrono::seconds(1700000000) +
                                                        std::chrono::hours(25 * day)};
     texts.push_back(localization->longDateShortTime(moment));
     texts.push_back(localization->plain(day * 1000));
-    texts.push_back(localization->percent(day / 100.0));
+    texts.push_back(localization->percent(static_cast<double>(day) / 100));
   }
   EXPECT_THAT(unsavable(texts), IsEmpty());
 }

@@ -67,14 +67,8 @@ TEST_F(MacRomanFile, IsWrittenWholeWhenTheTextIsLong) {
 }
 
 TEST_F(MacRomanFile, IsNotWrittenWhenACharacterIsMissingInTheEncoding) {
-  for (const char* text :
-       {"85\u202F%",
-        "\u2212"
-        "0.1",
-        "a\u200B", "a\u00AD",
-        "\uFEFF"
-        "a",
-        "\u2126", "\u03B1", "\u0661", "e\u0301", "\u97F3", "\xF0\x9D\x84\x9E", "\u2326"}) {
+  for (const char* text : {"85\u202F%", "\u2212 0.1", "a\u200B", "a\u00AD", "\uFEFF a", "\u2126",
+                           "\u03B1", "\u0661", "e\u0301", "\u97F3", "\xF0\x9D\x84\x9E", "\u2326"}) {
     EXPECT_FALSE(ui::writeMacRoman(file, text)) << text;
   }
   EXPECT_THAT(folder.names(), IsEmpty());
