@@ -14,14 +14,14 @@ StatusLine::StatusLine(QWidget* parent)
       encoder_(new ElidedLabel(Qt::ElideRight, this)),
       notice_(new ElidedLabel(Qt::ElideRight, this)) {
   notice_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  for (auto* const label : {encoder_, notice_}) {
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  }
+  // The notice has the room that the encoder's text leaves.
+  encoder_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(2 * grid, grid, 2 * grid, grid);
   row->setSpacing(2 * grid);
-  row->addWidget(encoder_, 4);
-  row->addWidget(notice_, 3);
+  row->addWidget(encoder_);
+  row->addWidget(notice_, 1);
 }
 
 void StatusLine::setEncoderText(const QString& text) {

@@ -1,6 +1,5 @@
 #include "host/app/TransportBar.h"
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -19,7 +18,6 @@ Control* keepingFocusInView(Control* control) {
 
 QLabel* timeLabel(QWidget* parent) {
   auto* const label = new QLabel(timeText(0), parent);
-  label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   label->setMinimumWidth(label->fontMetrics().horizontalAdvance("0:00:00"));
   return label;
 }

@@ -1,11 +1,12 @@
-#include <QApplication>
 #include <clocale>
 #include <cstdlib>
 #include <exception>
 
 #include "host/CommandLine.h"
 #include "host/Failure.h"
+#include "host/app/Application.h"
 #include "host/app/Run.h"
+#include "host/app/ToolkitMessages.h"
 #include "host/app/Words.h"
 
 namespace {
@@ -33,7 +34,8 @@ int run(const host::AuditionOptions& options, const char* program) {
   // The toolkit's own options are not this program's: it only gets its name.
   int count = 1;
   char* arguments[] = {const_cast<char*>(program), nullptr};
-  const QApplication application(count, arguments);
+  host::app::tameToolkitMessages();
+  const host::app::Application application(count, arguments);
   QApplication::setApplicationName("aac-audition");
   // Numbers for machines keep their point whatever the user's language.
   std::setlocale(LC_NUMERIC, "C");

@@ -19,7 +19,7 @@ constexpr double bassLevel = 0.5;
 constexpr double chordLevel = 0.8;
 constexpr double arpeggioLevel = 0.32;
 constexpr double clapLevel = 0.9;
-constexpr double hatLevel = 0.5;
+constexpr double hatLevel = 0.7;
 /// How far the mix is driven into the limiter.
 constexpr double drive = 2.4;
 
@@ -104,7 +104,12 @@ Stereo demoMix(double seconds) {
     mix.left[i] = drive * mixed(parts, &Stereo::left, i);
     mix.right[i] = drive * mixed(parts, &Stereo::right, i);
   }
-  limit(mix);
+  // Full scale for the largest sample lifts the wave between the samples above it again, a little
+  // less each time.
+  for (int pass = 0; pass < 3; ++pass) {
+    limit(mix);
+    scaleToFullScale(mix);
+  }
   for (std::size_t i = 0; i < frames; ++i) {
     mix.left[i] *= fading(i, frames);
     mix.right[i] *= fading(i, frames);

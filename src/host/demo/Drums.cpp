@@ -7,6 +7,23 @@
 #include "host/demo/Noise.h"
 
 namespace host::demo {
+namespace {
+
+/// Noise between 7.5 and 13 kHz or so.
+class Cymbal {
+ public:
+  explicit Cymbal(std::uint32_t seed) : noise_(seed) {}
+
+  double next() { return soft_.next(softer_.next(bright_.next(noise_.next()).high).low).low; }
+
+ private:
+  Noise noise_;
+  Filter bright_{7500};
+  Filter soft_{13000};
+  Filter softer_{13000};
+};
+
+}  // namespace
 
 void playKick(Stereo& mix, std::size_t at) {
   constexpr double deepest = 47;
@@ -40,15 +57,12 @@ void playClap(Stereo& mix, std::size_t at, std::uint32_t seed) {
 }
 
 void playHat(Stereo& mix, std::size_t at, double level, bool isOpen, std::uint32_t seed) {
-  Noise noiseLeft(2 * seed);
-  Noise noiseRight(2 * seed + 1);
-  Filter left(7500);
-  Filter right(7500);
+  Cymbal left(2 * seed);
+  Cymbal right(2 * seed + 1);
   const double decaySeconds = isOpen ? 0.09 : 0.02;
   for (std::size_t i = 0; i < framesIn(5 * decaySeconds); ++i) {
     const double now = level * std::exp(-static_cast<double>(i) / sampleRate / decaySeconds);
-    mix.add(at + i, now * left.next(noiseLeft.next()).high,
-            now * right.next(noiseRight.next()).high);
+    mix.add(at + i, now * left.next(), now * right.next());
   }
 }
 

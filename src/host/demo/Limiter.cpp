@@ -1,6 +1,9 @@
 #include "host/demo/Limiter.h"
 
+#include <algorithm>
 #include <deque>
+
+#include "host/demo/Peaks.h"
 
 namespace host::demo {
 namespace {
@@ -35,9 +38,11 @@ void recoverSlowly(std::vector<double>& gains) {
 
 void limit(Stereo& mix) {
   const auto ahead = framesIn(lookAheadSeconds);
+  const auto left = peaksOf(mix.left);
+  const auto right = peaksOf(mix.right);
   std::vector<double> gains(mix.frames());
   for (std::size_t i = 0; i < mix.frames(); ++i) {
-    gains[i] = 1 / std::max({1.0, std::abs(mix.left[i]), std::abs(mix.right[i])});
+    gains[i] = 1 / std::max({1.0, left[i], right[i]});
   }
   gains = leastAhead(gains, ahead);
   recoverSlowly(gains);

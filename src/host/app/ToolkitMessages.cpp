@@ -1,0 +1,30 @@
+#include "host/app/ToolkitMessages.h"
+
+#include <unistd.h>
+
+#include <QString>
+#include <QtGlobal>
+#include <cstdlib>
+
+#include "host/app/Words.h"
+
+namespace host::app {
+namespace {
+
+void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  if (type == QtCriticalMsg) warn(text.toStdString());
+  if (type != QtFatalMsg) return;
+  complain(text.simplified().toStdString());
+  // The toolkit would abort and leave a core file behind.
+  ::_exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+void tameToolkitMessages() {
+  const bool wanted = qEnvironmentVariableIsSet("QT_LOGGING_RULES") ||
+                      qEnvironmentVariableIsSet("QT_DEBUG_PLUGINS");
+  if (!wanted) qInstallMessageHandler(handle);
+}
+
+}  // namespace host::app
