@@ -130,8 +130,9 @@ void applyEncoderSetting(AudioUnit unit, const EncoderSetting& setting) {
       AudioUnitGetProperty(unit, kAudioUnitProperty_ParameterInfo, kAudioUnitScope_Global,
                            velk::kConverterParam_Format, &info, &size);
   if (status == noErr && static_cast<float>(setting.format) > info.maxValue) {
-    throw Failure("this converter has no " + formatName(setting.format) +
-                  " encoder; choose the format aac");
+    throw Failure("the converter does not do " + formatName(setting.format) +
+                  " for this file; choose the format " +
+                  (info.maxValue >= 1 ? "he or aac" : "aac"));
   }
   setParameter(unit, velk::kConverterParam_Format, setting.format);
   setParameter(unit, velk::kConverterParam_Strategy, setting.strategy);

@@ -41,8 +41,6 @@ Recorder::Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format)
     throw Failure("cannot write '" + target_->path().string() + "': " + sf_strerror(nullptr));
   }
   sf_command(handle(file_.get()), SFC_RF64_AUTO_DOWNGRADE, nullptr, SF_TRUE);
-  // The peak chunk holds the time of day; without it equal recordings are equal files.
-  sf_command(handle(file_.get()), SFC_SET_ADD_PEAK_CHUNK, nullptr, SF_FALSE);
   writer_ = std::thread([this] { write(); });
 }
 

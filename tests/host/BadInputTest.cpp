@@ -76,6 +76,12 @@ const BadInput files[] = {
      all("mix.wav"), 1, "1000 Hz", "give a file from 2 to 768 kHz"},
     {"NoSamples", [](const auto& folder) { writeSound(folder / "mix.wav", silence(48000, 2, 0)); },
      all("mix.wav"), 1, "'mix.wav'", "give a file with at least one sample"},
+    {"MonoForParametricStereo",
+     [](const auto& folder) { writeSound(folder / "mix.wav", noise(48000, 1, 4800)); },
+     {"mix.wav", "--headless", "--record", "out.wav", "--set", "hev2,abr,32"},
+     1,
+     "AAC HEv2",
+     "choose the format he or aac"},
     {"NameOfTwoLines", nothing, all("a\nb.wav"), 1, "a b.wav", "give the path of a sound file"},
 };
 
