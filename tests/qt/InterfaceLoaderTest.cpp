@@ -170,6 +170,13 @@ TEST_F(InterfaceLoader, MakesTheFactoryLogTheFaultAndGiveNoView) {
                                      testing::Matcher<std::string>(HasSubstr("showNoHelp:"))}));
 }
 
+TEST_F(InterfaceLoader, NamesAPlaceThatNoGridHas) {
+  resources_.rewrite("<item row=\"6\" column=\"6\">", "<item row=\"-427\" column=\"6\">");
+  EXPECT_THAT(fault(), HasSubstr("\"-427\""));
+  resources_.rewrite("row=\"-427\"", "row=\"1073741824\"");
+  EXPECT_THAT(fault(), HasSubstr("\"1073741824\""));
+}
+
 TEST_F(InterfaceLoader, SurvivesEveryCutOfTheFile) {
   std::ifstream stream(resources_.interfaceFile());
   const std::string whole{std::istreambuf_iterator<char>(stream), {}};

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <cerrno>
@@ -79,11 +80,23 @@ class AudioUnitPump final : public QObject {
   QTimer timer_;
 };
 
+/// Ends the pump with the thread, if the application object lives longer. Made after the thread's
+/// run loop, it goes before it.
+struct EndOfThread {
+  EndOfThread() = default;
+  EndOfThread(const EndOfThread&) = delete;
+  EndOfThread& operator=(const EndOfThread&) = delete;
+  ~EndOfThread() { delete pump; }
+
+  QPointer<AudioUnitPump> pump;
+};
+
 }  // namespace
 
 void pumpAudioUnitEvents() {
   if (!CFRunLoopGetCurrent()->hasWakeUp()) {
-    new AudioUnitPump(QCoreApplication::instance());
+    thread_local EndOfThread end;
+    end.pump = new AudioUnitPump(QCoreApplication::instance());
   }
 }
 

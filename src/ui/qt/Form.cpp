@@ -1,5 +1,6 @@
 #include "ui/qt/Form.h"
 
+#include <QBuffer>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -8,7 +9,10 @@
 #include <QTabWidget>
 #include <QUiLoader>
 #include <QVariant>
+#include <charconv>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 #include "ui/InterfaceFile.h"
 #include "ui/qt/CaptionClicks.h"
@@ -64,13 +68,43 @@ class WidgetFactory final : public QUiLoader {
   std::string unknownClass_;
 };
 
+/// Qt's grid layout takes any number for a place and writes outside its memory for a negative one.
+void requirePlaceOfGrid(std::string_view item) {
+  constexpr int kMostPlaces = 1000;
+  for (const std::string_view attribute : {"row=\"", "column=\"", "rowspan=\"", "colspan=\""}) {
+    const std::size_t at = item.find(attribute);
+    if (at == std::string_view::npos) {
+      continue;
+    }
+    std::string_view value = item.substr(at + attribute.size());
+    value = value.substr(0, value.find('"'));
+    int place = -1;
+    const auto read = std::from_chars(value.data(), value.data() + value.size(), place);
+    if (read.ec != std::errc() || place < 0 || place > kMostPlaces) {
+      throw InterfaceError("no grid has the place \"" + std::string(value) + "\"");
+    }
+  }
+}
+
+void requirePlacesOfGrids(std::string_view form) {
+  constexpr std::string_view kItem = "<item ";
+  for (std::size_t at = form.find(kItem); at != std::string_view::npos;
+       at = form.find(kItem, at + kItem.size())) {
+    requirePlaceOfGrid(form.substr(at, form.find('>', at) - at));
+  }
+}
+
 std::unique_ptr<QWidget> read(const std::filesystem::path& path, QStyle& style) {
   QFile file(QString::fromStdString(path.string()));
   if (!file.open(QIODevice::ReadOnly)) {
     throw InterfaceError("cannot be opened: " + file.errorString().toStdString());
   }
+  QByteArray form = file.readAll();
+  requirePlacesOfGrids({form.constData(), static_cast<std::size_t>(form.size())});
+  QBuffer buffer(&form);
+  buffer.open(QIODevice::ReadOnly);
   WidgetFactory factory(style);
-  std::unique_ptr<QWidget> top(factory.load(&file));
+  std::unique_ptr<QWidget> top(factory.load(&buffer));
   if (!factory.unknownClass().empty()) {
     throw InterfaceError("a widget is of an unknown class, \"" + factory.unknownClass() + "\"");
   }
@@ -80,19 +114,19 @@ std::unique_ptr<QWidget> read(const std::filesystem::path& path, QStyle& style) 
   return top;
 }
 
+/// Takes the sheets out before the view, which is the page that shows: a page that comes to the
+/// front is laid out at once.
 std::unique_ptr<QtView> takeApart(QWidget& top) {
   auto* pages = qobject_cast<QStackedWidget*>(&top);
   if (pages == nullptr) {
     throw InterfaceError("its top widget is no QStackedWidget");
   }
-  std::unique_ptr<QtView> view;
+  QtView* view = nullptr;
   std::vector<SheetDialog*> sheets;
-  for (int index = pages->count() - 1; index >= 0; --index) {
+  for (int index = 0; index < pages->count(); ++index) {
     QWidget* page = pages->widget(index);
-    if (auto* custom = dynamic_cast<QtView*>(page); custom != nullptr && !view) {
-      pages->removeWidget(custom);
-      custom->setParent(nullptr);
-      view.reset(custom);
+    if (auto* custom = dynamic_cast<QtView*>(page); custom != nullptr && view == nullptr) {
+      view = custom;
     } else if (auto* sheet = dynamic_cast<SheetDialog*>(page)) {
       sheets.push_back(sheet);
     } else {
@@ -100,14 +134,16 @@ std::unique_ptr<QtView> takeApart(QWidget& top) {
                            "\" is neither its one view nor a sheet");
     }
   }
-  if (!view) {
+  if (view == nullptr) {
     throw InterfaceError("it has no page of the class CustomView");
   }
   for (SheetDialog* sheet : sheets) {
     pages->removeWidget(sheet);
     sheet->becomeWindowOf(*view);
   }
-  return view;
+  pages->removeWidget(view);
+  view->setParent(nullptr);
+  return std::unique_ptr<QtView>(view);
 }
 
 void makeSeparators(QComboBox& box) {
