@@ -65,6 +65,7 @@ TruePeakSpeed measureTruePeakSpeed(const std::vector<float>& samples, int rounds
 
 double measureMeteringLoad(const std::vector<float>& samples, std::size_t block, int rounds) {
   std::vector<double> turns;
+  turns.reserve(static_cast<std::size_t>(rounds));
   for (int round = 0; round < rounds; ++round) {
     turns.push_back(secondsOf([&] {
       converter::SignalMeters meters(2);

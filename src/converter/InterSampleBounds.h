@@ -81,10 +81,10 @@ constexpr auto halfGridOfSamples() {
   std::array<PointWeights<2 * reach + 2>, 2 * reach + 2> samples{};
   for (std::size_t i = 0; i < samples.size(); ++i) samples[i].of[i] = 1;
   HalfGrid<PointWeights<2 * reach + 2>> grid{};
-  for (int step = -5; step <= 7; ++step) {
-    const auto* sample = samples.data() + (static_cast<int>(reach) + (step + 6) / 2 - 3);
-    grid.points[static_cast<std::size_t>(step + 5)] =
-        step % 2 == 0 ? *sample : midpoint(kHalfFilter, sample);
+  // The grid begins half-way between the third and the second sample before the interval's own.
+  for (std::size_t i = 0; i < grid.points.size(); ++i) {
+    const auto* const sample = samples.data() + (reach - 3 + (i + 1) / 2);
+    grid.points[i] = i % 2 == 0 ? midpoint(kHalfFilter, sample) : *sample;
   }
   return grid;
 }

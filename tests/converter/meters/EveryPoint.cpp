@@ -16,12 +16,10 @@ EveryPointReadings everyPoint(const std::vector<float>& samples, std::size_t fir
   padded.resize(padded.size() + margin);
   EveryPointReadings readings;
   for (std::size_t n = first; n < last; ++n) {
-    const float* const here = padded.data() + margin + n;
     HalfGrid<float> half{};
-    for (int step = -5; step <= 7; ++step) {
-      const float* const left = here + (step + 6) / 2 - 3;
-      half.points[static_cast<std::size_t>(step + 5)] =
-          step % 2 == 0 ? *left : converter::midpoint(converter::kHalfFilter, left);
+    for (std::size_t i = 0; i < half.points.size(); ++i) {
+      const float* const left = padded.data() + (margin + n - 3 + (i + 1) / 2);
+      half.points[i] = i % 2 == 0 ? converter::midpoint(converter::kHalfFilter, left) : *left;
     }
     const EighthGrid<float> eighth = eighthGrid(quarterGrid(half));
     float largest = 0;

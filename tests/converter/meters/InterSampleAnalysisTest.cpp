@@ -77,10 +77,10 @@ TEST(InterSampleAnalysis, GivesTheReadingsOfEveryPointWhereFullScaleIsJustReache
 TEST(InterSampleAnalysis, GivesTheReadingsOfEveryPointOnSignsThatAddUpInTheFilter) {
   // Full-scale samples with the signs of the longest filter's weights: no signal reaches higher.
   Samples samples(200);
-  for (int i = 0; i < 20; ++i) {
+  for (std::size_t i = 0; i < 20; ++i) {
     const float sign = i % 2 == 0 ? 1.0F : -1.0F;
-    samples[static_cast<std::size_t>(100 - i)] = sign;
-    samples[static_cast<std::size_t>(101 + i)] = sign;
+    samples[100 - i] = sign;
+    samples[101 + i] = sign;
   }
   expectSameAsEveryPoint(samples, "worst signs");
   EXPECT_GT(everyPoint(samples, 0, samples.size()).peak, 2.6F);

@@ -67,13 +67,14 @@ Samples fadedSine(double frequency, double degrees, double amplitude, std::size_
 
 Samples singleCycle(std::size_t offset) {
   // At the fourfold rate a cycle of fs/6 has 24 points and one of fs/4 has 16.
-  constexpr std::size_t before = 24 * 50;
+  constexpr std::size_t before = 1200;
+  constexpr std::size_t fade = 480;
   std::vector<double> fine;
   for (std::size_t i = 0; i < before; ++i) fine.push_back(0.5 * std::sin(2 * pi * double(i) / 24));
   for (std::size_t i = 0; i < 16; ++i) fine.push_back(std::sin(2 * pi * double(i) / 16));
   for (std::size_t i = 0; i < before; ++i) fine.push_back(0.5 * std::sin(2 * pi * double(i) / 24));
-  for (std::size_t i = 0; i < 24 * 20; ++i) {
-    const double gain = 0.5 - 0.5 * std::cos(pi * static_cast<double>(i) / (24 * 20));
+  for (std::size_t i = 0; i < fade; ++i) {
+    const double gain = 0.5 - 0.5 * std::cos(pi * static_cast<double>(i) / fade);
     fine[i] *= gain;
     fine[fine.size() - 1 - i] *= gain;
   }
@@ -159,7 +160,7 @@ Samples clippedMix(std::size_t frames, float drive, unsigned seed) {
 
 double idealPeak(const Samples& samples, std::size_t first, std::size_t last) {
   constexpr int reach = 128;
-  constexpr int points = 64;
+  constexpr int points = 32;
   double largest = 0;
   for (int point = 0; point < points; ++point) {
     const double fraction = static_cast<double>(point) / points;

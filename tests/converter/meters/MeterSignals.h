@@ -35,7 +35,7 @@ Samples clippedMix(std::size_t frames, float drive, unsigned seed);
 Samples whiteNoise(std::size_t frames, float peak, unsigned seed);
 
 /// The peak of the band-limited signal through the samples: sinc interpolation over 256 neighbours
-/// to 64 points per interval, in double precision. The samples outside are taken as 0, and only
+/// to 32 points per interval, in double precision. The samples outside are taken as 0, and only
 /// intervals from `first` up to `last` are searched.
 double idealPeak(const Samples& samples, std::size_t first, std::size_t last);
 

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstring>
 #include <thread>
 #include <vector>
 
+#include "SameStatistics.h"
 #include "converter/PeakStatisticsExchange.h"
 #include "converter/TruePeakMeter.h"
 
@@ -13,10 +13,6 @@ using converter::PeakStatisticsExchange;
 using velk::PeakStatistics;
 
 namespace {
-
-bool same(const PeakStatistics& a, const PeakStatistics& b) {
-  return std::memcmp(a.data(), b.data(), sizeof a) == 0;
-}
 
 /// A block all of whose members tell the same number, so that a mixture of two shows.
 PeakStatistics blockOf(std::int64_t number, std::int64_t clips) {
@@ -30,7 +26,8 @@ bool isWhole(const PeakStatistics& block) {
          same(block, blockOf(block[0].mInterSampleClipCount, block[0].mSampleClipCount));
 }
 
-constexpr std::int64_t kRounds = 20000;
+/// Enough that a reader without its second look at the edition is caught in most runs.
+constexpr std::int64_t kRounds = 1000000;
 
 }  // namespace
 
@@ -94,6 +91,7 @@ TEST(PeakStatisticsExchange, GivesEveryReaderWholeBlocksInOrderWhileItIsWritten)
   };
   std::atomic<int> good{0};
   std::vector<std::thread> readers;
+  readers.reserve(2);
   for (int i = 0; i < 2; ++i) readers.emplace_back([&] { good += read() ? 1 : 0; });
   for (std::int64_t number = 1; number <= kRounds; ++number) {
     exchange.publish(blockOf(number, number * 3));

@@ -2,12 +2,11 @@
 
 #include <array>
 #include <atomic>
-#include <cstdlib>
-#include <cstring>
-#include <new>
 #include <thread>
 
+#include "AllocationCount.h"
 #include "MeterSignals.h"
+#include "SameStatistics.h"
 #include "converter/SignalMeters.h"
 
 using converter::clearedPeakStatistics;
@@ -16,12 +15,6 @@ using meter_signals::Samples;
 using velk::PeakStatistics;
 
 namespace {
-
-std::atomic<std::size_t> allocations{0};
-
-bool same(const PeakStatistics& a, const PeakStatistics& b) {
-  return std::memcmp(a.data(), b.data(), sizeof a) == 0;
-}
 
 /// Feeds `frames` frames from `at` of a different signal in every plane.
 struct Feed {
@@ -45,22 +38,10 @@ struct Feed {
 };
 
 void expectSame(const velk::TruePeakStats& read, const velk::TruePeakStats& expected) {
-  EXPECT_EQ(std::memcmp(&read, &expected, sizeof read), 0);
+  EXPECT_TRUE(same(read, expected));
 }
 
 }  // namespace
-
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* const memory = std::malloc(size)) return memory;
-  throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept {
-  std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
-}
 
 TEST(SignalMeters, PutEachChannelOfEachSignalIntoItsSlot) {
   const Feed feed;
@@ -120,14 +101,14 @@ TEST(SignalMeters, KeepTheReadingsWhenTheSignalEnds) {
 TEST(SignalMeters, NeverAllocate) {
   const Feed feed;
   SignalMeters meters(2);
-  const std::size_t before = allocations;
+  const std::size_t before = allocationCount();
   for (std::size_t at = 0; at + 512 <= 20000; at += 512) {
     feed.into(meters, at, 512);
     meters.requestReset();
     static_cast<void>(meters.read());
   }
   meters.finish();
-  EXPECT_EQ(allocations, before);
+  EXPECT_EQ(allocationCount(), before);
 }
 
 TEST(SignalMeters, AreReadAndResetWhileTheyRun) {

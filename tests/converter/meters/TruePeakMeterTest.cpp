@@ -11,7 +11,6 @@
 #include "MeterSignals.h"
 #include "converter/TruePeakMeter.h"
 
-using converter::clearedStatistics;
 using converter::kMeterFloorDecibels;
 using converter::TruePeakMeter;
 using meter_signals::Samples;
