@@ -10,22 +10,8 @@
 namespace converter {
 namespace {
 
-/// The member that holds the parameter, or null for an identifier that the unit has not.
-float ParameterValues::*memberOf(AudioUnitParameterID id) {
-  switch (id) {
-    case velk::kConverterParam_Format:
-      return &ParameterValues::format;
-    case velk::kConverterParam_Strategy:
-      return &ParameterValues::strategy;
-    case velk::kConverterParam_RateQuality:
-      return &ParameterValues::rateOrQuality;
-    default:
-      return nullptr;
-  }
-}
-
 OSStatus checkParameter(AudioUnitParameterID id, AudioUnitScope scope, AudioUnitElement element) {
-  if (memberOf(id) == nullptr) return kAudioUnitErr_InvalidParameter;
+  if (!Parameters::has(id)) return kAudioUnitErr_InvalidParameter;
   if (scope != kAudioUnitScope_Global) return kAudioUnitErr_InvalidScope;
   return element == 0 ? OSStatus{noErr} : kAudioUnitErr_InvalidElement;
 }
@@ -60,15 +46,14 @@ Value take(const void* data) {
 
 AacConverter::AacConverter(const UnitFormat& format)
     : format_(format),
-      abilities_(encoderAbilities()),
-      values_(presetValues(kDefaultPreset).value_or(ParameterValues{})),
-      controls_{.setting = setting()},
+      parameters_(format, presetValues(kDefaultPreset).value_or(ParameterValues{}),
+                  controls_.setting),
       renderer_(format, controls_) {}
 
 OSStatus AacConverter::getParameter(AudioUnitParameterID id, AudioUnitScope scope,
                                     AudioUnitElement element, AudioUnitParameterValue& value) {
   const OSStatus error = checkParameter(id, scope, element);
-  if (error == noErr) value = values_.*memberOf(id);
+  if (error == noErr) value = parameters_.value(id);
   return error;
 }
 
@@ -77,8 +62,7 @@ OSStatus AacConverter::setParameter(AudioUnitParameterID id, AudioUnitScope scop
                                     UInt32 /*bufferOffsetInFrames*/) {
   const OSStatus error = checkParameter(id, scope, element);
   if (error != noErr) return error;
-  values_.*memberOf(id) = value;
-  publishSetting();
+  parameters_.setValue(id, value);
   // The format bounds the rate, and the strategy says whether the third parameter is one.
   if (id != velk::kConverterParam_RateQuality) {
     announceParameter(velk::kConverterParam_RateQuality);
@@ -98,7 +82,7 @@ OSStatus AacConverter::getProperty(AudioUnitPropertyID id, AudioUnitScope scope,
 void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data) {
   switch (id) {
     case kAudioUnitProperty_ParameterInfo:
-      return put(data, parameterInfo(element, highestFormat(abilities_, format_.channels)));
+      return put(data, parameterInfo(element, parameters_.highestFormat()));
     case kAudioUnitProperty_StreamFormat:
       return put(data, streamFormat(format_));
     case kAudioUnitProperty_Latency:
@@ -108,7 +92,7 @@ void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element
     case kAudioUnitProperty_FactoryPresets:
       return put<const void*>(data, copyFactoryPresets());
     case kAudioUnitProperty_PresentPreset:
-      return put(data, copyPresentPreset(values_));
+      return put(data, copyPresentPreset(parameters_.values()));
     case kAudioUnitProperty_OfflineRender:
       return put(data, offlineRender_);
     case velk::kConverterProperty_MonitorSource:
@@ -118,7 +102,7 @@ void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element
     case velk::kConverterProperty_ListeningTestActive:
       return put(data, listeningTestActive_);
     case kConverterProperty_EffectiveSetting:
-      return put(data, effectiveSetting(setting()));
+      return put(data, effectiveSetting(parameters_.setting()));
     case kConverterProperty_BitRate:
       return put(data, renderer_.bitRate());
     case kConverterProperty_MissedFrames:
@@ -159,17 +143,12 @@ OSStatus AacConverter::setProperty(AudioUnitPropertyID id, AudioUnitScope scope,
 OSStatus AacConverter::applyPreset(const AUPreset& preset) {
   const auto values = presetValues(preset.presetNumber);
   if (!values) return kAudioUnitErr_InvalidPropertyValue;
-  values_ = *values;
-  publishSetting();
+  parameters_.setValues(*values);
   announceParameter(velk::kConverterParam_Format);
   announceParameter(velk::kConverterParam_Strategy);
   announceParameter(velk::kConverterParam_RateQuality);
   announceProperty(kAudioUnitProperty_PresentPreset);
   return noErr;
-}
-
-void AacConverter::publishSetting() {
-  controls_.setting.store(setting(), std::memory_order_relaxed);
 }
 
 }  // namespace converter

@@ -2,12 +2,13 @@
 
 #include "converter/Controls.h"
 #include "converter/ConverterUnit.h"
+#include "converter/Parameters.h"
 #include "converter/Renderer.h"
-#include "converter/Setting.h"
 
 namespace converter {
 
-/// The unit: parameters and properties on the main thread, a renderer for the audio thread.
+/// The unit: parameters for every thread, properties on the main thread, a renderer for the audio
+/// thread.
 class AacConverter final : public ConverterUnit {
  public:
   /// The format has been found good.
@@ -31,16 +32,13 @@ class AacConverter final : public ConverterUnit {
  private:
   void readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data);
   OSStatus applyPreset(const AUPreset& preset);
-  void publishSetting();
-  Setting setting() const { return nearestSetting(values_, format_, abilities_); }
 
   UnitFormat format_;
-  EncoderAbilities abilities_;
-  ParameterValues values_;
   UInt32 monitorSource_ = 0;
   UInt32 listeningTestActive_ = 0;
   UInt32 offlineRender_ = 0;
   Controls controls_;
+  Parameters parameters_;
   Renderer renderer_;
 };
 

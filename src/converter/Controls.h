@@ -6,8 +6,8 @@
 
 namespace converter {
 
-/// What the main thread asks of the audio thread, which looks at the start of every block, and what
-/// the audio thread counts for it.
+/// What other threads ask of the audio thread, which looks at the start of every block, and what
+/// the audio thread counts for them.
 struct Controls {
   std::atomic<Setting> setting{Setting{}};
   std::atomic<bool> monitorSource{false};

@@ -48,7 +48,7 @@ struct UnitFormat {
 /// signal come out sample-aligned, delayed by one constant latency.
 ///
 /// `render` runs on the audio thread; `reset` and everything of `Unit` on the main thread, also
-/// while `render` runs. Parameters read back as written.
+/// while `render` runs, and parameters on any thread. Parameters read back as written.
 class ConverterUnit : public audio_unit::Unit {
  public:
   /// Throws `std::invalid_argument` for a format that the unit does not do, naming what is wrong,

@@ -29,8 +29,4 @@ void MonitorSwitch::process(const float* const* source, const float* const* enco
   }
 }
 
-void MonitorSwitch::settle(bool chooseSource) {
-  place_ = chooseSource ? curve_.size() + 1 : 0;
-}
-
 }  // namespace converter

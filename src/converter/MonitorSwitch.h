@@ -16,9 +16,6 @@ class MonitorSwitch {
   void process(const float* const* source, const float* const* encoded, float* const* output,
                UInt32 channels, UInt32 frames, bool chooseSource);
 
-  /// Ends a cross-fade at once.
-  void settle(bool chooseSource);
-
  private:
   std::vector<float> curve_;
   /// Steps from encoded, 0, to source, `curve_.size() + 1`.

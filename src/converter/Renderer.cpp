@@ -72,7 +72,6 @@ void Renderer::reset() {
   feeder_.clear();
   delay_.clear();
   meters_.finish();
-  monitor_.settle(controls_.monitorSource.load());
   worker_.start();
 }
 

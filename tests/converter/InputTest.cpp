@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -65,6 +66,14 @@ TEST_P(Input, GivesFiniteEncodedSoundAndLeavesTheUnitInOrder) {
 
 INSTANTIATE_TEST_SUITE_P(OfEveryKind, Input, testing::ValuesIn(kInputs),
                          [](const auto& test) { return std::string(test.param.name); });
+
+TEST(NoNumber, IsEncodedAsSilence) {
+  Rig rig;
+  Signal input = silence(2, kFrames);
+  for (auto& samples : input) std::ranges::fill(samples, std::numeric_limits<float>::quiet_NaN());
+  const Signal output = rig.render(input);
+  EXPECT_LT(rms(output[0], 0, kFrames), 1e-5);
+}
 
 TEST(Silence, StaysSilence) {
   Rig rig;

@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <bit>
 #include <limits>
+#include <thread>
 
 #include "Rig.h"
+#include "converter/Encoder.h"
+#include "converter/Parameters.h"
 
 namespace {
 
@@ -49,6 +53,24 @@ TEST(Parameters, NameWhatIsWrongWithAnAccess) {
   EXPECT_EQ(unit.setParameter(0, kAudioUnitScope_Global, 1, 1, 0), kAudioUnitErr_InvalidElement);
   EXPECT_EQ(value, 42);
   EXPECT_EQ(rig.parameter(velk::kConverterParam_Format), 0);
+}
+
+TEST(Parameters, PublishTheSettingOfTheirLastValuesWhoeverWrote) {
+  const converter::UnitFormat unit;
+  for (int turn = 0; turn < 200; ++turn) {
+    std::atomic<converter::Setting> published;
+    converter::Parameters parameters(unit, {0, 0, 7}, published);
+    const auto write = [&](AudioUnitParameterID id, float last) {
+      for (float value = 0; value < 5; ++value) parameters.setValue(id, value);
+      parameters.setValue(id, last);
+    };
+    std::thread beside(write, velk::kConverterParam_Strategy, 2.0F);
+    write(velk::kConverterParam_RateQuality, static_cast<float>(turn % 128));
+    beside.join();
+    ASSERT_EQ(published.load(), parameters.setting());
+    ASSERT_EQ(published.load(), nearestSetting({0, 2, static_cast<float>(turn % 128)}, unit,
+                                               converter::encoderAbilities()));
+  }
 }
 
 AudioUnitParameterInfo infoOf(Rig& rig, AudioUnitElement parameter) {

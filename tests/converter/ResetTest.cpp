@@ -77,6 +77,18 @@ TEST(Reset, KeepsTheStatistics) {
   expectStatistics(rig, before);
 }
 
+TEST(Reset, EndsWhatIsMetered) {
+  Rig rig;
+  Signal loud = silence(2, 40000);
+  for (std::size_t i = 0; i < loud[0].size(); ++i) loud[0][i] = loud[1][i] = i % 2 == 0 ? 2 : -2;
+  rig.render(loud);
+  rig.unit().reset();
+  const auto ended = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
+  EXPECT_GT(ended[0].mInterSampleClipCount, 0);
+  rig.render(silence(2, 30000));
+  expectStatistics(rig, ended);
+}
+
 TEST(Reset, KeepsTheCountOfMissedFramesAndStartsTheBitRateAnew) {
   Rig rig;
   rig.setOffline(false);
