@@ -96,6 +96,8 @@ void Player::seek(std::int64_t frame) {
   // The very beginning is played as it is; any other place would begin with a click.
   gain_ = frame == 0 ? 1.0F : 0.0F;
   runThroughLatency();
+  // The device may ask for several blocks at once to begin with.
+  reader_.waitFor(format().sampleRate / 8);
   wake();
 }
 

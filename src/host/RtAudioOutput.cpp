@@ -15,7 +15,7 @@ namespace {
 
 constexpr unsigned preferredBlock = 512;
 /// A device that has gone can keep warning; one that merely stumbles warns less often.
-constexpr int manyWarnings = 16;
+constexpr int manyWarnings = 4;
 constexpr auto longestPause = std::chrono::seconds(3);
 
 class RtAudioOutput : public Output {
@@ -115,6 +115,11 @@ RtAudioOutput::~RtAudioOutput() {
 
 int RtAudioOutput::render(float* samples, unsigned frames) noexcept {
   const std::array<float*, 2> planes = {samples, samples + (deviceChannels_ > 1 ? frames : 0)};
+  if (failed_.load(std::memory_order_relaxed)) {
+    // A device that has gone may ask for blocks without end; nothing of the file is lost to it.
+    std::fill_n(samples, std::size_t{frames} * deviceChannels_, 0.0F);
+    return 0;
+  }
   renderer_.renderBlock(planes.data(), frames);
   if (format_.channels == 1 && deviceChannels_ == 2) std::copy_n(planes[0], frames, planes[1]);
   blocks_.fetch_add(1, std::memory_order_relaxed);

@@ -81,6 +81,11 @@ void Audition::connectWindow() {
 
 void Audition::open(OpenedFile file) {
   const auto name = QString::fromStdString(file.path.filename().string());
+  const auto original = file.original.sampleRate;
+  const auto rate = file.source->format().sampleRate;
+  setNotice(original == rate
+                ? QString()
+                : tr("%1 kHz, played as %2 kHz").arg(kiloHertz(original), kiloHertz(rate)));
   if (session_ && session_->suits(file)) {
     session_->load(std::move(file));
   } else {
@@ -96,11 +101,7 @@ void Audition::open(OpenedFile file) {
   }
   warnedOfTruncation_ = false;
   missedFrames_ = 0;
-  const auto original = session_->originalFormat().sampleRate;
-  const auto rate = session_->format().sampleRate;
-  setNotice(original == rate
-                ? QString()
-                : tr("%1 kHz, played as %2 kHz").arg(kiloHertz(original), kiloHertz(rate)));
+  lateFrames_ = lateFrames(session_->unit());
   window_.transport().setFileName(name);
   window_.setWindowTitle(tr("%1 – AAC Audition").arg(name));
   window_.setTransportEnabled(true);
@@ -125,7 +126,9 @@ void Audition::startFirstDevice() {
   // A device that the user named has to work.
   if (options_.device && !devices_->empty()) return session_->setDevice(devices_->front());
   const auto why = session_->setFirstWorkingDevice(*devices_);
-  if (!why.empty()) warn(why + "; playing to nobody");
+  if (why.empty()) return;
+  warn(why + "; playing to nobody");
+  setNotice(tr("Silent: %1").arg(QString::fromStdString(why)));
 }
 
 void Audition::recordFrom(Session& session) {
@@ -195,7 +198,6 @@ void Audition::setDevice(const std::optional<Device>& device) {
   if (!session_) return;
   try {
     session_->setDevice(device);
-    setNotice({});
   } catch (const Failure& failure) {
     warn(failure.what());
     setNotice(tr("Silent: %1").arg(QString::fromStdString(failure.what())));
@@ -208,7 +210,10 @@ void Audition::fillDeviceMenu() {
   menu->clear();
   const auto current = session_ ? session_->device() : std::nullopt;
   const auto add = [&](const QString& name, const std::optional<Device>& device) {
-    auto* const action = menu->addAction(name, this, [this, device] { setDevice(device); });
+    auto* const action = menu->addAction(name, this, [this, device] {
+      setNotice({});
+      setDevice(device);
+    });
     action->setCheckable(true);
     action->setChecked(device ? current && current->name == device->name : !current);
     action->setEnabled(session_ != nullptr);
@@ -250,11 +255,17 @@ void Audition::refreshOutput() {
     warn("the device " + why + "; playing to nobody");
     setNotice(tr("Silent: the device %1").arg(QString::fromStdString(why)));
   }
+  // Silence would give the encoded signal of a listening test away, a word of it even more.
+  if (listeningTestRuns(&session_->unit())) return;
   const auto missed = session_->player().missedFrames();
-  if (missed != missedFrames_) {
-    missedFrames_ = missed;
+  const auto late = lateFrames(session_->unit());
+  if (why.empty() && missed != missedFrames_) {
     setNotice(tr("The file cannot be read fast enough"));
+  } else if (why.empty() && late != lateFrames_) {
+    setNotice(tr("The encoder cannot keep up"));
   }
+  missedFrames_ = missed;
+  lateFrames_ = late;
 }
 
 void Audition::warnOfTruncation() {

@@ -63,6 +63,7 @@ class Audition : public QObject {
   std::unique_ptr<Session> session_;
   bool warnedOfTruncation_ = false;
   std::uint64_t missedFrames_ = 0;
+  std::uint64_t lateFrames_ = 0;
   /// Goes before the session, to whose unit its view is bound.
   MainWindow window_;
 };

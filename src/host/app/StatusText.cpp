@@ -35,6 +35,12 @@ bool listeningTestRuns(AudioUnit unit) {
   return read(unit, velk::kConverterProperty_ListeningTestActive, runs) && runs != 0;
 }
 
+std::uint64_t lateFrames(converter::ConverterUnit& unit) {
+  UInt64 frames = 0;
+  read(&unit, converter::kConverterProperty_MissedFrames, frames);
+  return frames;
+}
+
 QString encoderText(converter::ConverterUnit& unit, double sampleRate) {
   if (listeningTestRuns(&unit)) return tr("Listening test");
   QStringList parts;
