@@ -141,6 +141,10 @@ Host::Host(fakes::FakeConverter& unit, const HostOptions& options) : runLoop_(lo
 }
 
 Host::~Host() {
+  // A view that has left its parent belongs to whoever took it out.
+  if (view_ != nullptr && view_->parentWidget() == nullptr) {
+    delete view_;
+  }
   window_.reset();
   CFRunLoopGetCurrent()->setWakeUp({});
 }
@@ -169,11 +173,6 @@ QWidget& Host::named(const char* name) const {
 void Host::advance(std::chrono::milliseconds time) {
   runLoop_.advance(time);
   QApplication::processEvents();
-}
-
-void Host::removeView() {
-  view_->setParent(nullptr);
-  delete view_;
 }
 
 ui::qt::Environment testEnvironment(const std::filesystem::path& resources) {

@@ -69,9 +69,6 @@ class Host {
   void advance(std::chrono::milliseconds time);
   const std::vector<QUrl>& openedUrls() const { return openedUrls_; }
 
-  /// Takes the view from its parent and destroys it.
-  void removeView();
-
  private:
   fakes::CallLog log_;
   fakes::FakeRunLoop runLoop_;
