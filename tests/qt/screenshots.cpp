@@ -2,6 +2,7 @@
 // usage: screenshots FOLDER [LANGUAGE] [--long]     (QT_SCALE_FACTOR scales)
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QPainter>
@@ -66,11 +67,14 @@ class Album {
     save(host_->outlet("keyController.keySettingsSheet"), "6-keys");
     click("keyController.doneButton");
     auto& menu = host_->outlet<QComboBox>("view.encoderPopup");
+    menu.showPopup();
+    save(*menu.view()->window(), "7-menu");
+    menu.hidePopup();
     emit menu.activated(menu.count() - 1);
-    save(host_->outlet("settingsController.settingsSheet"), "7-custom");
+    save(host_->outlet("settingsController.settingsSheet"), "8-custom");
     unit_.hostSetsSetting({0.0F, 2.0F, 96.0F});
     host_->advance(100ms);
-    save(host_->outlet("settingsController.settingsSheet"), "8-quality");
+    save(host_->outlet("settingsController.settingsSheet"), "9-quality");
     click("settingsController.OKButton");
     host_->advance(100ms);
     click("listeningTestController.aIsSourceButton");
@@ -79,7 +83,7 @@ class Album {
     QApplication::processEvents();
     for (QWidget* window : QApplication::topLevelWidgets()) {
       if (window->inherits("QMessageBox")) {
-        save(*window, "9-alert");
+        save(*window, "10-alert");
       }
     }
   }
