@@ -8,6 +8,7 @@ function(velk_test name)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   gtest_discover_tests(${name}
     TEST_PREFIX "${name}: "
+    NO_PRETTY_VALUES
     DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 120 ${TEST_PROPERTIES})
   # The discovery would take a list apart, so the labels are set when ctest reads the tests.
