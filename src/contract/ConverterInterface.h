@@ -6,9 +6,9 @@
 
 #include "audio_unit/Framework.h"
 
-/// What a converter unit offers and the view relies on. All identifiers are used on the global scope,
-/// element 0. Every parameter value travels as a 32-bit float that holds a whole number; codes and
-/// indices are taken by truncation toward zero.
+/// What a converter unit offers and the view relies on. All identifiers are used on the global
+/// scope, element 0. Every parameter value travels as a 32-bit float that holds a whole number;
+/// codes and indices are taken by truncation toward zero.
 namespace velk {
 
 /// AAC object type of the encoder: 0 AAC, 1 AAC HE, 2 AAC HEv2 (only where the parameter's maximum
@@ -38,8 +38,8 @@ inline constexpr float kStrategy_VBRC = 1.0F;
 inline constexpr float kStrategy_VBR = 2.0F;
 
 /// kbit/s by rate index.
-inline constexpr std::array<std::uint32_t, 17> bitRates = {16,  20,  24,  32,  40,  48,  56,  64, 80,
-                                                           96,  128, 160, 192, 224, 256, 288, 320};
+inline constexpr std::array<std::uint32_t, 17> bitRates = {16, 20,  24,  32,  40,  48,  56,  64, 80,
+                                                           96, 128, 160, 192, 224, 256, 288, 320};
 
 /// Peaks and counts of one channel of one signal since the last reset.
 struct TruePeakStats {
