@@ -101,13 +101,21 @@ void MainWindow::setView(std::unique_ptr<ui::NativeView> view) {
   removeView();
   invitation_->setVisible(widget == nullptr);
   if (widget == nullptr) return;
-  view->setFrameSizeObserver([this](ui::Size) { rows_->invalidate(); });
+  view->setFrameSizeObserver([this](ui::Size) { followView(); });
   rows_->insertWidget(rows_->indexOf(invitation_), widget, 0, Qt::AlignLeft);
   // The layout's widget is its parent now and owns it.
   static_cast<void>(view.release());
   view_ = widget;
   view_->show();
   view_->setFocus();
+}
+
+void MainWindow::followView() {
+  // At once: on its own the layout would follow in two turns of the event loop, which flickers.
+  for (auto* const each : {static_cast<QLayout*>(rows_), layout()}) {
+    each->invalidate();
+    each->activate();
+  }
 }
 
 void MainWindow::removeView() {

@@ -48,6 +48,7 @@ class MainWindow : public QMainWindow {
 
  private:
   void makeMenus();
+  void followView();
   void removeView();
 
   TransportBar* transport_;

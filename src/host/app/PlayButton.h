@@ -7,6 +7,8 @@ namespace host::app {
 /// Shows a triangle while it would play and two bars while it would pause, in the palette's
 /// colours.
 class PlayButton : public QAbstractButton {
+  Q_OBJECT
+
  public:
   explicit PlayButton(QWidget* parent = nullptr);
 
