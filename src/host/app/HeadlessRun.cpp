@@ -21,6 +21,8 @@ constexpr int blocksPerTurn = 20;
 /// The view polls its meters every 75 ms: long enough for the last readings to show.
 constexpr int settlingMilliseconds = 250;
 constexpr int refreshMilliseconds = 50;
+constexpr int restingMilliseconds = 10;
+constexpr int restingTurns = 4;
 
 /// Renders block after block while the event loop turns.
 class Pump {
@@ -46,8 +48,9 @@ class Pump {
   std::vector<float> samples_ = std::vector<float>(std::size_t{blockFrames} * 2);
 };
 
-/// Lets the application run until `work` says that it is done or the user ends the program.
-void turnWhile(const std::function<bool()>& work, bool& interrupted) {
+/// Lets the application run, calling `work` every so many milliseconds, until it says that it is
+/// done or the user ends the program.
+void turnWhile(const std::function<bool()>& work, const bool& interrupted, int milliseconds = 0) {
   std::exception_ptr error;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -59,12 +62,26 @@ void turnWhile(const std::function<bool()>& work, bool& interrupted) {
     timer.stop();
     QApplication::exit();
   });
-  timer.start(0);
+  timer.start(milliseconds);
   QApplication::exec();
   if (error) std::rethrow_exception(error);
 }
 
-void settle(bool& interrupted) {
+/// The encoder may be ahead of what was heard: its bit rate counts when it has come to rest, so
+/// that equal runs give equal readings.
+void waitForEncoder(Session& session, const bool& interrupted) {
+  double rate = -1;
+  int turns = 0;
+  const auto goesOn = [&] {
+    const auto now = readingsOf(session.unit(), session.format()).bitRateKbps;
+    turns = now == rate ? turns + 1 : 0;
+    rate = now;
+    return turns < restingTurns;
+  };
+  turnWhile(goesOn, interrupted, restingMilliseconds);
+}
+
+void settle(const bool& interrupted) {
   if (interrupted) return;
   QTimer::singleShot(settlingMilliseconds, [] { QApplication::exit(); });
   QApplication::exec();
@@ -96,7 +113,8 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   Pump pump(*audition.session(), audition.recorder());
   audition.session()->player().play();
   turnWhile([&] { return pump.turn(); }, interrupted);
-  if (!interrupted && files.screenshot) settle(interrupted);
+  if (!interrupted) waitForEncoder(*audition.session(), interrupted);
+  if (files.screenshot) settle(interrupted);
   if (interrupted) throw Failure("interrupted; nothing was written");
 
   refresh.stop();
