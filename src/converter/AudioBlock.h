@@ -19,6 +19,8 @@ inline constexpr UInt32 kBlockFrames = 2048;
 
 struct AudioBlock {
   Position position = 0;
+  /// Of the first sample that is there; those before it in the block are missing.
+  Position begin = 0;
   std::array<std::array<float, kBlockFrames>, kMaximumChannels> planes{};
 
   Position end() const { return position + kBlockFrames; }

@@ -11,14 +11,14 @@ UInt32 EncodedReader::read(Position position, UInt32 frames, float* const* outpu
     const Position at = position + done;
     UInt32 step = frames - done;
     const AudioBlock* block = at < 0 ? nullptr : blockAt(at, wait);
-    const bool here = block != nullptr && block->position <= at;
+    const bool here = block != nullptr && block->begin <= at;
     if (here) {
       step = static_cast<UInt32>(std::min<Position>(step, block->end() - at));
     } else if (at < 0) {
       step = static_cast<UInt32>(std::min<Position>(step, -at));
     } else {
       if (block != nullptr) {
-        step = static_cast<UInt32>(std::min<Position>(step, block->position - at));
+        step = static_cast<UInt32>(std::min<Position>(step, block->begin - at));
       }
       missing += step;
     }

@@ -58,6 +58,7 @@ void SourceFeeder::beginBlock(bool wait) {
   dropping_ = block_ == nullptr;
   if (dropping_) return;
   block_->audio.position = position_;
+  block_->audio.begin = position_;
   block_->setting = setting_;
   block_->change.reset();
 }

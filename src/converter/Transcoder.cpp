@@ -27,17 +27,15 @@ Transcoder::Transcoder(const UnitFormat& unit)
 }
 
 void Transcoder::process(const SourceBlock& source, AudioBlock& encoded) {
-  encoded.position = source.audio.position - kEncodedBehindSource;
-  const Position end = encoded.end();
-  const Position start = std::clamp<Position>(0, encoded.position, end);
-  for (auto& plane : encoded.planes) std::fill_n(plane.begin(), start - encoded.position, 0.0F);
-
-  if (expected_ != source.audio.position) restart(source.setting, start);
+  if (expected_ != source.audio.position) restart(source);
   expected_ = source.audio.end();
   history_.write(source.audio);
   if (source.change) changes_.push_back(*source.change);
 
-  for (Position position = start; position < end;) {
+  encoded.position = source.audio.position - kEncodedBehindSource;
+  const Position end = encoded.end();
+  encoded.begin = std::clamp(begin_, encoded.position, end);
+  for (Position position = encoded.begin; position < end;) {
     position += renderStep(position, end, encoded);
   }
 }
@@ -55,10 +53,11 @@ void Transcoder::clear() {
   history_.clear();
 }
 
-void Transcoder::restart(const Setting& setting, Position position) {
+void Transcoder::restart(const SourceBlock& source) {
   fade_.reset();
   changes_.clear();
-  pair_ = openPair(setting, unit_, std::max<Position>(position, 0));
+  begin_ = source.audio.position;
+  pair_ = openPair(source.setting, unit_, begin_);
 }
 
 /// Keeps the old pair when the new one cannot be opened.

@@ -18,8 +18,9 @@ class Transcoder {
   explicit Transcoder(const UnitFormat& unit);
 
   /// Takes the next block of the source and writes the block of the encoded signal that has become
-  /// complete, `kEncodedBehindSource` before it. Silence before position 0. When blocks are missing
-  /// in between, the codec starts anew.
+  /// complete, `kEncodedBehindSource` before it. When blocks are missing in between, the codec
+  /// starts anew, and the encoded signal begins where the source begins again, as it does with the
+  /// first block.
   void process(const SourceBlock& source, AudioBlock& encoded);
 
   /// Of the setting last taken up.
@@ -34,7 +35,7 @@ class Transcoder {
     std::unique_ptr<CodecPair> to;
   };
 
-  void restart(const Setting& setting, Position position);
+  void restart(const SourceBlock& source);
   void beginFade(const SettingChange& change);
   UInt32 renderStep(Position position, Position end, AudioBlock& encoded);
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
@@ -43,6 +44,7 @@ class Transcoder {
   std::vector<float> curve_;
   SourceHistory history_;
   std::optional<Position> expected_;
+  Position begin_ = 0;
   std::unique_ptr<CodecPair> pair_;
   std::optional<Fade> fade_;
   std::deque<SettingChange> changes_;

@@ -77,6 +77,15 @@ Signal Rig::renderInBlocks(const Signal& input,
   return output;
 }
 
+Signal Rig::renderTooFast(const Signal& input) {
+  setOffline(false);
+  UInt32 turn = 0;
+  return renderInBlocks(input, [&](std::size_t) -> std::size_t {
+    setPreset(turn++ % 2 == 0 ? 2 : 3);
+    return format_.maximumFrames;
+  });
+}
+
 Signal Rig::renderAligned(const Signal& input, std::size_t block) {
   const std::size_t latency = unit_->latency();
   Signal longer = input;

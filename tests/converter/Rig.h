@@ -45,6 +45,9 @@ class Rig {
   /// the input.
   Signal renderInBlocks(const Signal& input,
                         const std::function<std::size_t(std::size_t)>& nextBlock);
+  /// Renders without waiting for the worker, and has it open and prime an encoder for every block,
+  /// so that it cannot keep up.
+  Signal renderTooFast(const Signal& input);
   /// Renders the input and enough silence behind it; the output without the latency, as long as the
   /// input.
   Signal renderAligned(const Signal& input, std::size_t block = 512);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "Rig.h"
@@ -10,9 +11,7 @@ namespace {
 class Starving : public testing::Test {
  protected:
   Starving() {
-    rig_.setPreset(2);
-    rig_.setOffline(false);
-    output_ = rig_.render(input_, 2048);
+    output_ = rig_.renderTooFast(input_);
     missedAtOnce_ = rig_.missedFrames();
     // Then there is time again.
     rig_.setOffline(true);
@@ -37,9 +36,8 @@ TEST_F(Starving, IsCountedFrameByFrame) {
   };
   ASSERT_GT(missedAtOnce_, 0U);
   EXPECT_EQ(silent(output_, latency_), missedAtOnce_);
-  // The stretch that the worker was never given comes out behind those that it was.
+  // A stretch that the worker was never given may still come out.
   EXPECT_EQ(silent(after_, 0), rig_.missedFrames() - missedAtOnce_);
-  EXPECT_GT(rig_.missedFrames(), missedAtOnce_);
 }
 
 TEST_F(Starving, IsSilenceAndNeverTheSource) {
@@ -66,11 +64,15 @@ TEST_F(Starving, CountsNothingMoreOnceTheWorkerIsWaitedForAndHasCaughtUp) {
 }
 
 TEST_F(Starving, LeavesTheSourceWhole) {
-  rig_.setOffline(false);
   rig_.monitorSource(true);
   rig_.render(silence(2, 20480), 2048);
-  const Signal source = rig_.renderAligned(input_, 2048);
-  EXPECT_EQ(source, input_);
+  const UInt64 missed = rig_.missedFrames();
+  const Signal source = rig_.renderTooFast(input_);
+  EXPECT_GT(rig_.missedFrames(), missed);
+  for (std::size_t channel = 0; channel < 2; ++channel) {
+    EXPECT_TRUE(std::equal(source[channel].begin() + static_cast<std::ptrdiff_t>(latency_),
+                           source[channel].end(), input_[channel].begin()));
+  }
 }
 
 }  // namespace

@@ -59,18 +59,17 @@ TEST_F(TranscoderTest, GivesTheBlockOfTheLongestDelayBefore) {
   }
 }
 
-TEST_F(TranscoderTest, IsSilentBeforeTheFirstSampleAndNotAfter) {
-  Transcoder transcoder(kUnit);
-  for (std::size_t number = 0; number < 6; ++number) {
-    const AudioBlock block = process(transcoder, at(number));
-    const auto silent = static_cast<std::ptrdiff_t>(
-        std::clamp<Position>(-block.position, 0, Position{kBlockFrames}));
-    for (const auto& plane : block.planes) {
-      EXPECT_EQ(std::count(plane.begin(), plane.begin() + silent, 0.0F), silent);
-      EXPECT_EQ(std::count(plane.begin() + silent, plane.end(), 99.0F), 0);
-    }
-    if (number == 5) {
-      EXPECT_NE(block.planes[0][100], 0);
+TEST_F(TranscoderTest, BeginsWhereTheSourceBegins) {
+  for (const std::size_t first : {std::size_t{0}, std::size_t{7}}) {
+    Transcoder transcoder(kUnit);
+    const auto begin = static_cast<Position>(first) * kBlockFrames;
+    for (std::size_t number = first; number < first + 6; ++number) {
+      const AudioBlock block = process(transcoder, at(number));
+      EXPECT_EQ(block.begin, std::clamp(begin, block.position, block.end()));
+      for (const auto& plane : block.planes) {
+        EXPECT_EQ(std::count(plane.begin(), plane.end(), 99.0F), block.begin - block.position)
+            << "exactly what is there is written";
+      }
     }
   }
 }
