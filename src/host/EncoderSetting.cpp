@@ -141,7 +141,7 @@ void applyEncoderSetting(AudioUnit unit, const EncoderSetting& setting) {
 
 void applyPreset(AudioUnit unit, std::uint32_t index) {
   CFArrayRef presets = nullptr;
-  UInt32 size = sizeof presets;
+  UInt32 size = sizeof(CFArrayRef);
   auto status = AudioUnitGetProperty(unit, kAudioUnitProperty_FactoryPresets,
                                      kAudioUnitScope_Global, 0, &presets, &size);
   if (status == noErr && presets != nullptr) {
