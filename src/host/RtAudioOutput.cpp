@@ -69,7 +69,6 @@ RtAudioOutput::RtAudioOutput(const Device& device, AudioFormat format, BlockRend
   if (!rates.empty() && std::find(rates.begin(), rates.end(), format.sampleRate) == rates.end()) {
     throw cannotPlay(device, "it does not do " + std::to_string(format.sampleRate) + " Hz");
   }
-  const QuietStandardError quiet;
   audio_.showWarnings(false);
   openOutput = this;
   try {
@@ -150,6 +149,7 @@ std::string RtAudioOutput::failure() {
 
 std::unique_ptr<Output> openDevice(const Device& device, AudioFormat format,
                                    BlockRenderer& renderer) {
+  const QuietStandardError quiet;
   return std::make_unique<RtAudioOutput>(device, format, renderer);
 }
 
