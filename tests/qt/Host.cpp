@@ -1,10 +1,10 @@
 #include "qt/Host.h"
 
 #include <QApplication>
+#include <QRegularExpression>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <regex>
 #include <sstream>
 #include <stdexcept>
 
@@ -84,7 +84,8 @@ void ResourceFolder::rewrite(const std::string& from, const std::string& to) con
 }
 
 void ResourceFolder::lengthenTexts() const {
-  static const std::regex entry(R"re(^("(?:[^"\\]|\\.)*" = ")((?:[^"\\]|\\.)*)";$)re");
+  static const QRegularExpression entry(
+      QStringLiteral(R"re(^("(?:[^"\\]|\\.)*" = ")((?:[^"\\]|\\.)*)";$)re"));
   for (const auto& folder : std::filesystem::directory_iterator(path_)) {
     if (folder.path().extension() != ".lproj") {
       continue;
@@ -93,14 +94,14 @@ void ResourceFolder::lengthenTexts() const {
       std::istringstream lines(contents(table));
       std::string longer;
       for (std::string line; std::getline(lines, line);) {
-        std::smatch match;
-        if (std::regex_match(line, match, entry)) {
-          const QString text = QString::fromStdString(match[2]);
+        const QRegularExpressionMatch match = entry.match(QString::fromStdString(line));
+        if (match.hasMatch()) {
+          const QString text = match.captured(2);
           // Letters of the text itself, so that the length grows as a translation's would.
           QString letters = text;
           letters.remove(QLatin1String("%@")).remove(QLatin1Char('%')).remove(QLatin1Char('\\'));
           const qsizetype more = (letters.size() + 1) / 2;
-          line = match[1].str() + (text + letters.left(more)).toStdString() + "\";";
+          line = (match.captured(1) + text + letters.left(more)).toStdString() + "\";";
         }
         longer += line + "\n";
       }
