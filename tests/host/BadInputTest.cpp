@@ -8,8 +8,6 @@
 #include "ui/TemporaryFolder.h"
 
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 

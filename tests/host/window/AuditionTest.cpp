@@ -16,7 +16,6 @@
 #include "host/app/Audition.h"
 #include "ui/TemporaryFolder.h"
 
-using host::Session;
 using host::app::Audition;
 
 namespace {
