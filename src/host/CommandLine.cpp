@@ -30,6 +30,10 @@ inter_sample_overs.
 Without --headless FILE is played at once; --seconds then closes the window after
 that time, --screenshot is written and --json printed when the window closes.
 
+The recording holds what is played, without pauses. --set takes the bit rates 16, 20,
+24, 32, 40, 48, 56, 64, 80, 96, 128, 160, 192, 224, 256, 288 and 320 kbit/s; where the
+encoder cannot do one, it does the nearest that it can and the program says so.
+
 Keys in the window: Ctrl+O opens a file, Ctrl+P or a keyboard's play key plays and
 pauses, Ctrl+Left and Ctrl+Right move by five seconds, Ctrl+Home goes back to the
 beginning, Ctrl+Q quits. All other keys are the view's.

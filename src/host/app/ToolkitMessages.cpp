@@ -14,7 +14,9 @@ namespace {
 void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
   if (type == QtCriticalMsg) warn(text.toStdString());
   if (type != QtFatalMsg) return;
-  complain(text.simplified().toStdString());
+  complain(text.contains("platform plugin")
+               ? "the display cannot be reached; check DISPLAY, or add --headless FILE"
+               : text.simplified().toStdString());
   // The toolkit would abort and leave a core file behind.
   ::_exit(EXIT_FAILURE);
 }
