@@ -72,10 +72,19 @@ void Velk_AACEncodingViewSettingsController::setOwner(Velk_AUAACConverterCustomV
   initialType = owner->getFormat();
   initialStrategy = owner->getStrategy();
   initialQualityOrRate = owner->getParameterValue(kConverterParam_RateQuality);
-  if (!owner->hasHEV2() && typePopup->numberOfItems() > kHEv2Item) {
-    typePopup->removeItemAtIndex(kHEv2Item);
-  }
+  offerTypes(owner->hasHEV2());
   updateUI();
+}
+
+void Velk_AACEncodingViewSettingsController::offerTypes(bool withHEv2) {
+  const bool isOffered = typePopup->numberOfItems() > kHEv2Item;
+  if (isOffered && !withHEv2) {
+    hev2Title_ = typePopup->itemAtIndex(kHEv2Item)->title();
+    typePopup->removeItemAtIndex(kHEv2Item);
+  } else if (!isOffered && withHEv2 && !hev2Title_.empty()) {
+    // The view was bound to a converter without it before.
+    typePopup->insertItemWithTitle(hev2Title_, kHEv2Item);
+  }
 }
 
 void Velk_AACEncodingViewSettingsController::updateUI() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "ui/Connections.h"
 #include "ui/Toolkit.h"
 
@@ -37,6 +39,7 @@ class Velk_AACEncodingViewSettingsController final : public ui::Object {
                            Velk_AUAACConverterCustomView* contextInfo);
 
  private:
+  void offerTypes(bool withHEv2);
   void writeControls(Velk_AUAACConverterCustomView& view) const;
   void restoreInitialSetting(Velk_AUAACConverterCustomView& view) const;
 
@@ -57,6 +60,8 @@ class Velk_AACEncodingViewSettingsController final : public ui::Object {
   float initialStrategy = 0;
   /// As the parameter holds it: a rate index or a quality.
   float initialQualityOrRate = 0;
+  /// Title of the type that was taken out of the menu; empty while none was.
+  std::string hev2Title_;
 };
 
 }  // namespace velk

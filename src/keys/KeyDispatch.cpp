@@ -1,3 +1,4 @@
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -16,9 +17,14 @@ std::string Velk_AUAACConverterCustomView::unicodeStringForKeyCode(std::uint16_t
 void Velk_AUAACConverterCustomView::keyDown(const ui::KeyEvent& event) {
   const auto binding = keyBindings_.find(keyLabel(event.keyCode));
   if (binding != keyBindings_.end()) {
-    // A copy, since an observer may end in a teardown, which empties the table.
-    for (const std::string_view name : std::vector(binding->second)) {
+    // An observer may tear the view down, which empties the table, or destroy it.
+    const std::vector<std::string_view> names = binding->second;
+    const std::weak_ptr<const bool> exists = exists_;
+    for (const std::string_view name : names) {
       ui::NotificationCenter::defaultCenter().post(name, this);
+      if (exists.expired()) {
+        return;
+      }
     }
   }
   native_.interpretKeyEvents(event);

@@ -37,7 +37,7 @@ class UI_EXPORT NativeView : public Object {
 
   /// For hosts: asks for a size. The view may refuse it, answer it later or with another one.
   virtual void setFrameSize(Size size) = 0;
-  /// For hosts: called whenever the view has changed its size.
+  /// For hosts: called whenever the view has changed its size. Not the place to destroy the view.
   virtual void setFrameSizeObserver(std::function<void(Size)> observer) = 0;
   virtual Size frameSize() const = 0;
 

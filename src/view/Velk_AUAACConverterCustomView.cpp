@@ -10,7 +10,8 @@ Velk_AUAACConverterCustomView::Velk_AUAACConverterCustomView(ui::NativeView& nat
     : native_(native),
       toolkit_(toolkit),
       keyBindings_(defaultKeyBindings()),
-      inUse_(std::make_shared<const bool>(true)) {
+      inUse_(std::make_shared<const bool>(true)),
+      exists_(std::make_shared<const bool>(true)) {
   declareConnections();
 }
 

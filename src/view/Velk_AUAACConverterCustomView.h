@@ -182,6 +182,8 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   std::unique_ptr<ui::Deferred> pendingExpand_;
   /// Null after the teardown.
   std::shared_ptr<const bool> inUse_;
+  /// For work that may end in the destruction of the view: never null.
+  const std::shared_ptr<const bool> exists_;
 };
 
 }  // namespace velk

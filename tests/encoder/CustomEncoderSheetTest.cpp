@@ -76,6 +76,38 @@ TEST_F(CustomEncoderSheet, RemovesHEv2BeforeItShowsTheSetting) {
                           "settingsController.typePopup.selectItemAtIndex 1"));
 }
 
+TEST_F(CustomEncoderSheet, OffersHEv2AgainForAConverterThatHasIt) {
+  fakes::FakeConverter without(record.calls);
+  without.maximumFormat = 1;
+  bindWith({2, 0, 3});
+  const std::vector<std::string> all = popUp("typePopup").titles();
+  ASSERT_EQ(all.size(), 3U);
+  for (int time = 0; time < 2; ++time) {
+    view().setAU(&without);
+    view().setCustomEncoder(nullptr);
+    EXPECT_EQ(popUp("typePopup").titles(), (std::vector<std::string>{all[0], all[1]}));
+    controller().cancelPressed(nullptr);
+    view().setAU(&unit);
+    view().setCustomEncoder(nullptr);
+    EXPECT_EQ(popUp("typePopup").titles(), all);
+    EXPECT_EQ(popUp("typePopup").indexOfSelectedItem(), 2);
+    controller().cancelPressed(nullptr);
+  }
+  bound.reset();
+}
+
+TEST_F(CustomEncoderSheet, OffersHEv2OnceHoweverOftenItOpens) {
+  bindWith({0, 0, 3});
+  for (int time = 0; time < 3; ++time) {
+    view().setCustomEncoder(nullptr);
+    EXPECT_EQ(popUp("typePopup").numberOfItems(), 3);
+    controller().cancelPressed(nullptr);
+  }
+  EXPECT_THAT(record.calls.starting("settingsController.typePopup.insert",
+                                    "settingsController.typePopup.remove"),
+              IsEmpty());
+}
+
 TEST_F(CustomEncoderSheet, ShowsAnHETypeWithItsDisplayedStrategyLast) {
   openWith({0, 1, 12});
   refresh({2, 2, 70});

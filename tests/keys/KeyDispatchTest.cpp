@@ -96,6 +96,19 @@ TEST_F(KeyDispatch, ATeardownInTheMiddleOfAKeyIsSurvived) {
   EXPECT_EQ(record.calls.lines().back(), "native.interpretKeyEvents 18");
 }
 
+TEST_F(KeyDispatch, LeavesAViewAloneThatAnObserverHasDestroyed) {
+  int observer = 0;
+  ui::NotificationCenter::defaultCenter().addObserver(
+      &observer, "aac_monitorSourceActionPerformedNotification", nullptr,
+      [&](const ui::Notification&) { bound->native.reset(); });
+  press(18);
+  ui::NotificationCenter::defaultCenter().removeObserver(&observer);
+  EXPECT_EQ(bound->native, nullptr);
+  EXPECT_THAT(record.notifications.names(),
+              ElementsAre("aac_monitorSourceActionPerformedNotification"));
+  EXPECT_THAT(record.calls.starting("native.interpretKeyEvents"), IsEmpty());
+}
+
 class KeyBindingsSheet : public fakes::ViewTest {
  protected:
   void SetUp() override { bind(); }

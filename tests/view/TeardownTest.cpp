@@ -176,6 +176,35 @@ TEST_F(Teardown, AThousandViewsLeaveNothingBehind) {
   EXPECT_THAT(record.calls.starting("unit."), IsEmpty());
 }
 
+TEST_F(Teardown, MayComeFromAnObserverOfAnyNotification) {
+  const std::vector<std::pair<std::string_view, std::function<void()>>> causes = {
+      {"aac_monitorEncodedActionPerformedNotification", [&] { bound->native->pressKey(19); }},
+      {"aac_listeningTestChooseBActionPerformedNotification", [&] { bound->native->pressKey(19); }},
+      {"aac_clearClipActionPerformedNotification", [&] { bound->native->pressKey(51); }},
+      {"aac_monitorAActionPerformedNotification", [&] { bound->native->pressKey(0); }},
+      {"auAACSourceSelectionChangedNotification",
+       [&] { unit.hostSetsProperty(velk::kConverterProperty_MonitorSource, 1); }},
+      {"auAACResetStatsNotification",
+       [&] { unit.hostSetsProperty(velk::kConverterProperty_ResetPeakStats, 1); }},
+      {"auAACListeningTestStateChangedNotification",
+       [&] { unit.hostSetsProperty(velk::kConverterProperty_ListeningTestActive, 1); }},
+  };
+  for (const auto& [name, cause] : causes) {
+    SCOPED_TRACE(name);
+    bind();
+    int observer = 0;
+    ui::NotificationCenter::defaultCenter().addObserver(
+        &observer, name, &view(), [&](const ui::Notification&) { bound->native.reset(); });
+    cause();
+    settle();
+    ui::NotificationCenter::defaultCenter().removeObserver(&observer);
+    EXPECT_EQ(bound->native, nullptr);
+    forget();
+    settle();
+    EXPECT_THAT(record.calls.lines(), IsEmpty());
+  }
+}
+
 class FirstResponder : public fakes::ViewTest {};
 
 TEST_F(FirstResponder, TheViewBecomesWhenItEntersAWindow) {
