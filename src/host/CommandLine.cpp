@@ -15,8 +15,9 @@ constexpr const char* description =
 aac-audition opens a window with the converter's view: the encoder's setting, the
 monitored signal, peaks and overs of the source and of the encoded signal, and the
 blind listening test. Without FILE it waits for one to be opened or dropped.
-WAV, AIFF, FLAC, Ogg and MP3 files with one or two channels are played; sample
-rates other than 32, 44.1, 48, 88.2 and 96 kHz are converted.)";
+WAV, AIFF, FLAC, Ogg Vorbis, Opus and MP3 files are played: mono, stereo, or two
+channels of more (--channels); sample rates other than 32, 44.1, 48, 88.2 and 96 kHz
+are converted.)";
 
 constexpr const char* footer = R"(
 With --headless the same window is made off screen and FILE is run through the
@@ -101,6 +102,7 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
   std::optional<std::string> monitor;
   std::optional<std::string> preset;
   std::optional<std::string> setting;
+  std::optional<std::string> channels;
   app.add_option("FILE", options.file, "The sound file to play");
   app.add_flag("--headless", options.headless, "Run off screen, as fast as it goes, and end");
   app.add_option("--seconds", options.seconds, "End after this much of the file")->type_name("N");
@@ -119,6 +121,9 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
                  "The encoder setting: aac, he or hev2; abr, vbrc or vbr; kbit/s of the list, or "
                  "for vbr a quality from 0 to 127")
       ->type_name("FORMAT,STRATEGY,RATE");
+  app.add_option("--channels", channels,
+                 "The channels to play of a file that has more than two, by number from 1 on")
+      ->type_name("L,R");
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {
@@ -130,6 +135,7 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
   }
   if (monitor) options.monitorsSource = monitorsSource(*monitor);
   if (preset) options.preset = presetIndex(*preset);
+  if (channels) options.channels = parsedChannelChoice(*channels);
   if (setting) options.setting = parsedEncoderSetting(*setting);
   check(options);
   return options;

@@ -5,6 +5,7 @@
 #include <string>
 #include <variant>
 
+#include "host/ChannelChoice.h"
 #include "host/EncoderSetting.h"
 
 namespace host {
@@ -12,6 +13,8 @@ namespace host {
 /// What `aac-audition` is asked to do.
 struct AuditionOptions {
   std::optional<std::filesystem::path> file;
+  /// Of a file with more than two.
+  ChannelChoice channels;
   bool headless = false;
   std::optional<double> seconds;
   std::optional<std::filesystem::path> screenshot;

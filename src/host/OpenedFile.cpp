@@ -8,8 +8,8 @@
 
 namespace host {
 
-OpenedFile openedForPlaying(const std::filesystem::path& path) {
-  auto file = std::make_unique<SoundFile>(path);
+OpenedFile openedForPlaying(const std::filesystem::path& path, const ChannelChoice& choice) {
+  auto file = std::make_unique<SoundFile>(path, choice);
   const auto original = file->format();
   auto truncated = file->truncation();
   auto source = atSampleRate(std::move(file), unitSampleRateFor(original.sampleRate));

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "host/AudioSource.h"
+#include "host/ChannelChoice.h"
 
 namespace host {
 
@@ -19,7 +20,8 @@ struct OpenedFile {
   std::shared_ptr<const std::atomic<bool>> truncated;
 };
 
-/// Throws `Failure` when the file cannot be played.
-OpenedFile openedForPlaying(const std::filesystem::path& path);
+/// Of a file with more than two channels those of the choice are played. Throws `TooManyChannels`
+/// when there is no choice, and `Failure` when the file cannot be played.
+OpenedFile openedForPlaying(const std::filesystem::path& path, const ChannelChoice& choice = {});
 
 }  // namespace host

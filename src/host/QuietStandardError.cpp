@@ -7,7 +7,17 @@
 
 namespace host {
 
-QuietStandardError::QuietStandardError() : saved_(-1) {
+namespace {
+
+/// Two at once would each take the other's silence for the real thing.
+std::mutex& onlyOne() {
+  static std::mutex mutex;
+  return mutex;
+}
+
+}  // namespace
+
+QuietStandardError::QuietStandardError() : turn_(onlyOne()), saved_(-1) {
   std::fflush(stderr);
   const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
   if (nowhere < 0) return;

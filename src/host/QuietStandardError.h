@@ -1,9 +1,12 @@
 #pragma once
 
+#include <mutex>
+
 namespace host {
 
 /// While it lives, nothing reaches the process's standard error. For calls into libraries that
-/// write there on their own what the program then says in its own words. Main thread only, briefly.
+/// write there on their own what the program then says in its own words. One at a time: whoever
+/// wants another one waits.
 class QuietStandardError {
  public:
   QuietStandardError();
@@ -12,6 +15,7 @@ class QuietStandardError {
   ~QuietStandardError();
 
  private:
+  std::unique_lock<std::mutex> turn_;
   int saved_;
 };
 

@@ -7,7 +7,7 @@
 #include <charconv>
 #include <cmath>
 #include <system_error>
-#include <vector>
+#include <utility>
 
 #include "host/Failure.h"
 #include "host/QuietStandardError.h"
@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::uint32_t lowestSampleRate = 2000;
 constexpr std::uint32_t highestSampleRate = 768000;
+constexpr std::size_t mostChannels = 2;
+constexpr std::size_t wideFrames = 1024;
 
 SNDFILE* handle(void* file) {
   return static_cast<SNDFILE*>(file);
@@ -75,7 +77,8 @@ void SoundFile::Close::operator()(void* file) const {
   sf_close(handle(file));
 }
 
-SoundFile::SoundFile(const std::filesystem::path& path) : path_(path) {
+SoundFile::SoundFile(const std::filesystem::path& path, ChannelChoice choice)
+    : path_(path), choice_(std::move(choice)) {
   requireOrdinaryFile(path);
   open();
   std::array<char, 16384> log{};
@@ -106,12 +109,10 @@ void SoundFile::open() {
     std::replace(why.begin(), why.end(), '\n', ' ');
     refuse(path_, why + "; give a WAV, AIFF, FLAC, Ogg or MP3 file");
   }
-  if (info.channels < 1 || info.channels > 2) {
-    refuse(path_, "it has " + std::to_string(info.channels) +
-                      " channels; give a mono or stereo file, or mix it down first");
-  }
+  fileChannels_ = static_cast<std::size_t>(info.channels);
   format_ = {static_cast<std::uint32_t>(info.samplerate),
              static_cast<std::uint32_t>(info.channels)};
+  if (fileChannels_ > mostChannels) chooseChannels();
   if (format_.sampleRate < lowestSampleRate || format_.sampleRate > highestSampleRate) {
     refuse(path_, "its sample rate is " + std::to_string(info.samplerate) +
                       " Hz; give a file from 2 to 768 kHz");
@@ -120,9 +121,27 @@ void SoundFile::open() {
   isOgg_ = (info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG;
 }
 
+void SoundFile::chooseChannels() {
+  if (choice_.empty()) {
+    throw TooManyChannels("cannot play '" + path_.string() + "': it has " +
+                              std::to_string(fileChannels_) +
+                              " channels; give a mono or stereo file, or choose two "
+                              "of them with --channels, such as 1,2",
+                          static_cast<std::uint32_t>(fileChannels_));
+  }
+  for (const auto channel : choice_) {
+    if (channel > fileChannels_) {
+      refuse(path_, "it has no channel " + std::to_string(channel) + "; give channels from 1 to " +
+                        std::to_string(fileChannels_));
+    }
+  }
+  format_.channels = static_cast<std::uint32_t>(choice_.size());
+  wide_.resize(wideFrames * fileChannels_);
+}
+
 std::int64_t SoundFile::countFrames() {
   constexpr std::size_t block = 8192;
-  std::vector<float> scratch(block * format_.channels);
+  std::vector<float> scratch(block * fileChannels_);
   std::int64_t count = 0;
   for (;;) {
     const auto got = sf_readf_float(handle(file_.get()), scratch.data(), block);
@@ -132,13 +151,23 @@ std::int64_t SoundFile::countFrames() {
   return count;
 }
 
+std::int64_t SoundFile::readFrames(float* interleaved, std::int64_t frames) {
+  if (wide_.empty()) return sf_readf_float(handle(file_.get()), interleaved, frames);
+  const auto got = sf_readf_float(handle(file_.get()), wide_.data(),
+                                  std::min(frames, static_cast<std::int64_t>(wideFrames)));
+  for (std::int64_t frame = 0; frame < got; ++frame) {
+    const float* const samples = wide_.data() + static_cast<std::size_t>(frame) * fileChannels_;
+    for (const auto channel : choice_) *interleaved++ = samples[channel - 1];
+  }
+  return got;
+}
+
 std::size_t SoundFile::read(float* interleaved, std::size_t frames) {
   const auto wanted = std::min<std::int64_t>(static_cast<std::int64_t>(frames),
                                              std::max<std::int64_t>(frames_ - position_, 0));
   std::int64_t done = 0;
   while (done < wanted) {
-    const auto got =
-        sf_readf_float(handle(file_.get()), interleaved + done * format_.channels, wanted - done);
+    const auto got = readFrames(interleaved + done * format_.channels, wanted - done);
     if (got <= 0) break;
     done += got;
   }

@@ -5,18 +5,22 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/AudioSource.h"
+#include "host/ChannelChoice.h"
 
 namespace host {
 
-/// A sound file of any format that libsndfile reads, mono or stereo. Samples that are not finite
-/// come out as silence.
+/// A sound file of any format that libsndfile reads: mono, stereo, or one or two channels of more.
+/// Samples that are not finite come out as silence.
 class SoundFile : public AudioSource {
  public:
-  /// Throws `Failure` when the file is missing, empty, no audio, no ordinary file, or has a channel
-  /// count or sample rate that cannot be played.
-  explicit SoundFile(const std::filesystem::path& path);
+  /// `choice` says which channels are taken of a file that has more than two; others are read as
+  /// they are. Throws `TooManyChannels` when there is none for such a file, and `Failure` when the
+  /// file is missing, empty, no audio, no ordinary file, lacks a chosen channel, or has a sample
+  /// rate that cannot be played.
+  explicit SoundFile(const std::filesystem::path& path, ChannelChoice choice = {});
   ~SoundFile() override;
 
   AudioFormat format() const override { return format_; }
@@ -36,11 +40,18 @@ class SoundFile : public AudioSource {
   };
 
   void open();
+  void chooseChannels();
   std::int64_t countFrames();
+  std::int64_t readFrames(float* interleaved, std::int64_t frames);
 
   std::filesystem::path path_;
+  ChannelChoice choice_;
   std::unique_ptr<void, Close> file_;
   AudioFormat format_;
+  /// As many as the file has. The first ones are those that are taken, unless there is a choice.
+  std::size_t fileChannels_ = 0;
+  /// Frames of the whole file, where only some of its channels are taken.
+  std::vector<float> wide_;
   std::int64_t frames_ = 0;
   bool isOgg_ = false;
   std::int64_t position_ = 0;

@@ -37,12 +37,14 @@ TEST(CommandLine, AsksForNothingByItself) {
   EXPECT_FALSE(none.file || none.seconds || none.screenshot || none.device || none.record ||
                none.monitorsSource || none.preset || none.setting);
   EXPECT_FALSE(none.headless || none.json);
+  EXPECT_TRUE(none.channels.empty());
 }
 
 TEST(CommandLine, ReadsEveryOption) {
-  const auto all =
-      options({"mix.wav", "--headless", "--seconds", "2.5", "--screenshot", "a.png", "--json",
-               "--device", "none", "--record", "b.wav", "--monitor", "source", "--preset", "high"});
+  const auto all = options({"mix.wav", "--headless", "--seconds", "2.5", "--screenshot", "a.png",
+                            "--json", "--device", "none", "--record", "b.wav", "--monitor",
+                            "source", "--preset", "high", "--channels", "3,4"});
+  EXPECT_EQ(all.channels, (host::ChannelChoice{3, 4}));
   EXPECT_EQ(all.file, "mix.wav");
   EXPECT_TRUE(all.headless);
   EXPECT_EQ(all.seconds, 2.5);
@@ -85,7 +87,7 @@ TEST(CommandLine, ReadsEncoderSettings) {
 TEST(CommandLine, HelpsOnRequest) {
   const auto help = std::get<host::HelpText>(parsed({"--help"})).text;
   for (const char* const option : {"--headless", "--seconds", "--screenshot", "--json", "--device",
-                                   "--record", "--monitor", "--preset", "--set"}) {
+                                   "--record", "--monitor", "--preset", "--set", "--channels"}) {
     EXPECT_THAT(help, HasSubstr(option));
   }
   EXPECT_THAT(std::get<host::HelpText>(parsed({"--version"})).text, HasSubstr("aac-audition"));

@@ -247,6 +247,14 @@ TEST_F(Headless, MeasuresFilesOfRatesThatTheConverterDoesNotDo) {
   }
 }
 
+TEST_F(Headless, PlaysTheChosenChannelsOfAFileThatHasMore) {
+  const auto surround = noise(48000, 6, 48000);
+  mix(surround);
+  measured({"--channels", "5,2", "--monitor", "source", "--record", "out.wav"});
+  EXPECT_TRUE(readSound(path("out.wav")).planes ==
+              (std::vector{surround.planes[4], surround.planes[1]}));
+}
+
 TEST_F(Headless, PlaysWhatIsLeftOfACutOffFileAndSaysSoOnce) {
   const auto sound = noise(48000, 2, 48000 * 2);
   mix(sound);

@@ -165,7 +165,7 @@ void Audition::openAndPlay(const QString& path) {
   // A new view would end the test without a word.
   if (session_ && listeningTestRuns(&session_->unit())) return;
   try {
-    open(openedForPlaying(path.toStdString()));
+    open(openedForPlaying(path.toStdString(), options_.channels));
     session_->player().play();
   } catch (const Failure& failure) {
     auto* const message =

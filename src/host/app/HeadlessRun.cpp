@@ -96,7 +96,7 @@ void requireDevice(const std::optional<std::string>& name) {
 int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
   // Nothing sounds, but a wrong name should not wait until somebody listens.
   requireDevice(options.device);
-  auto file = openedForPlaying(*options.file);
+  auto file = openedForPlaying(*options.file, options.channels);
   Audition audition(options, std::move(files.record), std::nullopt);
   audition.open(std::move(file));
   if (options.seconds) limitLength(audition, *options.seconds);

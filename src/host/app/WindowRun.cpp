@@ -25,7 +25,7 @@ std::vector<Device> wantedDevices(const std::optional<std::string>& name) {
 int runWithWindow(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
   auto devices = wantedDevices(options.device);
   std::optional<OpenedFile> file;
-  if (options.file) file = openedForPlaying(*options.file);
+  if (options.file) file = openedForPlaying(*options.file, options.channels);
   Audition audition(options, std::move(files.record), std::move(devices));
   auto& window = audition.window();
   if (file) {
