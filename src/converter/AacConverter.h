@@ -28,6 +28,7 @@ class AacConverter final : public ConverterUnit {
     renderer_.render(input, output, frames);
   }
   void reset() override { renderer_.reset(); }
+  void setBitStreamSink(BitStreamSink* sink) override { renderer_.setBitStreamSink(sink); }
 
  private:
   void readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data);

@@ -14,7 +14,8 @@ Position firstFrame(const CodecTiming& timing, Position start) {
 
 }  // namespace
 
-CodecPair::CodecPair(const Setting& setting, const UnitFormat& unit, Position start)
+CodecPair::CodecPair(const Setting& setting, const UnitFormat& unit, Position start,
+                     BitStreamSink* sink)
     : encoder_(openEncoder(setting, unit)),
       timing_(encoder_->timing()),
       decoder_(openDecoder(encoder_->configuration(), unit, timing_.frameLength)),
@@ -22,11 +23,16 @@ CodecPair::CodecPair(const Setting& setting, const UnitFormat& unit, Position st
       channels_(unit.channels),
       nextFrame_(firstFrame(timing_, start)),
       start_(start),
+      sink_(sink),
       lookaheadLeft_(timing_.lookaheadFrames),
       decodedBegin_(nextFrame_ - timing_.delay),
       decodedEnd_(decodedBegin_) {
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     decoded_[channel].resize(std::size_t{kBlockFrames} + timing_.frameLength);
+  }
+  if (sink_ != nullptr) {
+    sink_->streamBegan(
+        {encoder_->configuration(), unit.sampleRate, unit.channels, timing_.frameLength});
   }
 }
 
@@ -64,6 +70,7 @@ void CodecPair::codeFrame(const SourceHistory& history) {
     --lookaheadLeft_;
     return;
   }
+  if (sink_ != nullptr && !accessUnit.empty()) sink_->accessUnitMade({accessUnit, decodedEnd_});
   const Position decodedNext = decodedEnd_ + timing_.frameLength;
   if (decodedNext > start_) bitRate_.count(accessUnit.size());
   // A failure leaves a frame of silence rather than everything behind it out of place.

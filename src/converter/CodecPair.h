@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "converter/BitRateMeter.h"
+#include "converter/BitStreamSink.h"
 #include "converter/Decoder.h"
 #include "converter/Encoder.h"
 #include "converter/SourceHistory.h"
@@ -17,8 +18,13 @@ namespace converter {
 /// time.
 class CodecPair {
  public:
-  /// Good for stretches from `start` on. Throws `std::runtime_error` when a codec refuses.
-  CodecPair(const Setting& setting, const UnitFormat& unit, Position start);
+  /// Good for stretches from `start` on. Throws `std::runtime_error` when a codec refuses. `sink`
+  /// is shown the access units, unless it is null.
+  CodecPair(const Setting& setting, const UnitFormat& unit, Position start,
+            BitStreamSink* sink = nullptr);
+
+  /// The sink belongs to another pair from now on.
+  void leaveBitStreamSink() { sink_ = nullptr; }
 
   /// Writes the encoded signal at [position, position + frames), at most `kBlockFrames`, in the
   /// source's own time. Positions only ever rise. The history has to reach `delay + frameLength`
@@ -40,6 +46,7 @@ class CodecPair {
   UInt32 channels_;
   Position nextFrame_;
   Position start_;
+  BitStreamSink* sink_;
   UInt32 lookaheadLeft_;
   /// The decoded samples at [decodedBegin_, decodedEnd_).
   std::array<std::vector<float>, kMaximumChannels> decoded_;

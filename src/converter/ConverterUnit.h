@@ -6,6 +6,7 @@
 
 #include "audio_unit/Unit.h"
 #include "contract/ConverterInterface.h"
+#include "converter/BitStreamSink.h"
 
 namespace converter {
 
@@ -66,6 +67,11 @@ class ConverterUnit : public audio_unit::Unit {
   /// Forgets the audio inside (after a seek): codec and rings, never the statistics. Not while
   /// `render` runs.
   virtual void reset() = 0;
+
+  /// Shows the access units to `sink` from now on, which has to outlive the unit or be taken away
+  /// again with null; there is none at first. Does what `reset` does, so that the first unit shown
+  /// is the first of the audio. Not while `render` runs. A unit that has no bit stream ignores it.
+  virtual void setBitStreamSink(BitStreamSink* /*sink*/) {}
 };
 
 /// Whether this build can encode AAC HE and HEv2. Without it the format parameter's maximum is 0.0.

@@ -75,4 +75,10 @@ void Renderer::reset() {
   worker_.start();
 }
 
+void Renderer::setBitStreamSink(BitStreamSink* sink) {
+  worker_.stop();
+  worker_.setBitStreamSink(sink);
+  reset();
+}
+
 }  // namespace converter

@@ -20,9 +20,10 @@ class Renderer {
   /// Throws `std::runtime_error` when a codec cannot be opened.
   Renderer(const UnitFormat& unit, Controls& controls);
 
-  /// As `ConverterUnit::render` and `ConverterUnit::reset`.
+  /// As the operations of `ConverterUnit`.
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
   void reset();
+  void setBitStreamSink(BitStreamSink* sink);
 
   UInt32 latency() const { return latency_; }
   /// Any thread.

@@ -10,10 +10,10 @@ namespace converter {
 namespace {
 
 /// Null when the codec cannot be opened: in mid-play there is nobody to tell.
-std::unique_ptr<CodecPair> openPair(const Setting& setting, const UnitFormat& unit,
-                                    Position start) {
+std::unique_ptr<CodecPair> openPair(const Setting& setting, const UnitFormat& unit, Position start,
+                                    BitStreamSink* sink) {
   try {
-    return std::make_unique<CodecPair>(setting, unit, start);
+    return std::make_unique<CodecPair>(setting, unit, start, sink);
   } catch (const std::runtime_error&) {
     return nullptr;
   }
@@ -57,13 +57,14 @@ void Transcoder::restart(const SourceBlock& source) {
   fade_.reset();
   changes_.clear();
   begin_ = source.audio.position;
-  pair_ = openPair(source.setting, unit_, begin_);
+  pair_ = openPair(source.setting, unit_, begin_, sink_);
 }
 
 /// Keeps the old pair when the new one cannot be opened.
 void Transcoder::beginFade(const SettingChange& change) {
-  auto to = openPair(change.setting, unit_, change.position);
+  auto to = openPair(change.setting, unit_, change.position, sink_);
   if (!to) return;
+  if (pair_) pair_->leaveBitStreamSink();
   fade_.emplace(Fade{change.position + static_cast<Position>(curve_.size()), std::move(to)});
 }
 

@@ -23,6 +23,9 @@ class Transcoder {
   /// first block.
   void process(const SourceBlock& source, AudioBlock& encoded);
 
+  /// Takes the access units from the next encoder on. Null for none.
+  void setBitStreamSink(BitStreamSink* sink) { sink_ = sink; }
+
   /// Of the setting last taken up.
   BitRate bitRate() const;
 
@@ -41,6 +44,7 @@ class Transcoder {
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
 
   UnitFormat unit_;
+  BitStreamSink* sink_ = nullptr;
   std::vector<float> curve_;
   SourceHistory history_;
   std::optional<Position> expected_;

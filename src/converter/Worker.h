@@ -20,6 +20,8 @@ class Worker {
   /// Main thread, while the audio thread does not use the queues. Starting makes everything empty.
   void start();
   void stop();
+  /// While stopped. Null for none.
+  void setBitStreamSink(BitStreamSink* sink) { transcoder_.setBitStreamSink(sink); }
 
   /// Audio thread writes, `wake` after every push.
   SpscQueue<SourceBlock>& source() { return source_; }

@@ -1,0 +1,148 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+#include <vector>
+
+#include "Rig.h"
+#include "converter/BitStreamSink.h"
+#include "converter/Decoder.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+struct Unit {
+  Bytes bytes;
+  std::int64_t position;
+};
+
+struct Stream {
+  Bytes configuration;
+  double sampleRate;
+  UInt32 channels;
+  UInt32 frameLength;
+  std::vector<Unit> units;
+};
+
+class Recorder : public converter::BitStreamSink {
+ public:
+  void streamBegan(const converter::BitStream& stream) noexcept override {
+    streams.push_back({Bytes(stream.configuration.begin(), stream.configuration.end()),
+                       stream.sampleRate,
+                       stream.channels,
+                       stream.frameLength,
+                       {}});
+    isOnCallersThread |= std::this_thread::get_id() == caller;
+  }
+  void accessUnitMade(const converter::AccessUnit& unit) noexcept override {
+    streams.back().units.push_back({Bytes(unit.bytes.begin(), unit.bytes.end()), unit.position});
+  }
+
+  std::vector<Stream> streams;
+  std::thread::id caller = std::this_thread::get_id();
+  bool isOnCallersThread = false;
+};
+
+/// What a decoder of the stream gives, by position in the source from 0 on.
+Signal decode(const Stream& stream, std::size_t frames) {
+  const converter::UnitFormat format{
+      .sampleRate = stream.sampleRate, .channels = stream.channels, .maximumFrames = 512};
+  const auto decoder = converter::openDecoder(stream.configuration, format, stream.frameLength);
+  Signal signal = silence(stream.channels, frames);
+  for (const Unit& unit : stream.units) {
+    const float* const* planes = decoder->decode(unit.bytes);
+    for (UInt32 i = 0; planes != nullptr && i < stream.frameLength; ++i) {
+      const std::int64_t at = unit.position + i;
+      if (at < 0 || at >= static_cast<std::int64_t>(frames)) continue;
+      for (UInt32 channel = 0; channel < stream.channels; ++channel) {
+        signal[channel][static_cast<std::size_t>(at)] = planes[channel][i];
+      }
+    }
+  }
+  return signal;
+}
+
+class BitStreamOf : public testing::TestWithParam<SInt32> {};
+
+TEST_P(BitStreamOf, DecodesToTheEncodedSignalBitForBit) {
+  Rig rig;
+  Recorder recorder;
+  rig.setPreset(GetParam());
+  rig.unit().setBitStreamSink(&recorder);
+  const Signal encoded = rig.renderAligned(music(2, 60000, 44100));
+  ASSERT_EQ(recorder.streams.size(), 1U);
+  const Stream& stream = recorder.streams[0];
+  EXPECT_EQ(stream.sampleRate, 44100);
+  EXPECT_EQ(stream.channels, 2U);
+  EXPECT_LT(stream.units.front().position, 0);
+  EXPECT_EQ(decode(stream, 60000), encoded);
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryPreset, BitStreamOf, testing::Values(0, 1, 2, 3));
+
+TEST(BitStream, GivesTheUnitsInOrderWithoutAGap) {
+  Rig rig;
+  Recorder recorder;
+  rig.unit().setBitStreamSink(&recorder);
+  rig.render(music(2, 60000, 44100));
+  const Stream& stream = recorder.streams.at(0);
+  ASSERT_GT(stream.units.size(), 40U);
+  for (std::size_t i = 1; i < stream.units.size(); ++i) {
+    EXPECT_EQ(stream.units[i].position - stream.units[i - 1].position, stream.frameLength);
+  }
+}
+
+TEST(BitStream, ComesOnTheWorkersThread) {
+  Rig rig;
+  Recorder recorder;
+  rig.unit().setBitStreamSink(&recorder);
+  rig.render(music(2, 20000, 44100));
+  EXPECT_FALSE(recorder.streams.empty());
+  EXPECT_FALSE(recorder.isOnCallersThread);
+}
+
+TEST(BitStream, BeginsAnewWithEveryChangeOfEncoderAndReset) {
+  const Signal input = music(2, 60000, 44100);
+  Rig rig;
+  Recorder recorder;
+  rig.unit().setBitStreamSink(&recorder);
+  rig.renderInBlocks(input, [&](std::size_t at) -> std::size_t {
+    if (at == 30000) rig.setSetting(0, 0, 9);
+    return 500;
+  });
+  ASSERT_EQ(recorder.streams.size(), 2U);
+  const Stream& changed = recorder.streams[1];
+  // Run-up first, and behind it everything from the change on.
+  EXPECT_LT(changed.units.front().position, 30000);
+  EXPECT_GT(changed.units.front().position, 30000 - 6 * 1024);
+  for (std::size_t i = 1; i < changed.units.size(); ++i) {
+    EXPECT_EQ(changed.units[i].position - changed.units[i - 1].position, changed.frameLength);
+  }
+  rig.unit().reset();
+  rig.render(input);
+  ASSERT_EQ(recorder.streams.size(), 3U);
+  EXPECT_LT(recorder.streams[2].units.front().position, 0);
+}
+
+TEST(BitStream, IsNotShownToASinkThatWasTakenAway) {
+  Rig rig;
+  Recorder recorder;
+  rig.unit().setBitStreamSink(&recorder);
+  rig.render(music(2, 20000, 44100));
+  rig.unit().setBitStreamSink(nullptr);
+  const std::size_t units = recorder.streams.at(0).units.size();
+  rig.render(music(2, 40000, 44100));
+  EXPECT_EQ(recorder.streams.size(), 1U);
+  EXPECT_EQ(recorder.streams[0].units.size(), units);
+}
+
+TEST(BitStream, ChangesNothingOfTheSound) {
+  const Signal input = music(2, 40000, 44100);
+  Rig plain;
+  Rig rig;
+  Recorder recorder;
+  rig.unit().setBitStreamSink(&recorder);
+  EXPECT_EQ(rig.render(input), plain.render(input));
+}
+
+}  // namespace
