@@ -13,7 +13,7 @@
 #include <stdexcept>
 
 #include "fakes/LogCapture.h"
-#include "qt/Host.h"
+#include "qt/Mouse.h"
 #include "ui/Localization.h"
 #include "ui/qt/ButtonAdapter.h"
 #include "ui/qt/LampAdapter.h"
@@ -213,13 +213,7 @@ class PopUpButton : public testing::Test {
   }
   void TearDown() override { box_.hidePopup(); }
 
-  void pick(int index) {
-    box_.showPopup();
-    QAbstractItemView* menu = box_.view();
-    const QPoint place = menu->visualRect(box_.model()->index(index, 0)).center();
-    QTest::mouseMove(menu->viewport(), place);
-    QTest::mouseClick(menu->viewport(), Qt::LeftButton, {}, place);
-  }
+  void pick(int index) { qt_test::pickItem(box_, index); }
 
   ui::qt::PopUpBox box_;
   std::unique_ptr<ui::qt::PopUpButtonAdapter> popUp_;

@@ -110,7 +110,8 @@ void ResourceFolder::lengthenTexts() const {
   }
 }
 
-Host::Host(fakes::FakeConverter& unit, const HostOptions& options) : runLoop_(log_) {
+Host::Host(audio_unit::Unit& unit, const HostOptions& options)
+    : runLoop_(options.runLoop != nullptr ? *options.runLoop : ownRunLoop_.emplace(log_)) {
   // The test delivers the events of units; nobody else may.
   CFRunLoopGetCurrent()->setWakeUp([] {});
   ui::qt::Environment environment = testEnvironment(options.resources);

@@ -6,12 +6,13 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "audio_unit/Unit.h"
 #include "fakes/CallLog.h"
-#include "fakes/FakeConverter.h"
 #include "fakes/FakeRunLoop.h"
 #include "ui/CustomView.h"
 #include "ui/qt/Environment.h"
@@ -23,6 +24,8 @@ struct HostOptions {
   std::filesystem::path resources = VELK_BUNDLE_RESOURCES;
   std::string language = "en";
   std::string locale = "en_US";
+  /// A clock that several hosts share and that outlives them; null for one of the host's own.
+  fakes::FakeRunLoop* runLoop = nullptr;
 };
 
 /// A copy of the bundle's resources that lives as long as this object. Its files may be changed.
@@ -48,7 +51,7 @@ class ResourceFolder {
 /// events and whose time the test drives.
 class Host {
  public:
-  explicit Host(fakes::FakeConverter& unit, const HostOptions& options = {});
+  explicit Host(audio_unit::Unit& unit, const HostOptions& options = {});
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
   ~Host();
@@ -71,7 +74,8 @@ class Host {
 
  private:
   fakes::CallLog log_;
-  fakes::FakeRunLoop runLoop_;
+  std::optional<fakes::FakeRunLoop> ownRunLoop_;
+  fakes::FakeRunLoop& runLoop_;
   std::vector<QUrl> openedUrls_;
   std::unique_ptr<QWidget> window_;
   QPointer<QWidget> view_;

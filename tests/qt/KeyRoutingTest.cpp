@@ -55,12 +55,6 @@ class KeyRouting : public testing::Test {
     posted_.clear();
   }
 
-  /// Presses a key the way a keyboard does: at whatever has the focus.
-  static void press(std::uint16_t keyCode) {
-    QWidget* receiver = QApplication::focusWidget();
-    ASSERT_NE(receiver, nullptr);
-    qt_test::pressKeyAt(keyCode, *receiver);
-  }
   void showTestPage() {
     host_.outlet<QTabWidget>("view.tabView").setCurrentIndex(1);
     QApplication::processEvents();
@@ -75,15 +69,15 @@ class KeyRouting : public testing::Test {
 
 TEST_F(KeyRouting, StartsAtTheView) {
   EXPECT_TRUE(host_.view()->hasFocus());
-  press(kKeyS);
+  qt_test::pressKeyAt(kKeyS);
   EXPECT_THAT(posted(), ElementsAre(kS));
 }
 
 TEST_F(KeyRouting, ReachesTheViewFromAMenuButtonWithTheFocus) {
   auto& menu = host_.outlet<QComboBox>("view.encoderPopup");
   menu.setFocus();
-  press(kKeyS);
-  press(kKey1);
+  qt_test::pressKeyAt(kKeyS);
+  qt_test::pressKeyAt(kKey1);
   EXPECT_EQ(posted().size(), 3U) << "one for S, two for 1";
   EXPECT_EQ(menu.currentIndex(), 0) << "\"S\" is the first letter of \"Streaming\"";
 }
@@ -91,13 +85,13 @@ TEST_F(KeyRouting, ReachesTheViewFromAMenuButtonWithTheFocus) {
 TEST_F(KeyRouting, ReachesTheViewFromACheckBoxWithTheFocus) {
   showTestPage();
   host_.outlet("listeningTestController.learnModeButton").setFocus();
-  press(kKeyS);
+  qt_test::pressKeyAt(kKeyS);
   EXPECT_THAT(posted(), ElementsAre(kS));
 }
 
 TEST_F(KeyRouting, ReachesTheViewFromTheTabsWithTheFocus) {
   host_.outlet<QTabWidget>("view.tabView").tabBar()->setFocus();
-  press(kKeyS);
+  qt_test::pressKeyAt(kKeyS);
   EXPECT_THAT(posted(), ElementsAre(kS));
 }
 
@@ -105,7 +99,7 @@ TEST_F(KeyRouting, LeavesAControlItsOwnKeys) {
   showTestPage();
   auto& box = host_.outlet<QAbstractButton>("listeningTestController.learnModeButton");
   box.setFocus();
-  press(kSpace);
+  qt_test::pressKeyAt(kSpace);
   EXPECT_TRUE(box.isChecked());
   EXPECT_THAT(posted(), IsEmpty());
 }
@@ -124,7 +118,7 @@ TEST_F(KeyRouting, LeavesEditedTextItsKeys) {
   auto* editor = new QLineEdit(&host_.window());
   editor->show();
   editor->setFocus();
-  press(kKeyS);
+  qt_test::pressKeyAt(kKeyS);
   EXPECT_EQ(editor->text(), "s");
   EXPECT_THAT(posted(), IsEmpty());
 }
@@ -140,11 +134,11 @@ TEST_F(KeyRouting, LeavesASheetItsKeys) {
 
 TEST_F(KeyRouting, HandsEveryPressOnToTheHost) {
   const LeftOver leftOver(host_.window());
-  press(kKeyS);
-  press(kKeyZ);
+  qt_test::pressKeyAt(kKeyS);
+  qt_test::pressKeyAt(kKeyZ);
   EXPECT_THAT(leftOver.keys(), ElementsAre(Qt::Key_S, Qt::Key_Z));
   host_.outlet("view.encoderPopup").setFocus();
-  press(kKeyS);
+  qt_test::pressKeyAt(kKeyS);
   EXPECT_THAT(leftOver.keys(), ElementsAre(Qt::Key_S, Qt::Key_Z, Qt::Key_S));
   EXPECT_THAT(posted(), ElementsAre(kS, kS)) << "each press once";
 }

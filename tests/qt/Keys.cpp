@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWidget>
+#include <stdexcept>
 
 #include "ui/qt/KeyCodes.h"
 
@@ -47,6 +48,14 @@ void pressKeyAt(std::uint16_t positionCode, QWidget& widget) {
       QApplication::sendEvent(receiver, &event);
     }
   }
+}
+
+void pressKeyAt(std::uint16_t positionCode) {
+  QWidget* focused = QApplication::focusWidget();
+  if (focused == nullptr) {
+    throw std::logic_error("no widget has the focus");
+  }
+  pressKeyAt(positionCode, *focused);
 }
 
 }  // namespace qt_test

@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
@@ -11,8 +10,6 @@
 #include <QPointer>
 #include <QSlider>
 #include <QStackedWidget>
-#include <QStyle>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -22,6 +19,7 @@
 #include "fakes/BoundView.h"
 #include "qt/Host.h"
 #include "qt/Keys.h"
+#include "qt/Mouse.h"
 #include "ui/qt/Lamp.h"
 #include "ui/qt/ReadableColor.h"
 #include "ui/qt/SegmentedControlAdapter.h"
@@ -47,40 +45,19 @@ class QtStage final : public Stage {
 
   fakes::FakeConverter& unit() override { return unit_; }
 
-  void click(std::string_view button) override { clickOn(host_->outlet(button)); }
+  void click(std::string_view button) override { qt_test::clickOn(host_->outlet(button)); }
   void selectSegment(std::string_view control, int segment) override {
-    clickOn(*ui::qt::segmentsOf(host_->outlet(control)).at(static_cast<std::size_t>(segment)));
+    qt_test::clickOn(
+        *ui::qt::segmentsOf(host_->outlet(control)).at(static_cast<std::size_t>(segment)));
   }
   void pickItem(std::string_view popUp, int index) override {
-    auto& box = host_->outlet<QComboBox>(popUp);
-    if (!box.isEnabled()) {
-      return;
-    }
-    box.showPopup();
-    QAbstractItemView* menu = box.view();
-    const QModelIndex item = box.model()->index(index, 0);
-    menu->scrollTo(item);
-    const QPoint place = menu->visualRect(item).center();
-    QTest::mouseMove(menu->viewport(), place);
-    QTest::mouseClick(menu->viewport(), Qt::LeftButton, {}, place);
+    qt_test::pickItem(host_->outlet<QComboBox>(popUp), index);
   }
   void dragSlider(std::string_view name, double value) override {
-    auto& slider = host_->outlet<QSlider>(name);
-    // Whichever pixel stands for the value.
-    const int wanted = static_cast<int>(value);
-    for (int x = 0; x < slider.width(); ++x) {
-      const int handle = slider.style()->pixelMetric(QStyle::PM_SliderLength, nullptr, &slider);
-      if (QStyle::sliderValueFromPosition(slider.minimum(), slider.maximum(), x - (handle - 1) / 2,
-                                          slider.width() - handle) == wanted) {
-        QTest::mouseClick(&slider, Qt::LeftButton, {}, QPoint(x, slider.height() / 2));
-        return;
-      }
-    }
-    throw std::out_of_range("no place on the slider stands for the value");
+    qt_test::clickAt(host_->outlet<QSlider>(name), static_cast<int>(value));
   }
   void clickTab(int index) override {
-    QTabBar* bar = host_->outlet<QTabWidget>("view.tabView").tabBar();
-    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
+    qt_test::clickTab(host_->outlet<QTabWidget>("view.tabView"), index);
   }
   void pressKey(std::uint16_t keyCode) override {
     host_->view()->setFocus();
@@ -89,7 +66,7 @@ class QtStage final : public Stage {
   void clickHelp(int tag) override {
     for (auto* button : host_->view()->findChildren<QAbstractButton*>()) {
       if (button->property("tag").toInt() == tag) {
-        clickOn(*button);
+        qt_test::clickOn(*button);
         return;
       }
     }
@@ -98,7 +75,7 @@ class QtStage final : public Stage {
   void confirmResults() override {
     // The panel runs inside the click.
     QTimer::singleShot(0, &context_, [this] { answerSavePanel(); });
-    clickOn(host_->named("resultsOKButton"));
+    qt_test::clickOn(host_->named("resultsOKButton"));
   }
   void answerAlert(bool stop) override {
     QMessageBox* box = alert();
@@ -107,7 +84,7 @@ class QtStage final : public Stage {
     }
     for (QAbstractButton* button : box->buttons()) {
       if (button->text() == (stop ? "Stop" : "Resume")) {
-        clickOn(*button);
+        qt_test::clickOn(*button);
         return;
       }
     }
@@ -195,13 +172,6 @@ class QtStage final : public Stage {
   const std::vector<std::string>& notifications() override { return record_.notifications.names(); }
 
  private:
-  static void clickOn(QWidget& widget) {
-    // A check box that is wider than its title takes clicks on the title only.
-    const QPoint place =
-        widget.inherits("QCheckBox") ? QPoint(8, widget.height() / 2) : widget.rect().center();
-    QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
-  }
-
   QMessageBox* alert() const {
     for (auto* box : host_->view()->findChildren<QMessageBox*>()) {
       if (box->isVisible()) {

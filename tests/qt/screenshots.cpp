@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "contract/ConverterInterface.h"
+#include "fakes/FakeConverter.h"
 #include "qt/Host.h"
 
 namespace {

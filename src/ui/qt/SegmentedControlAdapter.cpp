@@ -1,6 +1,9 @@
 #include "ui/qt/SegmentedControlAdapter.h"
 
+#include <QKeyEvent>
 #include <QLayout>
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace ui::qt {
@@ -23,6 +26,7 @@ SegmentedControlAdapter::SegmentedControlAdapter(QWidget& widget)
       setSelectedSegment(static_cast<int>(index));
       send(action_, this);
     });
+    segments_[index]->installEventFilter(this);
   }
 }
 
@@ -43,6 +47,29 @@ void SegmentedControlAdapter::setSelectedSegment(int segment) {
 
 void SegmentedControlAdapter::setAction(Action action) {
   action_ = std::move(action);
+}
+
+bool SegmentedControlAdapter::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) {
+    return false;
+  }
+  const int key = static_cast<const QKeyEvent*>(event)->key();
+  if (key != Qt::Key_Left && key != Qt::Key_Right) {
+    return false;
+  }
+  const bool forward = (key == Qt::Key_Right) == (widget().layoutDirection() == Qt::LeftToRight);
+  stepFrom(watched, forward ? 1 : -1);
+  return true;
+}
+
+void SegmentedControlAdapter::stepFrom(const QObject* segment, int step) {
+  const auto from = std::find(segments_.begin(), segments_.end(), segment);
+  const auto next = from - segments_.begin() + step;
+  if (next >= 0 && next < static_cast<std::ptrdiff_t>(segments_.size())) {
+    QAbstractButton* reached = segments_[static_cast<std::size_t>(next)];
+    reached->setFocus(Qt::TabFocusReason);
+    reached->click();
+  }
 }
 
 }  // namespace ui::qt

@@ -12,7 +12,7 @@ SkinColors skinColors(const QPalette& palette, bool enabled) {
   const bool dark = isDark(colors.window);
 
   colors.secondaryText = mixed(colors.text, colors.window, 0.34);
-  colors.line = mixed(colors.window, colors.text, 0.14);
+  colors.line = mixed(colors.window, colors.text, dark ? 0.24 : 0.16);
   colors.controlFill =
       dark ? mixed(colors.window, colors.text, 0.10) : palette.color(group, QPalette::Base);
   colors.controlBorder = mixed(colors.window, colors.text, dark ? 0.16 : 0.20);

@@ -68,6 +68,14 @@ void SkinStyle::drawControl(ControlElement element, const QStyleOption* option, 
         return;
       }
       break;
+    case CE_MenuItem:
+      if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+          item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator) {
+        drawHairline(*painter, option->rect.adjusted(kComboPadding, 0, -kComboPadding, 0),
+                     option->palette);
+        return;
+      }
+      break;
     case CE_TabBarTab:
       if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
         drawTab(*painter, *tab);
