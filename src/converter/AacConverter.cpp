@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "contract/ConverterInterface.h"
+#include "converter/CodecRate.h"
 #include "converter/ParameterInfo.h"
 #include "converter/Presets.h"
 #include "converter/PropertyTable.h"
@@ -44,11 +45,11 @@ Value take(const void* data) {
 
 }  // namespace
 
-AacConverter::AacConverter(const UnitFormat& format)
+AacConverter::AacConverter(const UnitFormat& format, const OpenEncoder& open)
     : format_(format),
-      parameters_(format, presetValues(kDefaultPreset).value_or(ParameterValues{}),
+      parameters_(codecFormat(format), presetValues(kDefaultPreset).value_or(ParameterValues{}),
                   controls_.setting),
-      renderer_(format, controls_) {}
+      renderer_(format, controls_, open) {}
 
 OSStatus AacConverter::getParameter(AudioUnitParameterID id, AudioUnitScope scope,
                                     AudioUnitElement element, AudioUnitParameterValue& value) {
@@ -102,11 +103,13 @@ void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element
     case velk::kConverterProperty_ListeningTestActive:
       return put(data, listeningTestActive_);
     case kConverterProperty_EffectiveSetting:
-      return put(data, effectiveSetting(parameters_.setting()));
+      return put(data, effectiveSetting(renderer_.codec().carrying(parameters_.setting())));
     case kConverterProperty_BitRate:
-      return put(data, renderer_.bitRate());
+      return put(data, renderer_.codec().bitRate());
     case kConverterProperty_MissedFrames:
       return put(data, controls_.missedFrames.load(std::memory_order_relaxed));
+    case kConverterProperty_CodecFailures:
+      return put(data, renderer_.codec().failures());
     default:
       return;
   }
@@ -122,6 +125,7 @@ OSStatus AacConverter::setProperty(AudioUnitPropertyID id, AudioUnitScope scope,
     case kAudioUnitProperty_OfflineRender:
       offlineRender_ = take<UInt32>(data);
       controls_.offline.store(offlineRender_ != 0, std::memory_order_relaxed);
+      renderer_.setUrgent(offlineRender_ == 0);
       break;
     case velk::kConverterProperty_MonitorSource:
       monitorSource_ = take<UInt32>(data);

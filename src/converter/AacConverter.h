@@ -2,6 +2,7 @@
 
 #include "converter/Controls.h"
 #include "converter/ConverterUnit.h"
+#include "converter/Encoder.h"
 #include "converter/Parameters.h"
 #include "converter/Renderer.h"
 
@@ -12,7 +13,7 @@ namespace converter {
 class AacConverter final : public ConverterUnit {
  public:
   /// The format has been found good.
-  explicit AacConverter(const UnitFormat& format);
+  explicit AacConverter(const UnitFormat& format, const OpenEncoder& open = openEncoder);
 
   OSStatus getParameter(AudioUnitParameterID id, AudioUnitScope scope, AudioUnitElement element,
                         AudioUnitParameterValue& value) override;

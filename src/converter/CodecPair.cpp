@@ -14,9 +14,9 @@ Position firstFrame(const CodecTiming& timing, Position start) {
 
 }  // namespace
 
-CodecPair::CodecPair(const Setting& setting, const UnitFormat& unit, Position start,
+CodecPair::CodecPair(std::unique_ptr<Encoder> encoder, const UnitFormat& unit, Position start,
                      BitStreamSink* sink)
-    : encoder_(openEncoder(setting, unit)),
+    : encoder_(std::move(encoder)),
       timing_(encoder_->timing()),
       decoder_(openDecoder(encoder_->configuration(), unit, timing_.frameLength)),
       bitRate_(unit.sampleRate, timing_.frameLength),
@@ -75,6 +75,7 @@ void CodecPair::codeFrame(const SourceHistory& history) {
   if (decodedNext > start_) bitRate_.count(accessUnit.size());
   // A failure leaves a frame of silence rather than everything behind it out of place.
   const float* const* planes = accessUnit.empty() ? nullptr : decoder_->decode(accessUnit);
+  if (planes == nullptr) ++failures_;
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     const auto to = decoded_[channel].begin() + (decodedEnd_ - decodedBegin_);
     if (planes != nullptr) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "converter/BitRateMeter.h"
@@ -20,7 +21,7 @@ class CodecPair {
  public:
   /// Good for stretches from `start` on. Throws `std::runtime_error` when a codec refuses. `sink`
   /// is shown the access units, unless it is null.
-  CodecPair(const Setting& setting, const UnitFormat& unit, Position start,
+  CodecPair(std::unique_ptr<Encoder> encoder, const UnitFormat& unit, Position start,
             BitStreamSink* sink = nullptr);
 
   /// The sink belongs to another pair from now on.
@@ -35,6 +36,9 @@ class CodecPair {
   /// Of the access units since priming.
   BitRate bitRate() const { return bitRate_.value(); }
 
+  /// Access units that could not be made or decoded, since the last call.
+  UInt64 takeFailures() { return std::exchange(failures_, 0); }
+
  private:
   void codeFrame(const SourceHistory& history);
   void keepFrom(Position position);
@@ -47,6 +51,7 @@ class CodecPair {
   Position nextFrame_;
   Position start_;
   BitStreamSink* sink_;
+  UInt64 failures_ = 0;
   UInt32 lookaheadLeft_;
   /// The decoded samples at [decodedBegin_, decodedEnd_).
   std::array<std::vector<float>, kMaximumChannels> decoded_;

@@ -11,13 +11,14 @@
 namespace converter {
 namespace {
 
-constexpr std::array kSampleRates = {32000.0, 44100.0, 48000.0, 88200.0, 96000.0};
+constexpr std::array kSampleRates = {32000.0, 44100.0,  48000.0, 88200.0,
+                                     96000.0, 176400.0, 192000.0};
 constexpr UInt32 kLargestBlock = 8192;
 
 void validate(const UnitFormat& format) {
   if (std::ranges::find(kSampleRates, format.sampleRate) == kSampleRates.end()) {
     throw std::invalid_argument("converter: a sample rate of " + std::to_string(format.sampleRate) +
-                                " Hz is not 32000, 44100, 48000, 88200 or 96000");
+                                " Hz is not 32000, 44100, 48000, 88200, 96000, 176400 or 192000");
   }
   if (format.channels != 1 && format.channels != 2) {
     throw std::invalid_argument("converter: " + std::to_string(format.channels) +

@@ -13,12 +13,16 @@ namespace converter {
 /// Properties of this unit beyond the contract with the view; global scope, element 0, read only.
 inline constexpr AudioUnitPropertyID kConverterProperty_EffectiveSetting = 5310;
 inline constexpr AudioUnitPropertyID kConverterProperty_BitRate = 5311;
-/// UInt64: frames of encoded signal that came too late since the unit was made and were silence.
+/// UInt64: frames of encoded signal that came too late since the unit was made, or that no codec
+/// could be opened for, and were silence.
 inline constexpr AudioUnitPropertyID kConverterProperty_MissedFrames = 5312;
+/// UInt64: codecs that could not be opened since the unit was made, and access units that could not
+/// be made or decoded. 0 as long as all is well.
+inline constexpr AudioUnitPropertyID kConverterProperty_CodecFailures = 5313;
 
 /// Data of `kConverterProperty_EffectiveSetting`: the setting really used, which is the nearest
 /// that works where the parameters ask for one that the encoder cannot do at this rate and channel
-/// count.
+/// count. Where the codec could not be opened in mid-play, the one that goes on in its place.
 struct EffectiveSetting {
   UInt32 format;
   UInt32 strategy;
@@ -37,7 +41,8 @@ struct BitRate {
 };
 
 struct UnitFormat {
-  /// 32000, 44100, 48000, 88200 or 96000 Hz.
+  /// 32000, 44100, 48000, 88200, 96000, 176400 or 192000 Hz. AAC knows none above 96000: the codec
+  /// then works at half the rate, and only the source keeps what lies above.
   double sampleRate = 48000;
   /// 1 or 2.
   UInt32 channels = 2;

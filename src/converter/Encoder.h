@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -41,6 +42,10 @@ class Encoder {
 
 /// Throws `std::runtime_error` when the encoder refuses.
 std::unique_ptr<Encoder> openEncoder(const Setting& setting, const UnitFormat& unit);
+
+/// What opens a unit's encoders: `openEncoder`, or something in its place.
+using OpenEncoder =
+    std::function<std::unique_ptr<Encoder>(const Setting& setting, const UnitFormat& unit)>;
 
 /// Of the encoder that this build has.
 EncoderAbilities encoderAbilities();

@@ -36,6 +36,7 @@ constexpr std::array kProperties = {
     Property{kConverterProperty_EffectiveSetting, sizeof(EffectiveSetting), Access::read},
     Property{kConverterProperty_BitRate, sizeof(BitRate), Access::read},
     Property{kConverterProperty_MissedFrames, sizeof(UInt64), Access::read},
+    Property{kConverterProperty_CodecFailures, sizeof(UInt64), Access::read},
 };
 
 const Property* find(AudioUnitPropertyID id) {

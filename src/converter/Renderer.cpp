@@ -10,7 +10,7 @@ namespace {
 
 /// Room for all that can be under way at once, and some for a worker that is late.
 std::size_t queueBlocks(const UnitFormat& unit) {
-  return (latencyFor(unit.maximumFrames) + unit.maximumFrames) / kBlockFrames + 4;
+  return (latencyFor(unit) + unit.maximumFrames) / kBlockFrames + 4;
 }
 
 std::array<float*, kMaximumChannels> pointers(
@@ -20,12 +20,12 @@ std::array<float*, kMaximumChannels> pointers(
 
 }  // namespace
 
-Renderer::Renderer(const UnitFormat& unit, Controls& controls)
+Renderer::Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder& open)
     : unit_(unit),
       controls_(controls),
-      latency_(latencyFor(unit.maximumFrames)),
-      worker_(unit, queueBlocks(unit)),
-      feeder_(worker_),
+      latency_(latencyFor(unit)),
+      worker_(unit, queueBlocks(unit), open),
+      feeder_(worker_, unit),
       reader_(worker_),
       delay_(unit.channels, latency_, unit.maximumFrames),
       meters_(unit.channels),
@@ -33,7 +33,9 @@ Renderer::Renderer(const UnitFormat& unit, Controls& controls)
   for (auto& plane : source_) plane.resize(unit.maximumFrames);
   for (auto& plane : encoded_) plane.resize(unit.maximumFrames);
   // Says at once whether the codec works here, and spares the worker the libraries' slow first use.
-  const CodecPair trial(controls.setting.load(), unit, 0);
+  const UnitFormat codec = codecFormat(unit);
+  const CodecPair trial(open(controls.setting.load(), codec), codec, 0);
+  worker_.setUrgent(true);
   worker_.start();
 }
 

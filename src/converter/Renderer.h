@@ -18,7 +18,7 @@ namespace converter {
 class Renderer {
  public:
   /// Throws `std::runtime_error` when a codec cannot be opened.
-  Renderer(const UnitFormat& unit, Controls& controls);
+  Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder& open);
 
   /// As the operations of `ConverterUnit`.
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
@@ -27,7 +27,8 @@ class Renderer {
 
   UInt32 latency() const { return latency_; }
   /// Any thread.
-  BitRate bitRate() const { return worker_.bitRate(); }
+  const CodecStatus& codec() const { return worker_.codec(); }
+  void setUrgent(bool urgent) { worker_.setUrgent(urgent); }
   velk::PeakStatistics peakStatistics() const { return meters_.read(); }
   void resetPeakStatistics() { meters_.requestReset(); }
 

@@ -11,7 +11,7 @@ struct SourceBlock {
   AudioBlock audio;
   /// In force at the block's first sample.
   Setting setting;
-  /// Inside the block; changes are at least a block apart, so there is never a second.
+  /// Inside the block; changes are at least as far apart, so there is never a second.
   std::optional<SettingChange> change;
 };
 

@@ -11,7 +11,7 @@ void SourceFeeder::request(const Setting& setting) {
     return;
   }
   if (position_ < nextChange_) return;
-  nextChange_ = position_ + kBlockFrames;
+  nextChange_ = position_ + accessUnit_;
   change_ = SettingChange{position_, setting};
 }
 
@@ -32,7 +32,7 @@ void SourceFeeder::feed(const float* const* input, UInt32 channels, UInt32 frame
     done += step;
     if (block_ != nullptr && offset + step == kBlockFrames) {
       worker_.source().push();
-      worker_.wake();
+      if (position_ % accessUnit_ == 0) worker_.wake();
       block_ = nullptr;
     }
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "converter/Latency.h"
 #include "converter/Worker.h"
 
 namespace converter {
@@ -8,10 +9,11 @@ namespace converter {
 /// Audio thread.
 class SourceFeeder {
  public:
-  explicit SourceFeeder(Worker& worker) : worker_(worker) {}
+  SourceFeeder(Worker& worker, const UnitFormat& unit)
+      : worker_(worker), accessUnit_(accessUnitFrames(unit)) {}
 
-  /// Makes `setting` the one in force from the next sample on. A change that comes within a block's
-  /// length of the last one waits; the newest call after that takes effect.
+  /// Makes `setting` the one in force from the next sample on. A change that comes within an
+  /// access unit's length of the last one waits; the newest call after that takes effect.
   void request(const Setting& setting);
 
   /// Takes the next samples. When the worker is too far behind to take them they are lost to it;
@@ -28,6 +30,7 @@ class SourceFeeder {
   void beginBlock(bool wait);
 
   Worker& worker_;
+  UInt32 accessUnit_;
   Position position_ = 0;
   /// In force up to `position_`.
   Setting setting_;

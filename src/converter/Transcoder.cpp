@@ -1,33 +1,24 @@
 #include "converter/Transcoder.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <exception>
+#include <utility>
 
 #include "converter/FadeCurve.h"
 #include "converter/Latency.h"
 
 namespace converter {
-namespace {
-
-/// Null when the codec cannot be opened: in mid-play there is nobody to tell.
-std::unique_ptr<CodecPair> openPair(const Setting& setting, const UnitFormat& unit, Position start,
-                                    BitStreamSink* sink) {
-  try {
-    return std::make_unique<CodecPair>(setting, unit, start, sink);
-  } catch (const std::runtime_error&) {
-    return nullptr;
-  }
-}
-
-}  // namespace
-
-Transcoder::Transcoder(const UnitFormat& unit)
-    : unit_(unit), curve_(fadeCurve(unit.sampleRate)), history_(unit.channels) {
+Transcoder::Transcoder(const UnitFormat& unit, OpenEncoder open)
+    : unit_(unit),
+      open_(std::move(open)),
+      curve_(fadeCurve(unit.sampleRate)),
+      history_(unit.channels) {
   for (auto& plane : fadedIn_) plane.resize(curve_.size());
 }
 
 void Transcoder::process(const SourceBlock& source, AudioBlock& encoded) {
-  if (expected_ != source.audio.position) restart(source);
+  // Without a codec every block tries again: what stood in the way may have passed.
+  if (expected_ != source.audio.position || !pair_) restart(source);
   expected_ = source.audio.end();
   history_.write(source.audio);
   if (source.change) changes_.push_back(*source.change);
@@ -35,14 +26,21 @@ void Transcoder::process(const SourceBlock& source, AudioBlock& encoded) {
   encoded.position = source.audio.position - kEncodedBehindSource;
   const Position end = encoded.end();
   encoded.begin = std::clamp(begin_, encoded.position, end);
+  if (!pair_) encoded.begin = end;
   for (Position position = encoded.begin; position < end;) {
     position += renderStep(position, end, encoded);
   }
+  takeFailures();
 }
 
-BitRate Transcoder::bitRate() const {
-  if (fade_) return fade_->to->bitRate();
-  return pair_ ? pair_->bitRate() : BitRate{0, 0};
+CodecReport Transcoder::report() const {
+  CodecReport report{{0, 0}, inUse_, refused_, failures_};
+  if (fade_) {
+    report.bitRate = fade_->to->bitRate();
+  } else if (pair_) {
+    report.bitRate = pair_->bitRate();
+  }
+  return report;
 }
 
 void Transcoder::clear() {
@@ -51,26 +49,50 @@ void Transcoder::clear() {
   fade_.reset();
   changes_.clear();
   history_.clear();
+  inUse_.reset();
+  refused_.reset();
 }
 
 void Transcoder::restart(const SourceBlock& source) {
   fade_.reset();
   changes_.clear();
   begin_ = source.audio.position;
-  pair_ = openPair(source.setting, unit_, begin_, sink_);
+  inUse_.reset();
+  pair_ = openPair(source.setting, begin_);
+}
+
+/// Null when the codec cannot be opened: in mid-play there is nobody to tell, but for those who
+/// read the report.
+std::unique_ptr<CodecPair> Transcoder::openPair(const Setting& setting, Position start) {
+  try {
+    auto pair = std::make_unique<CodecPair>(open_(setting, unit_), unit_, start, sink_);
+    inUse_ = setting;
+    refused_.reset();
+    return pair;
+  } catch (const std::exception&) {
+    refused_ = setting;
+    ++failures_;
+    return nullptr;
+  }
 }
 
 /// Keeps the old pair when the new one cannot be opened.
 void Transcoder::beginFade(const SettingChange& change) {
-  auto to = openPair(change.setting, unit_, change.position, sink_);
+  auto to = openPair(change.setting, change.position);
   if (!to) return;
-  if (pair_) pair_->leaveBitStreamSink();
+  pair_->leaveBitStreamSink();
   fade_.emplace(Fade{change.position + static_cast<Position>(curve_.size()), std::move(to)});
+}
+
+void Transcoder::takeFailures() {
+  if (pair_) failures_ += pair_->takeFailures();
+  if (fade_) failures_ += fade_->to->takeFailures();
 }
 
 /// Writes the samples up to the next point where something begins or ends; returns how many.
 UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encoded) {
   if (fade_ && fade_->end <= position) {
+    takeFailures();
     pair_ = std::move(fade_->to);
     fade_.reset();
   }
@@ -90,13 +112,7 @@ UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encod
   for (UInt32 channel = 0; channel < unit_.channels; ++channel) {
     output[channel] = encoded.planes[channel].data() + offset;
   }
-  if (pair_) {
-    pair_->render(history_, position, frames, output);
-  } else {
-    for (UInt32 channel = 0; channel < unit_.channels; ++channel) {
-      std::fill_n(output[channel], frames, 0.0F);
-    }
-  }
+  pair_->render(history_, position, frames, output);
   if (fade_) {
     std::array<float*, kMaximumChannels> fadedIn = {fadedIn_[0].data(), fadedIn_[1].data()};
     fade_->to->render(history_, position, frames, fadedIn);

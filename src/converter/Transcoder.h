@@ -5,32 +5,21 @@
 #include <optional>
 #include <vector>
 
+#include "converter/BlockTranscoder.h"
 #include "converter/CodecPair.h"
-#include "converter/SourceBlock.h"
 #include "converter/SourceHistory.h"
 
 namespace converter {
 
-/// Turns blocks of the source into blocks of the encoded signal, and one setting into another. What
-/// comes out depends only on the blocks that went in. Worker thread.
-class Transcoder {
+/// Transcodes at the unit's own rate, which the codec knows.
+class Transcoder final : public BlockTranscoder {
  public:
-  explicit Transcoder(const UnitFormat& unit);
+  explicit Transcoder(const UnitFormat& unit, OpenEncoder open = openEncoder);
 
-  /// Takes the next block of the source and writes the block of the encoded signal that has become
-  /// complete, `kEncodedBehindSource` before it. When blocks are missing in between, the codec
-  /// starts anew, and the encoded signal begins where the source begins again, as it does with the
-  /// first block.
-  void process(const SourceBlock& source, AudioBlock& encoded);
-
-  /// Takes the access units from the next encoder on. Null for none.
-  void setBitStreamSink(BitStreamSink* sink) { sink_ = sink; }
-
-  /// Of the setting last taken up.
-  BitRate bitRate() const;
-
-  /// Forgets all audio.
-  void clear();
+  void process(const SourceBlock& source, AudioBlock& encoded) override;
+  void setBitStreamSink(BitStreamSink* sink) override { sink_ = sink; }
+  CodecReport report() const override;
+  void clear() override;
 
  private:
   struct Fade {
@@ -39,11 +28,14 @@ class Transcoder {
   };
 
   void restart(const SourceBlock& source);
+  std::unique_ptr<CodecPair> openPair(const Setting& setting, Position start);
+  void takeFailures();
   void beginFade(const SettingChange& change);
   UInt32 renderStep(Position position, Position end, AudioBlock& encoded);
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
 
   UnitFormat unit_;
+  OpenEncoder open_;
   BitStreamSink* sink_ = nullptr;
   std::vector<float> curve_;
   SourceHistory history_;
@@ -51,6 +43,9 @@ class Transcoder {
   Position begin_ = 0;
   std::unique_ptr<CodecPair> pair_;
   std::optional<Fade> fade_;
+  std::optional<Setting> inUse_;
+  std::optional<Setting> refused_;
+  UInt64 failures_ = 0;
   std::deque<SettingChange> changes_;
   std::array<std::vector<float>, kMaximumChannels> fadedIn_;
 };

@@ -2,16 +2,23 @@
 
 #include <pthread.h>
 
+#include <utility>
+
+#include "converter/ThreadPriority.h"
+
 namespace converter {
 
-Worker::Worker(const UnitFormat& unit, std::size_t queueBlocks)
-    : source_(queueBlocks), encoded_(queueBlocks), transcoder_(unit) {}
+Worker::Worker(const UnitFormat& unit, std::size_t queueBlocks, OpenEncoder open)
+    : source_(queueBlocks),
+      encoded_(queueBlocks),
+      transcoder_(makeTranscoder(unit, std::move(open))) {}
 
 void Worker::start() {
   source_.clear();
   encoded_.clear();
-  transcoder_.clear();
-  bitRate_ = std::bit_cast<UInt64>(BitRate{0, 0});
+  transcoder_->clear();
+  codec_.publish(transcoder_->report());
+  isUrgent_ = false;
   stopping_ = false;
   thread_ = std::thread([this] { run(); });
 }
@@ -26,8 +33,20 @@ void Worker::stop() {
 void Worker::run() {
   pthread_setname_np(pthread_self(), "aac-converter");
   while (!stopping_) {
+    takeUpUrgency();
     processWaiting();
     work_.acquire();
+  }
+}
+
+void Worker::takeUpUrgency() {
+  const bool urgent = urgent_.load(std::memory_order_relaxed);
+  if (urgent == isUrgent_) return;
+  isUrgent_ = urgent;
+  if (urgent) {
+    raiseThreadPriority();
+  } else {
+    dropThreadPriority();
   }
 }
 
@@ -35,9 +54,9 @@ void Worker::processWaiting() {
   while (const SourceBlock* block = source_.front()) {
     if (stopping_) return;
     AudioBlock* encoded = encoded_.claim();
-    transcoder_.process(*block, encoded != nullptr ? *encoded : surplus_);
+    transcoder_->process(*block, encoded != nullptr ? *encoded : surplus_);
     if (encoded != nullptr) encoded_.push();
-    bitRate_.store(std::bit_cast<UInt64>(transcoder_.bitRate()), std::memory_order_relaxed);
+    codec_.publish(transcoder_->report());
     source_.pop();
     if (waiting_.exchange(false, std::memory_order_acq_rel)) progress_.release();
   }

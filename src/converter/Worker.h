@@ -1,29 +1,33 @@
 #pragma once
 
 #include <atomic>
-#include <bit>
+#include <memory>
 #include <thread>
 
+#include "converter/BlockTranscoder.h"
+#include "converter/CodecStatus.h"
 #include "converter/Semaphore.h"
-#include "converter/SourceBlock.h"
 #include "converter/SpscQueue.h"
-#include "converter/Transcoder.h"
 
 namespace converter {
 
 /// The thread that runs a unit's codec, and the two queues between it and the audio thread.
 class Worker {
  public:
-  Worker(const UnitFormat& unit, std::size_t queueBlocks);
+  Worker(const UnitFormat& unit, std::size_t queueBlocks, OpenEncoder open = openEncoder);
   ~Worker() { stop(); }
 
   /// Main thread, while the audio thread does not use the queues. Starting makes everything empty.
   void start();
   void stop();
   /// While stopped. Null for none.
-  void setBitStreamSink(BitStreamSink* sink) { transcoder_.setBitStreamSink(sink); }
+  void setBitStreamSink(BitStreamSink* sink) { transcoder_->setBitStreamSink(sink); }
 
-  /// Audio thread writes, `wake` after every push.
+  /// Any thread: whether the worker goes before ordinary threads, which it takes up when it wakes.
+  /// At first it does not.
+  void setUrgent(bool urgent) { urgent_.store(urgent, std::memory_order_relaxed); }
+
+  /// Audio thread writes, and calls `wake` before it counts on what it has pushed.
   SpscQueue<SourceBlock>& source() { return source_; }
   /// Audio thread reads.
   SpscQueue<AudioBlock>& encoded() { return encoded_; }
@@ -35,6 +39,7 @@ class Worker {
   void waitUntil(Ready ready) {
     while (!ready()) {
       waiting_.exchange(true, std::memory_order_acq_rel);
+      wake();
       // Either this look sees the progress, or the worker has yet to see that somebody waits.
       if (!ready()) progress_.acquire();
       waiting_.exchange(false, std::memory_order_acq_rel);
@@ -42,27 +47,26 @@ class Worker {
   }
 
   /// Any thread.
-  BitRate bitRate() const {
-    return std::bit_cast<BitRate>(bitRate_.load(std::memory_order_relaxed));
-  }
+  const CodecStatus& codec() const { return codec_; }
 
  private:
   void run();
   void processWaiting();
+  void takeUpUrgency();
 
   SpscQueue<SourceBlock> source_;
   SpscQueue<AudioBlock> encoded_;
-  Transcoder transcoder_;
+  std::unique_ptr<BlockTranscoder> transcoder_;
   /// Takes the encoded block that finds its queue full, so that the codec goes on all the same.
   AudioBlock surplus_;
   Semaphore work_;
   Semaphore progress_;
   std::atomic<bool> waiting_{false};
   std::atomic<bool> stopping_{false};
-  /// A `BitRate`, whose own alignment is too small for one atomic word.
-  std::atomic<UInt64> bitRate_{0};
+  std::atomic<bool> urgent_{false};
+  bool isUrgent_ = false;
+  CodecStatus codec_;
   std::thread thread_;
 };
-static_assert(sizeof(BitRate) == sizeof(UInt64));
 
 }  // namespace converter

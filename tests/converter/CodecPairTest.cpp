@@ -44,7 +44,7 @@ class Pair : public testing::TestWithParam<Format> {
       const Position end = block.end() - converter::kEncodedBehindSource;
       const Position begin = std::max(start, end - Position{kBlockFrames});
       if (end <= begin) continue;
-      if (!pair) pair = std::make_unique<CodecPair>(setting_, kUnit, start);
+      if (!pair) pair = std::make_unique<CodecPair>(openEncoder(setting_, kUnit), kUnit, start);
       const Position from = start + static_cast<Position>(encoded.size());
       pair->render(history, from, static_cast<UInt32>(end - from), output);
       encoded.insert(encoded.end(), planes[0].begin(), planes[0].begin() + (end - from));

@@ -13,7 +13,7 @@ TEST(Latency, IsTheLongestCodecDelayTwoAccessUnitsAndTheLargestBlock) {
   }
 }
 
-TEST(Latency, IsTheSameForEverySampleRateChannelCountAndSetting) {
+TEST(Latency, IsTheSameForEverySampleRateThatAacKnowsChannelCountAndSetting) {
   for (const double sampleRate : {32000.0, 44100.0, 48000.0, 88200.0, 96000.0}) {
     for (const UInt32 channels : {1U, 2U}) {
       Rig rig({.sampleRate = sampleRate, .channels = channels, .maximumFrames = 4096});
@@ -23,6 +23,14 @@ TEST(Latency, IsTheSameForEverySampleRateChannelCountAndSetting) {
         EXPECT_DOUBLE_EQ(rig.property<Float64>(kAudioUnitProperty_Latency), 15298 / sampleRate);
       }
     }
+  }
+}
+
+TEST(Latency, AboveTheRatesOfAacHasTheResamplersBesides) {
+  for (const double sampleRate : {176400.0, 192000.0}) {
+    Rig rig({.sampleRate = sampleRate, .channels = 2, .maximumFrames = 4096});
+    EXPECT_EQ(rig.unit().latency(), 2 * (7106 + 2048 + 2048) + 2048 + 2 * 2048 + 4096U);
+    EXPECT_DOUBLE_EQ(rig.property<Float64>(kAudioUnitProperty_Latency), 32644 / sampleRate);
   }
 }
 

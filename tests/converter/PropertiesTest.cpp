@@ -63,6 +63,7 @@ constexpr Reading kReadings[] = {
     {converter::kConverterProperty_EffectiveSetting, kGlobal, 16},
     {converter::kConverterProperty_BitRate, kGlobal, 8},
     {converter::kConverterProperty_MissedFrames, kGlobal, 8},
+    {converter::kConverterProperty_CodecFailures, kGlobal, 8},
 };
 
 TEST(Properties, NameWhatIsWrongWithAReading) {
@@ -130,7 +131,7 @@ TEST(Properties, AreUnknownWhereTheUnitHasNone) {
   Rig rig;
   UInt32 value = 1;
   UInt32 size = sizeof value;
-  for (const AudioUnitPropertyID id : {0U, 1U, 5300U, 5305U, 5309U, 5313U, 0xffffffffU}) {
+  for (const AudioUnitPropertyID id : {0U, 1U, 5300U, 5305U, 5309U, 5314U, 0xffffffffU}) {
     EXPECT_EQ(rig.unit().getProperty(id, kGlobal, 0, &value, size), kAudioUnitErr_InvalidProperty);
     EXPECT_EQ(rig.unit().setProperty(id, kGlobal, 0, &value, size), kAudioUnitErr_InvalidProperty);
   }
@@ -143,7 +144,7 @@ TEST(Properties, AreUnknownWhereTheUnitHasNone) {
 TEST(ConverterUnit, IsNotMadeForFormatsThatItDoesNotDo) {
   using converter::ConverterUnit;
   EXPECT_THROW(ConverterUnit::make({.sampleRate = 22050}), std::invalid_argument);
-  EXPECT_THROW(ConverterUnit::make({.sampleRate = 192000}), std::invalid_argument);
+  EXPECT_THROW(ConverterUnit::make({.sampleRate = 384000}), std::invalid_argument);
   EXPECT_THROW(ConverterUnit::make({.sampleRate = 0}), std::invalid_argument);
   EXPECT_THROW(ConverterUnit::make({.channels = 0}), std::invalid_argument);
   EXPECT_THROW(ConverterUnit::make({.channels = 6}), std::invalid_argument);

@@ -7,6 +7,7 @@
 
 Rig::Rig(const converter::UnitFormat& format)
     : format_(format), unit_(converter::ConverterUnit::make(format)) {
+  unit_->setBitStreamSink(&gate_);
   setOffline(true);
 }
 
@@ -79,11 +80,15 @@ Signal Rig::renderInBlocks(const Signal& input,
 
 Signal Rig::renderTooFast(const Signal& input) {
   setOffline(false);
+  gate_.close();
   UInt32 turn = 0;
-  return renderInBlocks(input, [&](std::size_t) -> std::size_t {
-    setPreset(turn++ % 2 == 0 ? 2 : 3);
+  const Signal output = renderInBlocks(input, [&](std::size_t) -> std::size_t {
+    setPreset(turn % 2 == 0 ? 2 : 3);
+    if (turn++ % 3 == 0) gate_.letPass(1);
     return format_.maximumFrames;
   });
+  gate_.open();
+  return output;
 }
 
 Signal Rig::renderAligned(const Signal& input, std::size_t block) {

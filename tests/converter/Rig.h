@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "Signals.h"
+#include "WorkerGate.h"
 #include "contract/ConverterInterface.h"
 #include "converter/ConverterUnit.h"
 
@@ -19,6 +20,8 @@ class Rig {
  public:
   explicit Rig(const converter::UnitFormat& format = {
                    .sampleRate = 44100, .channels = 2, .maximumFrames = 1024});
+
+  ~Rig() { gate_.open(); }
 
   converter::ConverterUnit& unit() { return *unit_; }
   const converter::UnitFormat& format() const { return format_; }
@@ -45,8 +48,8 @@ class Rig {
   /// the input.
   Signal renderInBlocks(const Signal& input,
                         const std::function<std::size_t(std::size_t)>& nextBlock);
-  /// Renders without waiting for the worker, and has it open and prime an encoder for every block,
-  /// so that it cannot keep up.
+  /// Renders without waiting for the worker, which is held back so that it cannot keep up, and has
+  /// it change its encoder all the time.
   Signal renderTooFast(const Signal& input);
   /// Renders the input and enough silence behind it; the output without the latency, as long as the
   /// input.
@@ -56,5 +59,6 @@ class Rig {
   void read(AudioUnitPropertyID id, void* data, UInt32 size);
 
   converter::UnitFormat format_;
+  WorkerGate gate_;
   std::unique_ptr<converter::ConverterUnit> unit_;
 };

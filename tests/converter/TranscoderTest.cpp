@@ -92,7 +92,7 @@ TEST_F(TranscoderTest, GivesTheSameAgainAfterClear) {
     first.push_back(process(transcoder, at(number)));
   }
   transcoder.clear();
-  EXPECT_EQ(transcoder.bitRate().averageKbps, 0);
+  EXPECT_EQ(transcoder.report().bitRate.averageKbps, 0);
   for (std::size_t number = 0; number < 12; ++number) {
     EXPECT_EQ(process(transcoder, at(number)).planes, first[number].planes);
   }

@@ -1,0 +1,16 @@
+#include "converter/BlockTranscoder.h"
+
+#include <utility>
+
+#include "converter/CodecRate.h"
+#include "converter/ResampledTranscoder.h"
+#include "converter/Transcoder.h"
+
+namespace converter {
+
+std::unique_ptr<BlockTranscoder> makeTranscoder(const UnitFormat& unit, OpenEncoder open) {
+  if (resamplingRatio(unit) == 1) return std::make_unique<Transcoder>(unit, std::move(open));
+  return std::make_unique<ResampledTranscoder>(unit, std::move(open));
+}
+
+}  // namespace converter
