@@ -42,69 +42,127 @@ void saveTo(const std::filesystem::path& file, const QPixmap& picture) {
 class Album {
  public:
   Album(std::filesystem::path folder, const qt_test::HostOptions& options, std::string theme)
-      : folder_(std::move(folder)), theme_(std::move(theme)), unit_(log_) {
-    unit_.setSetting({0.0F, 1.0F, 14.0F});
-    host_.emplace(unit_, options);
-  }
+      : folder_(std::move(folder)), theme_(std::move(theme)), options_(options) {}
 
   void shoot() {
-    host_->advance(100ms);
-    save(host_->window(), "1-audition");
-    unit_.statistics = hotMix();
-    host_->advance(200ms);
-    click("auditionController.showDetailsButton");
-    save(host_->window(), "2-details");
-    auto& tabs = host_->outlet<QTabWidget>("view.tabView");
-    tabs.setCurrentIndex(1);
-    save(host_->window(), "3-test");
-    click("listeningTestController.learnModeButton");
-    click("listeningTestController.aIsSourceButton");
-    host_->advance(100ms);
-    save(host_->window(), "4-learning");
-    click("listeningTestController.endTestButton");
-    save(host_->outlet("listeningTestController.resultsSheet"), "5-results");
-    static_cast<QAbstractButton&>(host_->named("resultsOKButton")).click();
-    click("view.settingsButton");
-    save(host_->outlet("keyController.keySettingsSheet"), "6-keys");
-    click("keyController.doneButton");
-    auto& menu = host_->outlet<QComboBox>("view.encoderPopup");
-    menu.showPopup();
-    save(*menu.view()->window(), "7-menu");
-    menu.hidePopup();
-    emit menu.activated(menu.count() - 1);
-    save(host_->outlet("settingsController.settingsSheet"), "8-custom");
-    unit_.hostSetsSetting({0.0F, 2.0F, 96.0F});
-    host_->advance(100ms);
-    save(host_->outlet("settingsController.settingsSheet"), "9-quality");
-    click("settingsController.OKButton");
-    host_->advance(100ms);
-    click("listeningTestController.aIsSourceButton");
-    host_->advance(100ms);
-    tabs.setCurrentIndex(0);
-    QApplication::processEvents();
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->inherits("QMessageBox")) {
-        save(*window, "10-alert");
-      }
-    }
+    shootAudition();
+    shootMono();
+    shootTest();
+    shootSheets();
+    shootAlert();
   }
 
   const std::vector<QPixmap>& pictures() const { return pictures_; }
 
  private:
-  void click(const char* outlet) { host_->outlet<QAbstractButton>(outlet).click(); }
+  /// A unit and a view of it.
+  struct Scene {
+    Scene(const qt_test::HostOptions& options, UInt32 channels) : unit(log) {
+      unit.channels = channels;
+      unit.setSetting({0.0F, 1.0F, 14.0F});
+      host.emplace(unit, options);
+      settle();
+    }
+    void settle() { host->advance(200ms); }
+    void click(const char* outlet) {
+      host->outlet<QAbstractButton>(outlet).click();
+      settle();
+    }
+    void showTestPage(bool show) {
+      host->outlet<QTabWidget>("view.tabView").setCurrentIndex(show ? 1 : 0);
+      QApplication::processEvents();
+    }
+
+    fakes::CallLog log;
+    fakes::FakeConverter unit;
+    std::optional<qt_test::Host> host;
+  };
+
+  void shootAudition() {
+    Scene scene(options_, 2);
+    save(scene.host->window(), "audition");
+    scene.click("auditionController.showDetailsButton");
+    scene.click("auditionController.resetButton");
+    save(scene.host->window(), "details");
+    scene.unit.statistics = hotMix();
+    scene.settle();
+    save(scene.host->window(), "details-overs");
+    scene.click("auditionController.showDetailsButton");
+    save(scene.host->window(), "audition-overs");
+    scene.host->outlet("auditionController.resetButton").setFocus();
+    save(scene.host->window(), "audition-focus");
+  }
+
+  void shootMono() {
+    Scene scene(options_, 1);
+    scene.click("auditionController.showDetailsButton");
+    scene.click("auditionController.resetButton");
+    save(scene.host->window(), "mono");
+    scene.unit.statistics = hotMix();
+    scene.settle();
+    save(scene.host->window(), "mono-overs");
+  }
+
+  void shootTest() {
+    Scene scene(options_, 2);
+    scene.showTestPage(true);
+    save(scene.host->window(), "test");
+    scene.click("listeningTestController.learnModeButton");
+    scene.click("listeningTestController.aIsSourceButton");
+    save(scene.host->window(), "learning");
+    scene.click("listeningTestController.endTestButton");
+    save(scene.host->outlet("listeningTestController.resultsSheet"), "results");
+  }
+
+  void shootSheets() {
+    Scene scene(options_, 2);
+    scene.click("view.settingsButton");
+    save(scene.host->outlet("keyController.keySettingsSheet"), "keys");
+    scene.click("keyController.doneButton");
+    // A history of settings.
+    for (const float quality : {20.0F, 90.0F}) {
+      scene.unit.hostSetsSetting({0.0F, 2.0F, quality});
+      scene.settle();
+    }
+    scene.unit.hostSetsSetting({1.0F, 0.0F, 5.0F});
+    scene.settle();
+    auto& menu = scene.host->outlet<QComboBox>("view.encoderPopup");
+    menu.showPopup();
+    save(*menu.view()->window(), "menu");
+    menu.hidePopup();
+    emit menu.activated(menu.count() - 1);
+    QWidget& sheet = scene.host->outlet("settingsController.settingsSheet");
+    save(sheet, "custom-HE");
+    scene.unit.hostSetsSetting({0.0F, 1.0F, 14.0F});
+    scene.settle();
+    save(sheet, "custom-rate");
+    scene.unit.hostSetsSetting({0.0F, 2.0F, 96.0F});
+    scene.settle();
+    save(sheet, "custom-quality");
+  }
+
+  void shootAlert() {
+    Scene scene(options_, 2);
+    scene.showTestPage(true);
+    scene.click("listeningTestController.aIsSourceButton");
+    scene.showTestPage(false);
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->inherits("QMessageBox") && window->isVisible()) {
+        save(*window, "alert");
+      }
+    }
+  }
 
   void save(QWidget& widget, const std::string& name) {
     QApplication::processEvents();
     pictures_.push_back(widget.grab());
-    saveTo(folder_ / (theme_ + "-" + name + ".png"), pictures_.back());
+    const std::string number = std::to_string(100 + pictures_.size()).substr(1);
+    saveTo(folder_ / (theme_ + "-" + number + "-" + name + ".png"), pictures_.back());
   }
 
   std::filesystem::path folder_;
   std::string theme_;
-  fakes::CallLog log_;
-  fakes::FakeConverter unit_;
-  std::optional<qt_test::Host> host_;
+  qt_test::HostOptions options_;
   std::vector<QPixmap> pictures_;
 };
 

@@ -15,6 +15,7 @@ class Lamp final : public QWidget {
   bool isLit() const { return value_ != 0; }
 
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -1,5 +1,7 @@
 #include "ui/qt/QtSheets.h"
 
+#include <QLayout>
+#include <QMargins>
 #include <QMessageBox>
 #include <QPushButton>
 #include <utility>
@@ -11,6 +13,9 @@
 namespace ui::qt {
 
 namespace {
+
+/// The text of an alert without an icon is indented by itself.
+constexpr QMargins kAlertMargins(3, 24, 24, 24);
 
 class AlertWindow final : public Window {};
 
@@ -71,6 +76,7 @@ void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
   alert_->setDefaultButton(normal);
   alert_->setEscapeButton(normal);
   alert_->setFont(view_.font());
+  alert_->layout()->setContentsMargins(kAlertMargins);
   for (QWidget* part : alert_->findChildren<QWidget*>()) {
     part->setStyle(view_.style());
   }

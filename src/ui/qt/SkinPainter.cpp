@@ -166,6 +166,24 @@ void drawPopUpText(QPainter& painter, const QStyleOptionComboBox& option, const 
   painter.restore();
 }
 
+void drawMenuItem(QPainter& painter, const QStyleOptionMenuItem& option, int padding) {
+  const QRect inside = option.rect.adjusted(padding, 0, -padding, 0);
+  if (option.menuItemType == QStyleOptionMenuItem::Separator) {
+    drawHairline(painter, inside, option.palette);
+    return;
+  }
+  const SkinColors colors = skinColors(option.palette, isEnabled(option));
+  const bool selected = option.state.testFlag(QStyle::State_Selected);
+  painter.save();
+  if (selected) {
+    painter.fillRect(option.rect, colors.accent);
+  }
+  painter.setFont(option.font);
+  painter.setPen(selected ? colors.accentText : colors.text);
+  painter.drawText(inside, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, option.text);
+  painter.restore();
+}
+
 void drawTab(QPainter& painter, const QStyleOptionTab& option) {
   const Smooth smooth(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));

@@ -23,6 +23,8 @@ void drawButton(QPainter& painter, const QStyleOptionButton& option, ButtonLook 
 void drawPopUpButton(QPainter& painter, const QStyleOptionComboBox& option, const QRect& arrow);
 void drawPopUpText(QPainter& painter, const QStyleOptionComboBox& option, const QRect& rect,
                    const QFont& font);
+/// An item of a pop-up button's menu; `padding` is the space at both sides.
+void drawMenuItem(QPainter& painter, const QStyleOptionMenuItem& option, int padding);
 void drawTab(QPainter& painter, const QStyleOptionTab& option);
 void drawSlider(QPainter& painter, const QStyleOptionSlider& option, const QRect& handle);
 void drawCheckMark(QPainter& painter, const QStyleOption& option);

@@ -18,11 +18,12 @@ constexpr int kButtonPadding = 14;
 constexpr int kSegmentPadding = 20;
 constexpr int kSegmentWidth = 84;
 constexpr int kRoundButton = 24;
-constexpr int kTriangleButton = 20;
+constexpr QSize kTriangleButton(14, 20);
 constexpr int kCheckBoxHeight = 22;
 constexpr int kTabHeight = 32;
 constexpr int kComboPadding = 10;
 constexpr int kComboArrow = 26;
+constexpr int kSeparatorHeight = 9;
 constexpr double kSmallestFont = 0.75;
 
 QFont bold(const QWidget* widget) {
@@ -69,10 +70,8 @@ void SkinStyle::drawControl(ControlElement element, const QStyleOption* option, 
       }
       break;
     case CE_MenuItem:
-      if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-          item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator) {
-        drawHairline(*painter, option->rect.adjusted(kComboPadding, 0, -kComboPadding, 0),
-                     option->palette);
+      if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+        drawMenuItem(*painter, *item, kComboPadding);
         return;
       }
       break;
@@ -154,7 +153,7 @@ QSize SkinStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
       case ButtonLook::Help:
         return {kRoundButton, kRoundButton};
       case ButtonLook::Disclosure:
-        return {kTriangleButton, kTriangleButton};
+        return kTriangleButton;
       case ButtonLook::FirstSegment:
       case ButtonLook::LastSegment:
         return {std::max(text + kSegmentPadding, kSegmentWidth), kControlHeight};
@@ -167,6 +166,11 @@ QSize SkinStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const int mark = pixelMetric(PM_IndicatorWidth, option, widget) +
                      pixelMetric(PM_CheckBoxLabelSpacing, option, widget);
     return {mark + option->fontMetrics.horizontalAdvance(box->text) + 1, kCheckBoxHeight};
+  }
+  if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+      type == CT_MenuItem && item != nullptr &&
+      item->menuItemType == QStyleOptionMenuItem::Separator) {
+    return {size.width(), kSeparatorHeight};
   }
   if (type == CT_ComboBox) {
     return {size.width() + kComboPadding + kComboArrow, kControlHeight};
