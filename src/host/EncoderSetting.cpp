@@ -114,6 +114,19 @@ EncoderSetting parsedEncoderSetting(std::string_view text) {
   return {*format, *strategy, static_cast<std::uint32_t>(rate - velk::bitRates.begin())};
 }
 
+std::string settingWords(const EncoderSetting& setting) {
+  return std::string(formatWords.at(setting.format)) + "," +
+         std::string(strategyWords.at(setting.strategy)) + "," +
+         std::to_string(setting.rateKbps().value_or(setting.rateOrQuality));
+}
+
+std::string settingName(const EncoderSetting& setting) {
+  const auto name = formatName(setting.format) + " " + strategyName(setting.strategy);
+  if (setting.hasQuality()) return name + " q" + std::to_string(setting.rateOrQuality);
+  const auto kbps = setting.rateKbps();
+  return kbps ? name + " " + std::to_string(*kbps) : name;
+}
+
 std::uint32_t presetIndex(std::string_view name) {
   const auto index = indexOf(presetWords, name);
   if (!index) {

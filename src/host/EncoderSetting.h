@@ -34,6 +34,11 @@ std::string strategyName(std::uint32_t strategy);
 /// rate of the list in kbit/s, or for vbr a quality from 0 to 127. Throws `UsageError`.
 EncoderSetting parsedEncoderSetting(std::string_view text);
 
+/// What `parsedEncoderSetting` reads as this setting: "aac,vbrc,256".
+std::string settingWords(const EncoderSetting& setting);
+/// What people read: "AAC VBRC 256", "AAC HE VBR q90".
+std::string settingName(const EncoderSetting& setting);
+
 /// A preset's place in a unit's list for plus, 128k, streaming or high. Throws `UsageError`.
 std::uint32_t presetIndex(std::string_view name);
 

@@ -34,7 +34,8 @@ Player::~Player() = default;
 
 void Player::limitLength(std::int64_t frames) {
   quiesce();
-  end_ = std::min(end_.load(), std::max<std::int64_t>(frames, 1));
+  const auto end = std::min(end_.load(), std::max<std::int64_t>(frames, 1));
+  if (end < end_.exchange(end)) cutShort_ = true;
   wake();
 }
 

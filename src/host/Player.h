@@ -34,6 +34,8 @@ class Player : public BlockRenderer {
   std::int64_t length() const { return end_.load(std::memory_order_relaxed); }
   /// Ends at `frames` if the source does not end before.
   void limitLength(std::int64_t frames);
+  /// Whether such a limit leaves some of the source out.
+  bool isCutShort() const { return cutShort_; }
 
   /// Plays on; from the beginning after the end.
   void play();
@@ -83,6 +85,7 @@ class Player : public BlockRenderer {
   AudioTap* tap_ = nullptr;
   bool deviceRuns_ = false;
   bool offline_ = false;
+  bool cutShort_ = false;
   /// Where the device began to play, from silence.
   std::int64_t start_ = 0;
 

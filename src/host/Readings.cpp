@@ -1,6 +1,5 @@
 #include "host/Readings.h"
 
-#include "contract/ConverterInterface.h"
 #include "converter/ConverterUnit.h"
 #include "host/Failure.h"
 
@@ -24,6 +23,16 @@ ChannelReading reading(const velk::TruePeakStats& stats) {
           stats.mInterSampleClipCount};
 }
 
+void readPeaks(converter::ConverterUnit& unit, Readings& readings) {
+  readings.source.clear();
+  readings.encoded.clear();
+  const auto stats = peakStatisticsOf(unit);
+  for (std::size_t channel = 0; channel < readings.format.channels; ++channel) {
+    readings.source.push_back(reading(stats.at(velk::kPeakStatsSlot_SourceLeft + channel)));
+    readings.encoded.push_back(reading(stats.at(velk::kPeakStatsSlot_EncodedLeft + channel)));
+  }
+}
+
 }  // namespace
 
 Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format) {
@@ -36,13 +45,20 @@ Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format) {
   readings.latencySamples = unit.latency();
   readings.monitorsSource =
       property<UInt32>(&unit, velk::kConverterProperty_MonitorSource, "monitored signal") != 0;
-  const auto stats =
-      property<velk::PeakStatistics>(&unit, velk::kConverterProperty_PeakStats, "peak statistics");
-  for (std::size_t channel = 0; channel < format.channels; ++channel) {
-    readings.source.push_back(reading(stats.at(velk::kPeakStatsSlot_SourceLeft + channel)));
-    readings.encoded.push_back(reading(stats.at(velk::kPeakStatsSlot_EncodedLeft + channel)));
-  }
+  readPeaks(unit, readings);
   return readings;
+}
+
+Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format) {
+  auto readings = readingsOf(unit, format);
+  unit.reset();
+  readPeaks(unit, readings);
+  return readings;
+}
+
+velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit) {
+  return property<velk::PeakStatistics>(&unit, velk::kConverterProperty_PeakStats,
+                                        "peak statistics");
 }
 
 }  // namespace host

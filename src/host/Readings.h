@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "audio_unit/Framework.h"
+#include "contract/ConverterInterface.h"
 #include "host/AudioSource.h"
 #include "host/EncoderSetting.h"
 
@@ -38,6 +39,11 @@ struct Readings {
 
 /// Asks the unit; `file` and `seconds` stay empty. Throws `Failure` when the unit does not tell.
 Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format);
+/// The same at the end of all audio: as if silence followed, so that the very last samples count
+/// too. Resets the unit. Not while it renders.
+Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format);
+/// Throws `Failure` when the unit does not tell.
+velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit);
 
 /// One JSON object on one line, without a line end.
 std::string asJson(const Readings& readings);

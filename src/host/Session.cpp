@@ -4,26 +4,11 @@
 
 #include "contract/ConverterInterface.h"
 #include "converter/ConverterUnit.h"
+#include "host/ConverterSetup.h"
 #include "host/Failure.h"
 #include "host/SilentClock.h"
 
 namespace host {
-namespace {
-
-std::unique_ptr<converter::ConverterUnit> unitFor(AudioFormat format) {
-  converter::UnitFormat unitFormat;
-  unitFormat.sampleRate = format.sampleRate;
-  unitFormat.channels = format.channels;
-  unitFormat.maximumFrames = Session::maximumFrames;
-  try {
-    return converter::ConverterUnit::make(unitFormat);
-  } catch (const std::exception& error) {
-    throw Failure(std::string("cannot make the converter: ") + error.what());
-  }
-}
-
-}  // namespace
-
 Session::Session(OpenedFile file)
     : path_(std::move(file.path)),
       format_(file.source->format()),

@@ -6,14 +6,11 @@
 #include <string>
 
 #include "audio_unit/Framework.h"
+#include "host/ConverterSetup.h"
 #include "host/Devices.h"
 #include "host/OpenedFile.h"
 #include "host/Output.h"
 #include "host/Player.h"
-
-namespace converter {
-class ConverterUnit;
-}
 
 namespace host {
 
@@ -21,7 +18,7 @@ namespace host {
 class Session {
  public:
   /// Blocks that the unit is made for.
-  static constexpr std::uint32_t maximumFrames = 4096;
+  static constexpr std::uint32_t maximumFrames = unitBlockFrames;
 
   /// Makes the unit for the file's format. Throws `Failure`.
   explicit Session(OpenedFile file);

@@ -25,7 +25,7 @@ SNDFILE* handle(void* file) {
 }
 
 [[noreturn]] void refuse(const std::filesystem::path& path, const std::string& why) {
-  throw Failure("cannot play '" + path.string() + "': " + why);
+  throw Failure("cannot read '" + path.string() + "': " + why);
 }
 
 void requireOrdinaryFile(const std::filesystem::path& path) {
@@ -123,7 +123,7 @@ void SoundFile::open() {
 
 void SoundFile::chooseChannels() {
   if (choice_.empty()) {
-    throw TooManyChannels("cannot play '" + path_.string() + "': it has " +
+    throw TooManyChannels("cannot read '" + path_.string() + "': it has " +
                               std::to_string(fileChannels_) +
                               " channels; give a mono or stereo file, or choose two "
                               "of them with --channels, such as 1,2",

@@ -8,7 +8,10 @@ namespace host::app {
 
 Readings readingsAfter(Audition& audition) {
   auto& session = *audition.session();
-  auto readings = readingsOf(session.unit(), session.format());
+  const auto& player = session.player();
+  const bool heardAll = player.isFinished() && !player.isCutShort();
+  auto readings = heardAll ? finalReadingsOf(session.unit(), session.format())
+                           : readingsOf(session.unit(), session.format());
   readings.file = session.path().string();
   readings.seconds = static_cast<double>(session.player().position()) / session.format().sampleRate;
   return readings;

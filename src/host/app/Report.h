@@ -5,7 +5,7 @@
 
 namespace host::app {
 
-/// What the unit reads after the run. Throws `Failure`.
+/// What the unit reads after the run, when nothing renders any more. Throws `Failure`.
 Readings readingsAfter(Audition& audition);
 
 /// Ends the run at `seconds` of the file at the latest.

@@ -1,0 +1,22 @@
+#include "host/ConverterSetup.h"
+
+#include <exception>
+#include <string>
+
+#include "host/Failure.h"
+
+namespace host {
+
+std::unique_ptr<converter::ConverterUnit> unitFor(AudioFormat format) {
+  converter::UnitFormat unitFormat;
+  unitFormat.sampleRate = format.sampleRate;
+  unitFormat.channels = format.channels;
+  unitFormat.maximumFrames = unitBlockFrames;
+  try {
+    return converter::ConverterUnit::make(unitFormat);
+  } catch (const std::exception& error) {
+    throw Failure(std::string("cannot make the converter: ") + error.what());
+  }
+}
+
+}  // namespace host

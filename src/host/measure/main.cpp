@@ -1,0 +1,27 @@
+#include <clocale>
+#include <cstdlib>
+#include <exception>
+
+#include "host/Failure.h"
+#include "host/measure/Album.h"
+#include "host/measure/Console.h"
+#include "host/measure/Interruption.h"
+
+int main(int argc, char** argv) {
+  using namespace host::measure;
+  try {
+    const auto parsed = parsedArguments(argc, argv);
+    if (const auto* const help = std::get_if<HelpText>(&parsed)) {
+      Console().say(help->text);
+      return EXIT_SUCCESS;
+    }
+    catchInterruptions();
+    return measureAll(std::get<Options>(parsed));
+  } catch (const host::UsageError& error) {
+    Console().complain(std::string(error.what()) + " (aac-measure --help tells more)");
+    return 2;
+  } catch (const std::exception& error) {
+    Console().complain(error.what());
+    return EXIT_FAILURE;
+  }
+}
