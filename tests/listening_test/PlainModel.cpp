@@ -2,32 +2,11 @@
 
 #include <cmath>
 
+#include "listening_test/RequiredAnswers.h"
+
 namespace listening_test {
 
 namespace {
-
-std::uint32_t required(std::uint32_t trials) {
-  switch (trials) {
-    case 10:
-    case 11:
-      return 8;
-    case 12:
-    case 13:
-      return 9;
-    case 14:
-      return 10;
-    case 15:
-    case 16:
-      return 11;
-    case 17:
-    case 18:
-      return 12;
-    case 19:
-      return 13;
-    default:
-      return 14;
-  }
-}
 
 const std::string kAborted = "0/0- Test aborted";
 const std::string kIncomplete =
@@ -35,12 +14,12 @@ const std::string kIncomplete =
     "significant.";
 
 std::string judged(std::uint32_t trials, std::uint32_t correct) {
-  if (correct >= required(trials)) {
+  if (correct >= requiredAnswers(trials)) {
     return "You successfully identified the encoded audio with a 95% confidence rating.";
   }
   return "You were not successful in identifying the encoded audio in a statistically significant "
          "manner. You needed " +
-         std::to_string(required(trials)) + " correct answers to pass this test";
+         std::to_string(requiredAnswers(trials)) + " correct answers to pass this test";
 }
 
 std::string shown(bool value) {
@@ -184,7 +163,7 @@ void PlainModel::answers(bool sayA) {
   if (learns_) {
     (sayA ? besideB_ : besideA_).hidden = true;
     (sayA ? besideA_ : besideB_) = {false, right ? "Correct" : "Incorrect", !right};
-  } else if (cycle_ >= 20 || correct_ >= required(cycle_)) {
+  } else if (cycle_ >= 20 || correct_ >= requiredAnswers(cycle_)) {
     ++cycle_;
     ends(true);
     return;

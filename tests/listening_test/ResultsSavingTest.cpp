@@ -152,6 +152,58 @@ TEST_F(ResultsSaving, ProposesANameInTheUsersLanguage) {
   EXPECT_EQ(page.sheets().savePanels()[0].proposedName, "Résultats-test-écoute-1");
 }
 
+/// The letters that the months' names and the dates' words need.
+std::string inMacRoman(const std::string& utf8) {
+  std::string bytes;
+  for (std::size_t i = 0; i < utf8.size(); ++i) {
+    const std::string two = utf8.substr(i, 2);
+    const char* roman = two == "ä" ? "\x8A" : two == "à" ? "\x88" : two == "é" ? "\x8E" : "\x9E";
+    const bool isAscii = (static_cast<unsigned char>(utf8[i]) & 0x80U) == 0;
+    EXPECT_TRUE(isAscii || two == "ä" || two == "à" || two == "é" || two == "û") << utf8;
+    bytes += isAscii ? std::string(1, utf8[i]) : roman;
+    i += isAscii ? 0 : 1;
+  }
+  return bytes;
+}
+
+TEST_F(ResultsSaving, WritesTheUsersLanguageByteByByte) {
+  struct Case {
+    const char* language;
+    const char* locale;
+    std::string untilDate;
+    std::string sinceDate;
+  };
+  const Case cases[] = {
+      {"en", "en_US", "Listening Test Results\n======================\n\nDate: ",
+       "\n\nEncoder: AAC ABR 128 Kbps\nTest Cycles: 3\nResults: 2/3 (67% Correct)\n\n"
+       "Test Incomplete. You need to perform at least 10 tests for your results to be "
+       "statistically significant."},
+      {"de", "de_DE", "Ergebnisse des H\x9Artests\n=======================\n\nDatum: ",
+       "\n\nEncoder: AAC ABR 128 kbit/s\nDurchg\x8Ange: 3\nErgebnis: 2/3 (67\xCA% richtig)\n\n"
+       "Test unvollst\x8Andig. F\x9Fr ein statistisch signifikantes Ergebnis sind mindestens 10 "
+       "Durchg\x8Ange n\x9Atig."},
+      {"fr", "fr_FR",
+       "R\x8Esultats du test d\xD5\x8E"
+       "coute\n==========================\n\nDate\xCA: ",
+       "\n\nEncodeur\xCA: AAC ABR 128 kbit/s\nEssais\xCA: 3\n"
+       "R\x8Esultats\xCA: 2/3 (67\xCA% de r\x8Eponses justes)\n\n"
+       "Test incomplet. Il faut au moins 10 essais pour que vos r\x8Esultats soient "
+       "statistiquement significatifs."}};
+  for (const Case& test : cases) {
+    TestPage page(VELK_RESOURCES, test.language, test.locale);
+    const auto now = [&] {
+      const auto& localization = *page.view->toolkit.localization;
+      return inMacRoman(localization.longDateShortTime(std::chrono::system_clock::now()));
+    };
+    page.chooseEncoder({0, 0, 10});
+    page.answer(false);
+    const std::string before = now();
+    save(page, 2);
+    EXPECT_THAT(content(), testing::AnyOf(test.untilDate + before + test.sinceDate,
+                                          test.untilDate + now() + test.sinceDate));
+  }
+}
+
 TEST_F(ResultsSaving, ForgetsTheLastTestWhenItsPageIsLeft) {
   TestPage page;
   page.answerTimes(2, true);

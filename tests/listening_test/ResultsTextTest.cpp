@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "listening_test/RequiredAnswers.h"
 #include "listening_test/ResultsText.h"
 #include "listening_test/TestTexts.h"
 #include "ui/Bundle.h"
@@ -122,34 +123,13 @@ TEST(ResultsText, JudgesTwoAnswersByTheirScore) {
 
 TEST(ResultsText, EndsInTheVerdictOfEveryTrialSizeAndScore) {
   const Language language = english();
-  const auto required = [](std::uint32_t trials) -> std::uint32_t {
-    switch (trials) {
-      case 10:
-      case 11:
-        return 8;
-      case 12:
-      case 13:
-        return 9;
-      case 14:
-        return 10;
-      case 15:
-      case 16:
-        return 11;
-      case 17:
-      case 18:
-        return 12;
-      case 19:
-        return 13;
-      default:
-        return 14;
-    }
-  };
   for (std::uint32_t trials = 0; trials <= 25; ++trials) {
     for (std::uint32_t correct = 0; correct <= trials; ++correct) {
       const std::string text = language.results(results(trials, correct));
       std::string verdict = kIncomplete;
       if (trials >= 10) {
-        verdict = correct >= required(trials) ? kPassed : failed(std::to_string(required(trials)));
+        const auto required = listening_test::requiredAnswers(trials);
+        verdict = correct >= required ? kPassed : failed(std::to_string(required));
       }
       EXPECT_TRUE(text.ends_with((trials <= 1 ? "aborted" : "\n\n") + verdict))
           << correct << "/" << trials << ": " << text;

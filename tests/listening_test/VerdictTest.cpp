@@ -1,19 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cstdint>
 
+#include "listening_test/RequiredAnswers.h"
 #include "listening_test/Verdict.h"
 
 namespace velk {
 namespace {
 
 constexpr std::uint32_t kMostTrials = 25;
-/// The fewest correct answers that pass, by trial size from 0 to 25; 99 where none does.
-constexpr std::array<std::uint32_t, kMostTrials + 1> kFewestToPass = {
-    99, 99, 99, 99, 99, 99, 99, 99, 99, 99,  // 0 to 9
-    8,  8,  9,  9,  10, 11, 11, 12, 12, 13,  // 10 to 19
-    14, 14, 14, 14, 14, 14};                 // 20 to 25
 
 TEST(SheetVerdict, CallsUpToEightTrialsIncompleteWhateverTheScore) {
   for (std::uint32_t trials = 0; trials <= 8; ++trials) {
@@ -40,7 +35,8 @@ TEST(FileVerdict, CallsUpToNineTrialsIncompleteWhateverTheScore) {
 TEST(Verdict, IsThatOfTheTableOnSheetAndInFileFromTenTrialsOn) {
   for (std::uint32_t trials = 10; trials <= kMostTrials; ++trials) {
     for (std::uint32_t correct = 0; correct <= trials; ++correct) {
-      const Verdict expected = correct >= kFewestToPass[trials] ? Verdict::Passed : Verdict::Failed;
+      const bool passes = correct >= listening_test::requiredAnswers(trials);
+      const Verdict expected = passes ? Verdict::Passed : Verdict::Failed;
       EXPECT_EQ(sheetVerdict(trials, correct), expected) << correct << "/" << trials;
       EXPECT_EQ(fileVerdict(trials, correct), expected) << correct << "/" << trials;
     }
