@@ -41,7 +41,7 @@ void Player::limitLength(std::int64_t frames) {
 
 void Player::play() {
   if (isFinished()) seek(0);
-  if (silent_) start_ = position();
+  if (silent_) start_ = played_.load(std::memory_order_relaxed);
   wanted_ = Wanted::Sound;
 }
 
@@ -81,7 +81,34 @@ void Player::wake() {
 std::int64_t Player::audiblePosition(std::uint32_t deviceLatency) const {
   const auto pending = std::max<std::int64_t>(
       std::int64_t{deviceLatency} - silence_.load(std::memory_order_relaxed), 0);
-  return std::max(position() - pending, start_);
+  return placeOf(std::max(played_.load(std::memory_order_relaxed) - pending, start_));
+}
+
+std::int64_t Player::placeOf(std::int64_t frames) const {
+  const auto frame = origin_ + frames;
+  if (!loops_ || frame < loop_->end) return frame;
+  return loop_->begin + (frame - loop_->end) % loop_->length();
+}
+
+std::int64_t Player::framesToPlay() const {
+  return loops_ ? feedable_ : std::min(feedable_, length() - origin_);
+}
+
+void Player::setLoop(std::optional<LoopRange> loop) {
+  if (loop) {
+    loop->begin = std::max<std::int64_t>(loop->begin, 0);
+    loop->end = std::min(loop->end, length());
+    if (loop->length() < 1) loop.reset();
+  }
+  if (loop == loop_) return;
+  quiesce();
+  auto frame = position();
+  if (loop && !loop->contains(frame)) frame = loop->begin;
+  const bool wasFinished = isFinished();
+  reader_.setLoop(loop);
+  loop_ = loop;
+  seek(frame);
+  if (wasFinished && !loop) finished_ = true;
 }
 
 void Player::seek(std::int64_t frame) {
@@ -90,9 +117,12 @@ void Player::seek(std::int64_t frame) {
   frame = std::clamp<std::int64_t>(frame, 0, length());
   reader_.seek(frame);
   unit_.reset();
-  fed_ = frame;
-  start_ = frame;
-  position_ = frame;
+  origin_ = frame;
+  loops_ = loop_ && frame < loop_->end;
+  fed_ = 0;
+  feedable_ = unlimited;
+  start_ = 0;
+  played_ = 0;
   finished_ = false;
   // The very beginning is played as it is; any other place would begin with a click.
   gain_ = frame == 0 ? 1.0F : 0.0F;
@@ -131,18 +161,19 @@ void Player::feedUnit(const float* interleaved, std::size_t got, float* const* o
   }
   unit_.render(planes.data(), planes.data(), frames);
   fed_ += static_cast<std::int64_t>(got);
+  if (got == frames) return;
   // Where the source ended is only known for certain when it was reached.
-  if (got < frames && fed_ < end_.load(std::memory_order_relaxed)) {
-    end_.store(fed_, std::memory_order_relaxed);
-  }
+  feedable_ = std::min(feedable_, fed_);
+  const auto end = placeOf(feedable_);
+  if (end < end_.load(std::memory_order_relaxed)) end_.store(end, std::memory_order_relaxed);
 }
 
 std::uint32_t Player::renderSound(float* const* planes, std::uint32_t offset,
                                   std::uint32_t frames) noexcept {
   std::uint32_t done = 0;
   while (done < frames && !finished_) {
-    const auto position = position_.load(std::memory_order_relaxed);
-    const auto left = std::max<std::int64_t>(length() - position, 0);
+    const auto played = played_.load(std::memory_order_relaxed);
+    const auto left = std::max<std::int64_t>(framesToPlay() - played, 0);
     const auto count = static_cast<std::uint32_t>(
         std::min<std::int64_t>(std::min(frames - done, maximumFrames_), left));
     if (count > 0) {
@@ -153,10 +184,10 @@ std::uint32_t Player::renderSound(float* const* planes, std::uint32_t offset,
       feedUnit(interleaved_.data(), got, planes, offset + done, count);
     }
     // A source that ended early has moved the end, perhaps into this block.
-    const auto heard = std::clamp<std::int64_t>(length() - position, 0, count);
-    position_.store(position + heard, std::memory_order_relaxed);
+    const auto heard = std::clamp<std::int64_t>(framesToPlay() - played, 0, count);
+    played_.store(played + heard, std::memory_order_relaxed);
     done += static_cast<std::uint32_t>(heard);
-    if (position + heard >= length()) finished_.store(true, std::memory_order_release);
+    if (played + heard >= framesToPlay()) finished_.store(true, std::memory_order_release);
   }
   return done;
 }

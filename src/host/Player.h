@@ -3,10 +3,13 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "host/BlockRenderer.h"
+#include "host/LoopRange.h"
 #include "host/StreamReader.h"
 
 namespace converter {
@@ -43,10 +46,16 @@ class Player : public BlockRenderer {
   bool isPlaying() const { return wanted_.load() == Wanted::Sound && !isFinished(); }
   /// Whether the last frame was heard.
   bool isFinished() const { return finished_.load(std::memory_order_acquire); }
-  /// Continues, playing or not, from `frame`. Resets the unit.
+  /// Continues, playing or not, from `frame`. Resets the unit. From before the end of a loop
+  /// playing runs into it; from behind it goes on to the end.
   void seek(std::int64_t frame);
+  /// Repeats a stretch of the source from now on, or nothing. What is not within the source is cut
+  /// off. From outside playing moves to the begin of the loop. What is heard repeats without a gap
+  /// and without a click, each round exactly as long as the loop.
+  void setLoop(std::optional<LoopRange> loop);
+  const std::optional<LoopRange>& loop() const { return loop_; }
   /// The next frame to leave the unit.
-  std::int64_t position() const { return position_.load(std::memory_order_relaxed); }
+  std::int64_t position() const { return placeOf(played_.load(std::memory_order_relaxed)); }
   /// The frame that sounds now from a device with this latency, in frames; the last one that did
   /// once the device has run dry.
   std::int64_t audiblePosition(std::uint32_t deviceLatency) const;
@@ -67,8 +76,14 @@ class Player : public BlockRenderer {
   enum class Wanted { Silence, Sound };
   using Planes = std::array<float*, 2>;
 
+  static constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
+
   void quiesce();
   void wake();
+  /// The place in the source of a frame that follows `frames` behind the last seek.
+  std::int64_t placeOf(std::int64_t frames) const;
+  /// How many frames follow the last seek until playing ends.
+  std::int64_t framesToPlay() const;
   void runThroughLatency();
   void setUnitOffline(bool offline);
   /// Renders up to `frames` frames at the offset; fewer when the source is behind.
@@ -86,12 +101,17 @@ class Player : public BlockRenderer {
   bool deviceRuns_ = false;
   bool offline_ = false;
   bool cutShort_ = false;
-  /// Where the device began to play, from silence.
+  std::optional<LoopRange> loop_;
+  /// Where the last seek went, and whether playing runs into the loop from there.
+  std::int64_t origin_ = 0;
+  bool loops_ = false;
+  /// Where the device began to play, from silence, in frames since the last seek.
   std::int64_t start_ = 0;
 
   std::atomic<Wanted> wanted_{Wanted::Silence};
   std::atomic<bool> finished_{false};
-  std::atomic<std::int64_t> position_{0};
+  /// Frames that have left the unit since the last seek.
+  std::atomic<std::int64_t> played_{0};
   std::atomic<std::int64_t> end_;
   std::atomic<std::uint64_t> missed_{0};
   /// Frames of silence rendered since the last one of sound.
@@ -105,7 +125,9 @@ class Player : public BlockRenderer {
 
   /// The audio thread's own.
   float gain_ = 1.0F;
+  /// Frames of the source that the unit was given since the last seek, and how many there are.
   std::int64_t fed_ = 0;
+  std::int64_t feedable_ = unlimited;
   std::vector<float> interleaved_;
   std::vector<float> planes_;
 };

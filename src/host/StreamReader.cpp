@@ -16,8 +16,8 @@ constexpr auto lookAgain = std::chrono::milliseconds(20);
 
 StreamReader::StreamReader(std::unique_ptr<AudioSource> source)
     : source_(std::move(source)),
-      format_(source_->format()),
-      frames_(source_->frames()),
+      format_(source_.format()),
+      frames_(source_.frames()),
       ring_((secondsAhead * format_.sampleRate + blockFrames) * format_.channels),
       block_(blockFrames * format_.channels),
       decoder_([this] { decode(); }) {}
@@ -47,7 +47,7 @@ void StreamReader::decode() {
       continue;
     }
     // The source belongs to whoever holds the mutex, so a seek waits for at most one block.
-    const auto got = source_->read(block_.data(), blockFrames);
+    const auto got = source_.read(block_.data(), blockFrames);
     ring_.write(block_.data(), got * format_.channels);
     if (got < blockFrames) ended_.store(true, std::memory_order_release);
     madeProgress_.notify_all();
@@ -75,10 +75,15 @@ void StreamReader::seek(std::int64_t frame) {
   {
     const std::lock_guard lock(mutex_);
     ring_.clear();
-    source_->seek(frame);
+    source_.seek(frame);
     ended_.store(false, std::memory_order_release);
   }
   wakeDecoder_.notify_all();
+}
+
+void StreamReader::setLoop(const std::optional<LoopRange>& loop) {
+  const std::lock_guard lock(mutex_);
+  source_.setLoop(loop);
 }
 
 }  // namespace host

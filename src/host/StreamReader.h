@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
 #include "host/AudioSource.h"
+#include "host/LoopingSource.h"
 #include "host/SampleRing.h"
 
 namespace host {
@@ -38,12 +40,15 @@ class StreamReader {
   void waitFor(std::size_t frames);
   /// Continues from `frame`. Not while `read` runs.
   void seek(std::int64_t frame);
+  /// The stretch that repeats without end once it is reached; nothing for none. A `seek` has to
+  /// follow.
+  void setLoop(const std::optional<LoopRange>& loop);
 
  private:
   void decode();
   bool hasRoom() const;
 
-  std::unique_ptr<AudioSource> source_;
+  LoopingSource source_;
   const AudioFormat format_;
   const std::int64_t frames_;
   SampleRing ring_;
