@@ -19,10 +19,15 @@ using Handle = std::unique_ptr<AACENCODER, CloseEncoder>;
 /// More than the largest access unit of two channels, 2 * 6144 bits.
 constexpr std::size_t kLargestAccessUnit = 4096;
 
-/// Widest audio band of LC. The encoder's own choice ends at 17 kHz whatever the rate.
-constexpr UINT kFullBandwidth = 20000;
-/// bit/s per channel from which the full band is worth its bits.
-constexpr std::uint32_t kFullBandwidthRate = 128000;
+/// Audio band of LC in Hz, 0 for the encoder's own choice, which ends at 17 kHz whatever the rate.
+/// Where the bits of a channel afford more, the difference to the source is less with it, measured
+/// on bright music; at 96 to 128 kbit/s it must not be more on dark music either.
+UINT lcBandwidth(std::uint32_t bitRatePerChannel, double sampleRate) {
+  if (bitRatePerChannel >= 128000) return 20000;
+  if (bitRatePerChannel < 96000) return 0;
+  if (sampleRate == 44100) return 18000;
+  return sampleRate == 48000 ? 19000 : 0;
+}
 
 UINT objectType(Format format) {
   switch (format) {
@@ -69,8 +74,9 @@ void configure(AACENCODER* encoder, const Setting& setting, const UnitFormat& un
   switch (setting.strategy) {
     case Strategy::abr:
       set(encoder, AACENC_BITRATE, setting.bitRate);
-      if (setting.format == Format::lc && setting.bitRate >= kFullBandwidthRate * unit.channels) {
-        set(encoder, AACENC_BANDWIDTH, kFullBandwidth);
+      if (setting.format == Format::lc) {
+        set(encoder, AACENC_BANDWIDTH,
+            lcBandwidth(setting.bitRate / unit.channels, unit.sampleRate));
       }
       break;
     case Strategy::constrainedVbr:

@@ -1,11 +1,15 @@
 #include <gtest/gtest.h>
+#include <semaphore.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <memory>
+#include <mutex>
+#include <shared_mutex>
 #include <thread>
 
 #include "AudioThreadTraps.h"
+#include "RandomOperator.h"
 #include "Rig.h"
 
 namespace {
@@ -16,7 +20,8 @@ constexpr std::size_t kFrames = 200000;
 /// Renders in real time with every kind of change, and in between on another thread.
 class AudioThread : public testing::Test {
  protected:
-  AudioThread() {
+  explicit AudioThread(double sampleRate = 48000)
+      : rig_({.sampleRate = sampleRate, .channels = 2, .maximumFrames = kBlock}) {
     rig_.setOffline(false);
     output_ = silence(2, kFrames);
   }
@@ -50,7 +55,7 @@ class AudioThread : public testing::Test {
     }
   }
 
-  Rig rig_{{.sampleRate = 48000, .channels = 2, .maximumFrames = kBlock}};
+  Rig rig_;
   const Signal input_ = music(2, kFrames, 48000);
   Signal output_;
 };
@@ -68,10 +73,22 @@ TEST_F(AudioThread, WakesTheWorkerAtMostOncePerAccessUnit) {
   EXPECT_LE(counts.wakeUps, static_cast<int>(kFrames / 2048));
 }
 
-TEST_F(AudioThread, MakesNoSystemCallButTheWakeUp) {
+TEST_F(AudioThread, DoesNoneOfItWhileAnotherThreadChangesEverythingAtRandom) {
+  RandomOperator other(rig_.unit(), 11);
+  const auto operating = other.operateAllTheTime();
+  const auto counts = renderTrapped([](std::size_t) {});
+  EXPECT_EQ(counts.allocations, 0);
+  EXPECT_EQ(counts.locks, 0);
+  EXPECT_EQ(counts.waits, 0);
+  EXPECT_LE(counts.wakeUps, static_cast<int>(kFrames / 2048));
+}
+
+TEST_F(AudioThread, MakesNoSystemCallButTheWakeUpWhateverAnotherThreadChanges) {
   std::atomic<bool> isTrapped{false};
   std::atomic<int> callsWhileRendering{-1};
   std::atomic<int> ownCalls{-1};
+  RandomOperator other(rig_.unit(), 12);
+  const auto operating = other.operateAllTheTime();
   std::thread audio([&] {
     isTrapped = trapSystemCalls();
     if (!isTrapped) return;
@@ -92,12 +109,43 @@ TEST_F(AudioThread, MakesNoSystemCallButTheWakeUp) {
   EXPECT_EQ(callsWhileRendering, 0);
 }
 
+class HighRateAudioThread : public AudioThread {
+ protected:
+  HighRateAudioThread() : AudioThread(192000) {}
+};
+
+TEST_F(HighRateAudioThread, WakesTheWorkerAtMostOncePerAccessUnitOfTheCodec) {
+  const auto counts = renderTrapped([&](std::size_t at) { operate(at); });
+  EXPECT_EQ(counts.allocations + counts.locks + counts.waits, 0);
+  EXPECT_GT(counts.wakeUps, 0);
+  EXPECT_LE(counts.wakeUps, static_cast<int>(kFrames / 4096));
+}
+
 TEST_F(AudioThread, TrapsCatchWhatTheyAreFor) {
   AudioThreadTraps traps;
   // Volatile, or a compiler may leave both out.
   int* volatile memory = new int(1);
   delete memory;
   EXPECT_GE(traps.counts().allocations, 2);
+  {
+    std::mutex mutex;
+    const std::scoped_lock lock(mutex);
+  }
+  EXPECT_EQ(traps.counts().locks, 1);
+  std::mutex tried;
+  if (tried.try_lock()) tried.unlock();
+  EXPECT_EQ(traps.counts().locks, 2);
+  std::shared_mutex shared;
+  { const std::shared_lock lock(shared); }
+  { const std::unique_lock lock(shared); }
+  EXPECT_EQ(traps.counts().locks, 4);
+  sem_t semaphore;
+  sem_init(&semaphore, 0, 0);
+  sem_post(&semaphore);
+  sem_wait(&semaphore);
+  sem_destroy(&semaphore);
+  EXPECT_EQ(traps.counts().wakeUps, 1);
+  EXPECT_EQ(traps.counts().waits, 1);
 }
 
 }  // namespace

@@ -154,6 +154,23 @@ TRAP int pthread_rwlock_wrlock(pthread_rwlock_t* mutex) noexcept {
   if (isCounting) ++current.locks;
   return lock(mutex);
 }
+TRAP int pthread_mutex_trylock(pthread_mutex_t* mutex) noexcept {
+  static const auto lock = next<int (*)(pthread_mutex_t*)>("pthread_mutex_trylock");
+  if (isCounting) ++current.locks;
+  return lock(mutex);
+}
+TRAP int pthread_spin_lock(pthread_spinlock_t* spin) noexcept {
+  static const auto lock = next<int (*)(pthread_spinlock_t*)>("pthread_spin_lock");
+  if (isCounting) ++current.locks;
+  return lock(spin);
+}
+TRAP int pthread_cond_timedwait(pthread_cond_t* condition, pthread_mutex_t* mutex,
+                                const timespec* until) {
+  static const auto wait =
+      next<int (*)(pthread_cond_t*, pthread_mutex_t*, const timespec*)>("pthread_cond_timedwait");
+  if (isCounting) ++current.locks;
+  return wait(condition, mutex, until);
+}
 TRAP int pthread_cond_wait(pthread_cond_t* condition, pthread_mutex_t* mutex) {
   static const auto wait = next<int (*)(pthread_cond_t*, pthread_mutex_t*)>("pthread_cond_wait");
   if (isCounting) ++current.locks;

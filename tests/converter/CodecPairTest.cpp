@@ -1,17 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <memory>
 #include <string>
 
-#include "Signals.h"
-#include "converter/CodecPair.h"
-#include "converter/Latency.h"
+#include "PairSignal.h"
+#include "converter/Encoder.h"
 
 namespace {
 
-using converter::CodecPair;
 using converter::Format;
 using converter::kBlockFrames;
 using converter::Position;
@@ -27,29 +23,8 @@ class Pair : public testing::TestWithParam<Format> {
   }
 
   /// The encoded signal from `start` to where the source ends, by a pair that began for it.
-  std::vector<float> encodeFrom(Position start) const {
-    converter::SourceHistory history(2);
-    converter::AudioBlock block;
-    std::unique_ptr<CodecPair> pair;
-    std::vector<float> encoded;
-    std::vector<float> planes[2];
-    for (auto& plane : planes) plane.resize(kBlockFrames);
-    float* const output[] = {planes[0].data(), planes[1].data()};
-    for (Position at = 0; at + kBlockFrames <= kFrames; at += kBlockFrames) {
-      block.position = at;
-      for (std::size_t channel = 0; channel < 2; ++channel) {
-        std::copy_n(source_[channel].begin() + at, kBlockFrames, block.planes[channel].begin());
-      }
-      history.write(block);
-      const Position end = block.end() - converter::kEncodedBehindSource;
-      const Position begin = std::max(start, end - Position{kBlockFrames});
-      if (end <= begin) continue;
-      if (!pair) pair = std::make_unique<CodecPair>(openEncoder(setting_, kUnit), kUnit, start);
-      const Position from = start + static_cast<Position>(encoded.size());
-      pair->render(history, from, static_cast<UInt32>(end - from), output);
-      encoded.insert(encoded.end(), planes[0].begin(), planes[0].begin() + (end - from));
-    }
-    return encoded;
+  std::vector<float> encodedFrom(Position start) const {
+    return encodeFrom(setting_, kUnit, source_, start)[0];
   }
 
   /// Error against the source at [place, place + 512), dB; `encoded` begins at `begin`.
@@ -71,10 +46,10 @@ class Pair : public testing::TestWithParam<Format> {
 };
 
 TEST_P(Pair, StartedAmidTheSignalIsAsGoodAsOneThatRanAllAlong) {
-  const std::vector<float> running = encodeFrom(0);
+  const std::vector<float> running = encodedFrom(0);
   for (Position start = 20 * Position{kBlockFrames}; start < 21 * Position{kBlockFrames};
        start += 256) {
-    EXPECT_LT(errorAt(encodeFrom(start), start, start), errorAt(running, 0, start) + 3) << start;
+    EXPECT_LT(errorAt(encodedFrom(start), start, start), errorAt(running, 0, start) + 3) << start;
   }
 }
 

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
-#include "Signals.h"
+#include "PairSignal.h"
 #include "contract/ConverterInterface.h"
 #include "converter/Decoder.h"
 #include "converter/Encoder.h"
@@ -94,6 +95,27 @@ TEST(Encoder, KeepsEveryAccessUnitUnderTheConstrainedPeak) {
       last = average;
     }
   }
+}
+
+TEST(Encoder, CodesAsMuchOfTheBandAsItsRateAffords) {
+  if (!converter::hasHighEfficiencyEncoder()) GTEST_SKIP() << "this build has another encoder";
+  const auto keeps = [](double frequency, double sampleRate, UInt32 bitRate) {
+    const UnitFormat unit{.sampleRate = sampleRate, .channels = 2, .maximumFrames = 512};
+    Signal source = silence(2, 40960);
+    for (std::size_t i = 0; i < source[0].size(); ++i) {
+      const double phase = 2 * std::numbers::pi * frequency * static_cast<double>(i) / sampleRate;
+      source[0][i] = source[1][i] = static_cast<float>(0.3 * std::sin(phase));
+    }
+    const Signal encoded = encodeFrom({.bitRate = bitRate}, unit, source, 0);
+    return rms(encoded[0], 8192, encoded[0].size()) > 0.9 * rms(source[0], 8192, 30000);
+  };
+  EXPECT_TRUE(keeps(19700, 44100, 256000));
+  EXPECT_FALSE(keeps(19700, 44100, 192000));
+  EXPECT_TRUE(keeps(17700, 44100, 192000));
+  EXPECT_FALSE(keeps(17700, 44100, 128000));
+  EXPECT_TRUE(keeps(18700, 48000, 192000));
+  EXPECT_FALSE(keeps(18700, 48000, 128000));
+  EXPECT_TRUE(keeps(15000, 44100, 128000));
 }
 
 TEST(Encoder, SpendsMoreBitsInHigherVbrModes) {
