@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,6 +18,7 @@
 
 #include "fakes/FakeConverter.h"
 #include "qt/Host.h"
+#include "qt/Tour.h"
 #include "ui/qt/Lamp.h"
 #include "ui/qt/ReadableColor.h"
 #include "ui/qt/SegmentedControlAdapter.h"
@@ -27,74 +27,6 @@
 namespace {
 
 using namespace std::chrono_literals;
-
-/// Big readings, so that every field is as wide as it gets.
-velk::PeakStatistics loudMix() {
-  velk::PeakStatistics statistics{};
-  for (auto& record : statistics) {
-    record = {12.3F, 14.4F, 99999, 123456};
-  }
-  return statistics;
-}
-
-/// Every page and sheet, one after the other, each laid out and on the screen.
-class Tour {
- public:
-  Tour(fakes::FakeConverter& unit, const qt_test::HostOptions& options)
-      : unit_(unit), host_(unit, options) {}
-
-  template <class Look>
-  void take(Look look) {
-    host_.advance(120ms);
-    look(*host_.view());
-    unit_.statistics = loudMix();
-    click("auditionController.showDetailsButton");
-    host_.advance(200ms);
-    look(*host_.view());
-    auto& tabs = host_.outlet<QTabWidget>("view.tabView");
-    tabs.setCurrentIndex(1);
-    settle();
-    look(*host_.view());
-    click("listeningTestController.learnModeButton");
-    for (const char* answer : {"aIsSourceButton", "bIsSourceButton"}) {
-      click(std::string("listeningTestController.") + answer);
-      settle();
-      look(*host_.view());
-    }
-    click("listeningTestController.endTestButton");
-    lookAtSheet("listeningTestController.resultsSheet", look);
-    dynamic_cast<QAbstractButton&>(host_.named("resultsOKButton")).click();
-    click("view.settingsButton");
-    lookAtSheet("keyController.keySettingsSheet", look);
-    click("keyController.doneButton");
-    auto& menu = host_.outlet<QComboBox>("view.encoderPopup");
-    emit menu.activated(menu.count() - 1);
-    lookAtSheet("settingsController.settingsSheet", look);
-    unit_.hostSetsSetting({0.0F, 2.0F, 127.0F});
-    host_.advance(120ms);
-    lookAtSheet("settingsController.settingsSheet", look);
-    click("settingsController.OKButton");
-    // A long custom title.
-    host_.advance(120ms);
-    look(*host_.view());
-  }
-
-  qt_test::Host& host() { return host_; }
-
- private:
-  void click(const std::string& outlet) { host_.outlet<QAbstractButton>(outlet).click(); }
-  static void settle() { QApplication::processEvents(); }
-  template <class Look>
-  void lookAtSheet(const char* outlet, Look& look) {
-    settle();
-    QWidget& sheet = host_.outlet(outlet);
-    ASSERT_TRUE(sheet.isVisible()) << outlet;
-    look(sheet);
-  }
-
-  fakes::FakeConverter& unit_;
-  qt_test::Host host_;
-};
 
 QRect placeIn(const QWidget& top, const QWidget& widget) {
   return {widget.mapTo(&top, QPoint(0, 0)), widget.size()};
@@ -174,7 +106,7 @@ class Look : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(Look, ClipsNothingAndLetsNothingOverlap) {
-  Tour(unit_, options_).take([](const QWidget& page) {
+  qt_test::Tour(unit_, options_).take([](const QWidget& page) {
     expectNothingClipped(page);
     expectNothingOverlaps(page);
   });
@@ -182,7 +114,7 @@ TEST_P(Look, ClipsNothingAndLetsNothingOverlap) {
 
 TEST_P(Look, ClipsNothingWithTextsHalfAsLongAgain) {
   resources_.lengthenTexts();
-  Tour(unit_, options_).take([](const QWidget& page) {
+  qt_test::Tour(unit_, options_).take([](const QWidget& page) {
     expectNothingClipped(page);
     expectNothingOverlaps(page);
   });
@@ -191,37 +123,9 @@ TEST_P(Look, ClipsNothingWithTextsHalfAsLongAgain) {
 TEST_P(Look, ClipsNothingOnAMonoConverter) {
   unit_.channels = 1;
   resources_.lengthenTexts();
-  Tour(unit_, options_).take([](const QWidget& page) {
+  qt_test::Tour(unit_, options_).take([](const QWidget& page) {
     expectNothingClipped(page);
     expectNothingOverlaps(page);
-  });
-}
-
-TEST_P(Look, NamesEveryControlForAssistiveTools) {
-  Tour(unit_, options_).take([](const QWidget& page) {
-    for (QWidget* widget : page.findChildren<QWidget*>()) {
-      const bool isControl =
-          widget->focusPolicy() != Qt::NoFocus || !widget->property("outlets").toString().isEmpty();
-      // Pages and menus' inner parts are not what a user works with.
-      if (!isControl || !widget->isVisible() || widget->window() != page.window() ||
-          qobject_cast<QStackedWidget*>(widget) != nullptr ||
-          qobject_cast<QTabBar*>(widget) != nullptr) {
-        continue;
-      }
-      QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
-      ASSERT_NE(accessible, nullptr);
-      EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty())
-          << widget->objectName().toStdString();
-    }
-  });
-}
-
-TEST_P(Look, HasNoMnemonicThatCouldTakeABoundKey) {
-  Tour(unit_, options_).take([](const QWidget& page) {
-    for (const auto* button : page.findChildren<QAbstractButton*>()) {
-      EXPECT_TRUE(button->shortcut().isEmpty()) << button->objectName().toStdString();
-      EXPECT_FALSE(button->text().contains('&')) << button->objectName().toStdString();
-    }
   });
 }
 
@@ -303,7 +207,7 @@ class Palettes : public testing::Test {
 TEST_F(Palettes, MayChangeWhileTheViewIsShown) {
   qt_test::setLightPalette();
   qt_test::Host host(unit_);
-  unit_.statistics = loudMix();
+  unit_.statistics = qt_test::loudMix();
   host.advance(200ms);
   const auto& field = host.outlet<QLabel>("auditionController.sslField");
   EXPECT_EQ(field.palette().color(QPalette::WindowText).rgb(), QColor::fromRgbF(0.5F, 0, 0).rgb());
@@ -336,7 +240,7 @@ TEST(Readings, KeepTheirPlaceWhenTheyChange) {
   host.advance(120ms);
   const QWidget& field = host.outlet("auditionController.sirField");
   const QRect before = placeIn(*host.view(), field);
-  unit.statistics = loudMix();
+  unit.statistics = qt_test::loudMix();
   host.advance(120ms);
   QApplication::processEvents();
   EXPECT_EQ(placeIn(*host.view(), field), before);

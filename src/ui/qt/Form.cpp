@@ -15,7 +15,9 @@
 #include <system_error>
 
 #include "ui/InterfaceFile.h"
+#include "ui/qt/AccessibleButton.h"
 #include "ui/qt/CaptionClicks.h"
+#include "ui/qt/CheckBox.h"
 #include "ui/qt/FrameOrigin.h"
 #include "ui/qt/Lamp.h"
 #include "ui/qt/PopUpBox.h"
@@ -46,6 +48,8 @@ class WidgetFactory final : public QUiLoader {
       widget = new Lamp(parent);
     } else if (className == QLatin1String("QPushButton")) {
       widget = new PushButton(parent);
+    } else if (className == QLatin1String("QCheckBox")) {
+      widget = new CheckBox(parent);
     } else if (className == QLatin1String("QComboBox")) {
       widget = new PopUpBox(parent);
     } else {
@@ -180,6 +184,8 @@ void dress(QtView& view, QSize drawnSize) {
 }  // namespace
 
 Form loadForm(const std::filesystem::path& file) {
+  // Before any button is made: what assistive tools see of a widget is settled early.
+  installAccessibleButtons();
   auto style = std::make_unique<SkinStyle>();
   const std::unique_ptr<QWidget> top = read(file, *style);
   Form form;

@@ -9,8 +9,14 @@ namespace ui::qt {
 SliderAdapter::SliderAdapter(QSlider& slider) : Adapter(slider) {
   // The signal of a user's drag, wheel or key, sent before the value follows the knob.
   QObject::connect(&slider, &QSlider::actionTriggered, receiver(), [this] {
-    widget().setValue(widget().sliderPosition());
+    changeTo(widget().sliderPosition());
     send(action_, this);
+  });
+  // Assistive tools change the value alone.
+  QObject::connect(&slider, &QSlider::valueChanged, receiver(), [this] {
+    if (!changing_) {
+      send(action_, this);
+    }
   });
 }
 
@@ -20,9 +26,15 @@ int SliderAdapter::intValue() const {
 
 void SliderAdapter::setFloatValue(float value) {
   if (!std::isnan(value)) {
-    widget().setValue(static_cast<int>(std::clamp(value, static_cast<float>(widget().minimum()),
-                                                  static_cast<float>(widget().maximum()))));
+    changeTo(static_cast<int>(std::clamp(value, static_cast<float>(widget().minimum()),
+                                         static_cast<float>(widget().maximum()))));
   }
+}
+
+void SliderAdapter::changeTo(int value) {
+  changing_ = true;
+  widget().setValue(value);
+  changing_ = false;
 }
 
 void SliderAdapter::setAction(Action action) {

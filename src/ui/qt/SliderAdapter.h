@@ -16,7 +16,11 @@ class SliderAdapter final : public Adapter<Slider, QSlider>, public ActionSource
   void setAction(Action action) override;
 
  private:
+  void changeTo(int value);
+
   Action action_;
+  /// The value changes by this adapter's own doing.
+  bool changing_ = false;
 };
 
 }  // namespace ui::qt
