@@ -37,11 +37,11 @@ void RandomOperator::operate() {
   }
 }
 
-std::jthread RandomOperator::operateAllTheTime() {
-  return std::jthread([this](const std::stop_token& stop) {
+std::jthread RandomOperator::operateAllTheTime(std::chrono::microseconds pause) {
+  return std::jthread([this, pause](const std::stop_token& stop) {
     while (!stop.stop_requested()) {
       operate();
-      std::this_thread::yield();
+      std::this_thread::sleep_for(pause);
     }
   });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <random>
 #include <thread>
 
@@ -15,7 +16,8 @@ class RandomOperator {
   void operate();
 
   /// Steps without end on a thread of its own, as long as the object returned lives.
-  [[nodiscard]] std::jthread operateAllTheTime();
+  [[nodiscard]] std::jthread operateAllTheTime(
+      std::chrono::microseconds pause = std::chrono::microseconds(0));
 
  private:
   std::uint32_t below(std::uint32_t count) {
