@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QTabWidget>
+#include <QTimer>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -18,6 +19,7 @@
 
 #include "contract/ConverterInterface.h"
 #include "fakes/FakeConverter.h"
+#include "listening_test/Draws.h"
 #include "qt/Host.h"
 
 namespace {
@@ -48,6 +50,10 @@ class Album {
     shootAudition();
     shootMono();
     shootTest();
+    shootResults("results-incomplete", 5, 3);
+    shootResults("results-failed", 13, 7);
+    shootResults("results-passed", 10, 0);
+    shootSavePanel();
     shootSheets();
     shootAlert();
   }
@@ -68,6 +74,17 @@ class Album {
       host->outlet<QAbstractButton>(outlet).click();
       settle();
     }
+    void clickTest(const std::string& outlet) {
+      click(("listeningTestController." + outlet).c_str());
+    }
+    /// Answers the test. A is the source in every cycle but, perhaps, the first.
+    void answer(bool rightly) {
+      if (isFirstAnswer) clickTest("aButton");
+      const bool sayA = (!isFirstAnswer || unit.monitorSource != 0) == rightly;
+      isFirstAnswer = false;
+      listening_test::nextDrawMakesASource(true);
+      clickTest(sayA ? "aIsSourceButton" : "bIsSourceButton");
+    }
     void showTestPage(bool show) {
       host->outlet<QTabWidget>("view.tabView").setCurrentIndex(show ? 1 : 0);
       QApplication::processEvents();
@@ -76,6 +93,7 @@ class Album {
     fakes::CallLog log;
     fakes::FakeConverter unit;
     std::optional<qt_test::Host> host;
+    bool isFirstAnswer = true;
   };
 
   void shootAudition() {
@@ -107,11 +125,47 @@ class Album {
     Scene scene(options_, 2);
     scene.showTestPage(true);
     save(scene.host->window(), "test");
-    scene.click("listeningTestController.learnModeButton");
-    scene.click("listeningTestController.aIsSourceButton");
+    scene.clickTest("aButton");
+    save(scene.host->window(), "test-a-first");
+    scene.answer(true);
+    save(scene.host->window(), "test-running");
+    scene.clickTest("aButton");
+    save(scene.host->window(), "test-a");
+    scene.clickTest("bButton");
+    save(scene.host->window(), "test-b");
+    scene.clickTest("learnModeButton");
     save(scene.host->window(), "learning");
-    scene.click("listeningTestController.endTestButton");
-    save(scene.host->outlet("listeningTestController.resultsSheet"), "results");
+    scene.answer(true);
+    save(scene.host->window(), "learning-right");
+    scene.answer(false);
+    save(scene.host->window(), "learning-wrong");
+  }
+
+  /// What the sheet says of so many right and then so many wrong answers.
+  void shootResults(const char* name, int right, int wrong) {
+    Scene scene(options_, 2);
+    scene.showTestPage(true);
+    for (int i = 0; i < wrong; ++i) scene.answer(false);
+    for (int i = 0; i < right; ++i) scene.answer(true);
+    QWidget& sheet = scene.host->outlet("listeningTestController.resultsSheet");
+    if (!sheet.isVisible()) scene.clickTest("endTestButton");
+    save(sheet, name);
+  }
+
+  void shootSavePanel() {
+    Scene scene(options_, 2);
+    scene.showTestPage(true);
+    scene.clickTest("endTestButton");
+    scene.clickTest("saveResultsButton");
+    save(scene.host->outlet("listeningTestController.resultsSheet"), "results-save");
+    // The panel runs inside the click.
+    QTimer::singleShot(0, [this] {
+      if (QWidget* panel = QApplication::activeModalWidget()) {
+        save(*panel, "save-panel");
+        panel->close();
+      }
+    });
+    static_cast<QAbstractButton&>(scene.host->named("resultsOKButton")).click();
   }
 
   void shootSheets() {
