@@ -233,6 +233,31 @@ TEST(Meters, StandStillWhileTheStatisticsCannotBeRead) {
   EXPECT_THAT(overs(*stage), testing::SizeIs(16));
 }
 
+TEST(Meters, TakeOnlyWhatTheyCouldReadWhenReadsFailNowAndThen) {
+  const auto stage = setStage();
+  FakeConverter& unit = stage->unit();
+  std::string shown = stage->text(field("ssl"));
+  std::size_t failedReads = 0;
+  for (int poll = 0; poll < 40; ++poll) {
+    const bool fails = poll % 3 != 0;
+    unit.statistics.fill({-20.0F + 0.1F * static_cast<float>(poll), -60.0F, 0, 0});
+    if (fails) {
+      unit.failAlways(UnitCall::GetProperty, kConverterProperty_PeakStats, -10879);
+      // The clip summary, and the readings.
+      failedReads += 2;
+    }
+    stage->advance(kPoll);
+    EXPECT_EQ(stage->text(field("ssl")) == shown, fails) << "poll " << poll;
+    shown = stage->text(field("ssl"));
+    unit.heal();
+  }
+  EXPECT_EQ(stage->logLines(),
+            std::vector<std::string>(failedReads, "error getting peak stats: -10879"));
+  EXPECT_THAT(overs(*stage), IsEmpty());
+  EXPECT_EQ(stage->lamp(kSourceLamp), 0);
+  EXPECT_EQ(stage->lamp(kEncodedLamp), 0);
+}
+
 TEST(Meters, StandStillWhileTheTestPageIsShownAndCatchUpAfterwards) {
   const auto stage = setStage();
   stage->clickTab(1);

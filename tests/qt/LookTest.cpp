@@ -14,6 +14,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <cstdlib>
 #include <set>
 
 #include "fakes/FakeConverter.h"
@@ -244,6 +245,47 @@ TEST(Readings, KeepTheirPlaceWhenTheyChange) {
   host.advance(120ms);
   QApplication::processEvents();
   EXPECT_EQ(placeIn(*host.view(), field), before);
+}
+
+TEST(Readings, TellAnOverByWeightAndFormAsWellAsByColour) {
+  fakes::CallLog calls;
+  fakes::FakeConverter unit(calls);
+  qt_test::Host host(unit);
+  QTest::mouseClick(&host.outlet("auditionController.showDetailsButton"), Qt::LeftButton);
+  unit.statistics.fill({0.0F, 0.4F, 0, 12});
+  host.advance(200ms);
+  const auto isBold = [&host](const char* field) {
+    return host.outlet(std::string("auditionController.") + field).font().bold();
+  };
+  const auto lampPicture = [&host](const char* lamp) {
+    return host.outlet(std::string("auditionController.") + lamp)
+        .grab()
+        .toImage()
+        .convertToFormat(QImage::Format_Grayscale8);
+  };
+  EXPECT_FALSE(isBold("sslField"));
+  EXPECT_FALSE(isBold("sslcField"));
+  EXPECT_TRUE(isBold("silField"));
+  EXPECT_TRUE(isBold("silcField"));
+  // The square fills corners that the round lamp leaves free: it shows without any colour.
+  const QImage dark = lampPicture("sslIndicator");
+  const QImage lit = lampPicture("silIndicator");
+  const int background = qGray(host.view()->palette().color(QPalette::Window).rgb());
+  const auto filled = [background](const QImage& lamp) {
+    int pixels = 0;
+    for (int y = 0; y < lamp.height(); ++y) {
+      for (int x = 0; x < lamp.width(); ++x) {
+        pixels += std::abs(qGray(lamp.pixel(x, y)) - background) > 20 ? 1 : 0;
+      }
+    }
+    return pixels;
+  };
+  EXPECT_GT(filled(dark), 0);
+  EXPECT_GT(filled(lit), filled(dark) * 4 / 3);
+  QTest::mouseClick(&host.outlet("auditionController.resetButton"), Qt::LeftButton);
+  EXPECT_FALSE(isBold("silField"));
+  EXPECT_FALSE(isBold("silcField"));
+  EXPECT_EQ(lampPicture("silIndicator"), dark);
 }
 
 TEST(FittingFont, ShrinksToShowTheWholeTextButStaysReadable) {

@@ -14,6 +14,7 @@
 #include "fakes/FakeConverter.h"
 #include "fakes/LogCapture.h"
 #include "qt/Host.h"
+#include "qt/Mouse.h"
 #include "ui/qt/QtInterfaceLoader.h"
 
 namespace {
@@ -64,6 +65,30 @@ TEST_F(View, TellsTheHostOfItsOwnChangesOnly) {
   host_.native().setFrameSize({600, 255});
   EXPECT_THAT(heights, ElementsAre(369, 195, 255, 255)) << "first the height, then the width";
   EXPECT_EQ(host_.native().frameSize(), (ui::Size{600, 255}));
+}
+
+TEST_F(View, TellsTheHostOfTheHeightOfEachPage) {
+  std::vector<double> heights;
+  host_.native().setFrameSizeObserver([&](ui::Size size) { heights.push_back(size.height); });
+  auto& tabs = host_.outlet<QTabWidget>("view.tabView");
+  qt_test::clickTab(tabs, 1);
+  EXPECT_THAT(heights, ElementsAre(255));
+  qt_test::clickTab(tabs, 0);
+  EXPECT_THAT(heights, ElementsAre(255, 195));
+}
+
+TEST_F(View, AnswersATallRequestOfTheHostLaterAndWithItsOwnSize) {
+  std::vector<ui::Size> sizes;
+  host_.native().setFrameSizeObserver([&](ui::Size size) { sizes.push_back(size); });
+  host_.native().setFrameSize({900, 256});
+  EXPECT_THAT(sizes, IsEmpty());
+  EXPECT_EQ(host_.view()->size(), QSize(560, 195));
+  host_.advance(1ms);
+  EXPECT_THAT(sizes, ElementsAre(ui::Size{560, 369}));
+  EXPECT_EQ(host_.view()->size(), QSize(560, 369));
+  host_.native().setFrameSize({900, 500});
+  host_.advance(1ms);
+  EXPECT_EQ(sizes.size(), 1U) << "it is as tall as it gets";
 }
 
 TEST_F(View, LetsTheObserverAskForASize) {
