@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace figures {
+
+/// One line of the table.
+struct Row {
+  std::string name;
+  double value;
+  std::string unit;
+  /// As it is read: "<= 1.20".
+  std::string goal;
+  bool holds;
+};
+
+Row atMost(std::string name, double value, double goal, std::string unit = "");
+Row atLeast(std::string name, double value, double goal, std::string unit = "");
+
+/// Rows that one measurement gives. Every measurement is there once in a run.
+struct Family {
+  /// Names of its rows, in their order.
+  std::vector<std::string> rows;
+  std::vector<Row> (*measure)();
+};
+
+Family codecCost();
+Family truePeakSpeed();
+Family truePeakError();
+Family meteringLoad();
+Family callTime();
+Family audioThreadCalls();
+Family difference();
+Family steps();
+Family unitMemory();
+Family manyUnits();
+Family meterPoll();
+Family viewOpening();
+Family manyViews();
+
+/// All that this build can measure, in the order of the table.
+std::vector<Family> families();
+
+}  // namespace figures

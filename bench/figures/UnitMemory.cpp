@@ -1,0 +1,63 @@
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include "Figure.h"
+#include "Rig.h"
+
+namespace figures {
+namespace {
+
+constexpr std::size_t kUnits = 20;
+constexpr double kMebibyte = 1024 * 1024;
+
+/// What the process has in memory, bytes.
+double residentBytes() {
+  long pages = 0;
+  if (std::FILE* file = std::fopen("/proc/self/statm", "r")) {
+    if (std::fscanf(file, "%*s %ld", &pages) != 1) pages = 0;
+    std::fclose(file);
+  }
+  return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE));
+}
+
+/// Everything that a unit at 48 kHz stereo takes after some seconds of play, its thread included.
+double perUnit(SInt32 preset, bool changes) {
+  const Signal input = music(2, 96000, 48000);
+  const auto play = [&](Rig& rig) {
+    rig.setPreset(preset);
+    rig.render(input);
+    if (!changes) return;
+    rig.setSetting(velk::kFormat_HEv2, velk::kStrategy_ABR, 6);
+    rig.render(input);
+  };
+  const converter::UnitFormat format{.sampleRate = 48000, .channels = 2, .maximumFrames = 4096};
+  {
+    Rig first(format);
+    play(first);
+  }
+  const double before = residentBytes();
+  std::vector<std::unique_ptr<Rig>> rigs;
+  for (std::size_t i = 0; i < kUnits; ++i) {
+    rigs.push_back(std::make_unique<Rig>(format));
+    play(*rigs.back());
+  }
+  return (residentBytes() - before) / kUnits / kMebibyte;
+}
+
+std::vector<Row> measure() {
+  const double steady = std::max(perUnit(0, false), perUnit(2, false));
+  return {atMost("memory_per_unit", steady, 8, "MiB"),
+          atMost("memory_per_unit_after_changes", perUnit(0, true), 8, "MiB")};
+}
+
+}  // namespace
+
+Family unitMemory() {
+  return {{"memory_per_unit", "memory_per_unit_after_changes"}, measure};
+}
+
+}  // namespace figures

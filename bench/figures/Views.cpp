@@ -1,0 +1,124 @@
+#include <QApplication>
+#include <QFile>
+#include <QUiLoader>
+#include <QWidget>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "Clock.h"
+#include "Figure.h"
+#include "Rig.h"
+#include "host/ViewBundle.h"
+#include "ui/CustomView.h"
+
+namespace figures {
+namespace {
+
+/// One for the process, off screen unless the environment says otherwise.
+void needApplication() {
+  if (qApp != nullptr) return;
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  static int count = 1;
+  static char name[] = "figures";
+  static char* arguments[] = {name, nullptr};
+  static QApplication application(count, arguments);
+}
+
+/// Qt's own loader, with plain widgets for the classes that are the skin's.
+class BareLoader : public QUiLoader {
+ public:
+  QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
+    if (availableWidgets().contains(className)) {
+      return QUiLoader::createWidget(className, parent, name);
+    }
+    auto* widget = new QWidget(parent);
+    widget->setObjectName(name);
+    return widget;
+  }
+};
+
+double bareSeconds() {
+  const auto path = host::viewBundlePath() / "Resources" / "Velk_NordaAACConverter.ui";
+  const double start = threadSeconds();
+  QFile file(QString::fromStdString(path.string()));
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  BareLoader loader;
+  const std::unique_ptr<QWidget> widget(loader.load(&file));
+  return threadSeconds() - start;
+}
+
+std::vector<Row> measureOpening() {
+  needApplication();
+  host::ViewBundle bundle(host::viewBundlePath());
+  Rig rig;
+  const auto openSeconds = [&] {
+    const double start = threadSeconds();
+    const auto view = bundle.viewForUnit(&rig.unit());
+    return threadSeconds() - start;
+  };
+  // The first of each loads what all later ones share.
+  openSeconds();
+  bareSeconds();
+  std::vector<double> ratios;
+  std::vector<double> opened;
+  for (int round = 0; round < 31; ++round) {
+    opened.push_back(openSeconds());
+    ratios.push_back(opened.back() / bareSeconds());
+  }
+  return {atMost("view_opening", median(ratios), 1.5, "of the bare file")};
+}
+
+constexpr std::size_t kUnits = 50;
+constexpr std::size_t kBlock = 512;
+constexpr double kSeconds = 4;
+
+/// Fifty units at LC 128, each with a shown view that polls it, all on the time of one processor:
+/// processor time over the time played.
+std::vector<Row> measureMany() {
+  needApplication();
+  host::ViewBundle bundle(host::viewBundlePath());
+  std::vector<std::unique_ptr<Rig>> rigs;
+  std::vector<std::unique_ptr<QWidget>> windows;
+  for (std::size_t i = 0; i < kUnits; ++i) {
+    rigs.push_back(std::make_unique<Rig>(
+        converter::UnitFormat{.sampleRate = 48000, .channels = 2, .maximumFrames = kBlock}));
+    rigs.back()->setSetting(velk::kFormat_AAC, velk::kStrategy_ABR, 10);
+    windows.push_back(std::make_unique<QWidget>());
+    auto* view = dynamic_cast<QWidget*>(bundle.viewForUnit(&rigs.back()->unit()).release());
+    view->setParent(windows.back().get());
+    view->show();
+    windows.back()->show();
+  }
+  QApplication::processEvents();
+  Signal input = music(2, std::size_t{48000} * 4, 48000);
+  for (auto& samples : input) {
+    for (float& sample : samples) sample *= 2;
+  }
+  Signal output = silence(2, kBlock);
+  float* const out[] = {output[0].data(), output[1].data()};
+  const double startWall = wallSeconds();
+  const double start = processorSeconds();
+  for (std::size_t at = 0; at + kBlock <= input[0].size(); at += kBlock) {
+    const float* const in[] = {input[0].data() + at, input[1].data() + at};
+    for (auto& rig : rigs) rig->unit().render(in, out, kBlock);
+    // The views' timers go by the clock, so the audio must not run ahead of it.
+    do {
+      QApplication::processEvents(QEventLoop::AllEvents, 1);
+    } while (wallSeconds() - startWall < static_cast<double>(at + kBlock) / 48000);
+  }
+  return {
+      atMost("views_50_load", 100 * (processorSeconds() - start) / kSeconds, 100, "% of a core")};
+}
+
+}  // namespace
+
+Family viewOpening() {
+  return {{"view_opening"}, measureOpening};
+}
+
+Family manyViews() {
+  return {{"views_50_load"}, measureMany};
+}
+
+}  // namespace figures
