@@ -11,7 +11,6 @@ namespace velk {
 namespace {
 
 constexpr ui::Color kOverFullScale = ui::Color::deviceRGB(0.5, 0.0, 0.0, 1.0);
-constexpr int kLit = 2;
 
 bool isPeak(const MeterReading& row) {
   return std::holds_alternative<MeterReading::Peak>(row.member);
@@ -54,7 +53,7 @@ void PeakHoldMeters::raisePeak(Reading& reading, float peak) {
   reading.peak = peak;
   reading.field->setFloatValue(peak);
   if (peak > 0.0F) {
-    reading.indicator->setIntValue(kLit);
+    reading.indicator->setIntValue(kLampLit);
     reading.field->setTextColor(kOverFullScale);
   }
 }
@@ -94,7 +93,7 @@ void PeakHoldMeters::clearControls(ReadingSet set) {
       reading->field->setFloatValue(kMeterFloor);
     }
     for (Reading* reading : measure) {
-      reading->indicator->setIntValue(0);
+      reading->indicator->setIntValue(kLampDark);
     }
     for (Reading* reading : measure) {
       reading->field->setTextColor(ui::Color::black());

@@ -16,6 +16,10 @@ namespace velk {
 /// Level at which held peaks start, dB relative to full scale.
 inline constexpr float kMeterFloor = -60.0F;
 
+/// Values of a lamp.
+inline constexpr int kLampDark = 0;
+inline constexpr int kLampLit = 2;
+
 /// The details table: peak-hold readings with clip counters. A control is written only when a held
 /// value rises and when the controls are cleared. Main thread only.
 class PeakHoldMeters {

@@ -14,16 +14,14 @@ constexpr int kSourceSegment = 0;
 constexpr int kEncodedSegment = 1;
 constexpr int kStereoPage = 0;
 constexpr int kMonoPage = 1;
-constexpr int kDark = 0;
-constexpr int kLit = 2;
 
 bool isOn(const ui::Button* button) {
   return button != nullptr && button->state() == 1;
 }
 
 void latch(ui::LevelIndicator& lamp) {
-  if (lamp.intValue() == kDark) {
-    lamp.setIntValue(kLit);
+  if (lamp.intValue() == kLampDark) {
+    lamp.setIntValue(kLampLit);
   }
 }
 
@@ -157,8 +155,8 @@ void Velk_AACEncodingViewAuditionController::updateClipIndicators() {
 
 void Velk_AACEncodingViewAuditionController::resetClip(ui::Object* /*sender*/) {
   owner->resetClippingAndPeaks();
-  sourceClipIndicator->setIntValue(kDark);
-  encoderClipIndicator->setIntValue(kDark);
+  sourceClipIndicator->setIntValue(kLampDark);
+  encoderClipIndicator->setIntValue(kLampDark);
   meters_.clearHeldValues();
   meters_.clearControls(readingSetFor(owner->numChannels()));
 }

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 
 #include "behaviour/Stage.h"
@@ -80,6 +81,27 @@ TEST(CustomEncoderSheet, DropsHEv2OnceHoweverOftenItOpens) {
 
 TEST(CustomEncoderSheet, ShowsAFormatThatTheUnitDoesNotOfferAsHE) {
   EXPECT_EQ(openSheetWith({2, 0, 3}, 1.0F)->selectedItem(kType), 1);
+}
+
+TEST(CustomEncoderSheet, ShowsWhatItCanOfValuesThatStandForNothing) {
+  const auto stage = openSheetWith({0, 1, 12});
+  for (const float value :
+       {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
+        -std::numeric_limits<float>::infinity(), -1.0F, 99.0F, std::numeric_limits<float>::max()}) {
+    for (const FakeConverter::Setting& setting :
+         {FakeConverter::Setting{value, 0, 3}, {0, value, 3}, {0, 0, value}, {0, 2, value}}) {
+      stage->unit().hostSetsSetting(setting);
+      stage->advance(kSettled);
+      EXPECT_TRUE(stage->isSheetOpen(kSheet));
+      EXPECT_EQ(stage->selectedTab(kPages), setting.strategy == 2.0F ? 1 : 0);
+    }
+  }
+  stage->unit().log().clear();
+  stage->click(kCancel);
+  EXPECT_EQ(stage->unit().parameters, (std::array<float, 3>{0, 1, 12}));
+  stage->unit().hostSetsSetting({0, 0, 3});
+  stage->advance(kSettled);
+  EXPECT_EQ(stage->itemTitles(kMenu).at(kNewestCustomItem), "AAC ABR 32 Kbps");
 }
 
 TEST(CustomEncoderSheet, EditsTheUnitLive) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 
 #include "behaviour/Stage.h"
@@ -60,6 +61,19 @@ TEST(EncoderMenu, NamesTheHighQualityRateOfAnotherFormatAsACustomEntry) {
 
 TEST(EncoderMenu, ShowsADashForWhatItCannotName) {
   EXPECT_EQ(shown(*stageWith({3, 7, 17})), "- - - Kbps");
+}
+
+TEST(EncoderMenu, ShowsADashForValuesThatAreNoNumbersToShow) {
+  for (const float value :
+       {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(),
+        -std::numeric_limits<float>::infinity(), -1.0F, std::numeric_limits<float>::max(),
+        std::numeric_limits<float>::lowest()}) {
+    EXPECT_EQ(shown(*stageWith({0, 2, value})), "AAC VBR Quality: -") << value;
+    EXPECT_EQ(shown(*stageWith({0, 0, value})), "AAC ABR - Kbps") << value;
+    EXPECT_EQ(shown(*stageWith({value, 0, 3})), "- ABR 32 Kbps") << value;
+    EXPECT_EQ(shown(*stageWith({0, value, 3})), "AAC - 32 Kbps") << value;
+    EXPECT_EQ(shown(*stageWith({value, value, value})), "- - - Kbps") << value;
+  }
 }
 
 TEST(EncoderMenu, APresetIsAppliedByTheUnitAndShownWhenTheUnitSaysSo) {

@@ -1,6 +1,7 @@
 #include "qt/Host.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <cstdlib>
 #include <fstream>
@@ -170,6 +171,15 @@ QWidget& Host::named(const char* name) const {
     return *widget;
   }
   throw std::out_of_range(std::string("no widget is named ") + name);
+}
+
+QMessageBox* Host::alert() const {
+  for (auto* box : view_->findChildren<QMessageBox*>()) {
+    if (box->isVisible()) {
+      return box;
+    }
+  }
+  return nullptr;
 }
 
 void Host::advance(std::chrono::milliseconds time) {

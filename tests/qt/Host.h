@@ -17,6 +17,8 @@
 #include "ui/CustomView.h"
 #include "ui/qt/Environment.h"
 
+class QMessageBox;
+
 namespace qt_test {
 
 /// What differs between the hosts of a test.
@@ -68,6 +70,9 @@ class Host {
   }
   /// The widget of that object name. Throws if there is none.
   QWidget& named(const char* name) const;
+
+  /// The alert that is open over the view; null while there is none.
+  QMessageBox* alert() const;
 
   void advance(std::chrono::milliseconds time);
   const std::vector<QUrl>& openedUrls() const { return openedUrls_; }

@@ -173,6 +173,16 @@ TEST_F(KeyRouting, RepeatsAsTheKeyboardRepeats) {
   EXPECT_THAT(posted(), ElementsAre(kS));
 }
 
+TEST_F(KeyRouting, TakesNoNoticeOfModifiers) {
+  for (const Qt::KeyboardModifier modifier :
+       {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier,
+        Qt::MetaModifier}) {
+    posted_.clear();
+    QTest::keyClick(host_.view(), Qt::Key_S, modifier);
+    EXPECT_THAT(posted(), ElementsAre(kS)) << modifier;
+  }
+}
+
 TEST_F(KeyRouting, EndsWithTheViewsParent) {
   host_.view()->setParent(nullptr);
   qt_test::pressKeyAt(kKeyS, *host_.view());

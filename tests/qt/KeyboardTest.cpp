@@ -86,15 +86,6 @@ class Keyboard : public testing::Test {
     ASSERT_TRUE(customSheet().isVisible());
     calls_.clear();
   }
-  QMessageBox* alert() const {
-    for (auto* box : host_->view()->findChildren<QMessageBox*>()) {
-      if (box->isVisible()) {
-        return box;
-      }
-    }
-    return nullptr;
-  }
-
   fakes::CallLog calls_;
   fakes::FakeConverter unit_{calls_};
   std::optional<qt_test::Host> host_;
@@ -269,7 +260,7 @@ TEST_F(Keyboard, RunsAListeningTestAndStopsItInTheAlert) {
   for (const bool stop : {false, true}) {
     tabTo(tabs());
     type(Qt::Key_Left);
-    QMessageBox* box = alert();
+    QMessageBox* box = host_->alert();
     ASSERT_NE(box, nullptr);
     EXPECT_EQ(tabs().currentIndex(), 1) << "the page stays while the alert asks";
     QAbstractButton* answer = nullptr;

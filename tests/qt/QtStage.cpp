@@ -78,7 +78,7 @@ class QtStage final : public Stage {
     qt_test::clickOn(host_->named("resultsOKButton"));
   }
   void answerAlert(bool stop) override {
-    QMessageBox* box = alert();
+    QMessageBox* box = host_->alert();
     if (box == nullptr) {
       throw std::logic_error("no alert is open");
     }
@@ -154,7 +154,7 @@ class QtStage final : public Stage {
   }
   bool isSheetOpen(std::string_view sheet) override { return host_->outlet(sheet).isVisible(); }
   std::string alertMessage() override {
-    const QMessageBox* box = alert();
+    const QMessageBox* box = host_->alert();
     return box != nullptr ? box->text().toStdString() : std::string();
   }
   double width() override { return host_->view()->width(); }
@@ -172,15 +172,6 @@ class QtStage final : public Stage {
   const std::vector<std::string>& notifications() override { return record_.notifications.names(); }
 
  private:
-  QMessageBox* alert() const {
-    for (auto* box : host_->view()->findChildren<QMessageBox*>()) {
-      if (box->isVisible()) {
-        return box;
-      }
-    }
-    return nullptr;
-  }
-
   void answerSavePanel() {
     auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     if (panel == nullptr) {

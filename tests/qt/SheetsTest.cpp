@@ -33,15 +33,7 @@ class Sheets : public testing::Test {
   QMessageBox* askForTheOtherTab() {
     host_.outlet<QTabWidget>("view.tabView").setCurrentIndex(0);
     QApplication::processEvents();
-    return alert();
-  }
-  QMessageBox* alert() const {
-    for (auto* box : host_.view()->findChildren<QMessageBox*>()) {
-      if (box->isVisible()) {
-        return box;
-      }
-    }
-    return nullptr;
+    return host_.alert();
   }
   int tab() const { return host_.outlet<QTabWidget>("view.tabView").currentIndex(); }
 
@@ -129,7 +121,7 @@ TEST_F(Sheets, TakeEscapeInTheAlertForResume) {
   QMessageBox* box = askForTheOtherTab();
   ASSERT_NE(box, nullptr);
   QTest::keyClick(box, Qt::Key_Escape);
-  EXPECT_EQ(alert(), nullptr);
+  EXPECT_EQ(host_.alert(), nullptr);
   EXPECT_EQ(tab(), 1);
   EXPECT_EQ(unit_.listeningTestActive, 1U);
 }
@@ -139,7 +131,7 @@ TEST_F(Sheets, TakeClosingTheAlertForResume) {
   QMessageBox* box = askForTheOtherTab();
   ASSERT_NE(box, nullptr);
   box->close();
-  EXPECT_EQ(alert(), nullptr);
+  EXPECT_EQ(host_.alert(), nullptr);
   EXPECT_EQ(tab(), 1);
   EXPECT_EQ(unit_.listeningTestActive, 1U);
 }
@@ -164,7 +156,7 @@ TEST_F(Sheets, AreCancelledWhenTheViewLeavesItsParent) {
   startTest();
   ASSERT_NE(askForTheOtherTab(), nullptr);
   host_.view()->setParent(nullptr);
-  EXPECT_EQ(alert(), nullptr);
+  EXPECT_EQ(host_.alert(), nullptr);
   EXPECT_EQ(unit_.listeningTestActive, 1U) << "nobody answered";
   delete host_.view();
 }

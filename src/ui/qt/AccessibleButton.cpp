@@ -11,21 +11,19 @@ namespace ui::qt {
 
 namespace {
 
-QAccessible::Role roleOf(const QAbstractButton& button) {
-  const ButtonLook look = buttonLook(&button);
-  if (look == ButtonLook::FirstSegment || look == ButtonLook::LastSegment) {
-    return QAccessible::RadioButton;
-  }
-  return button.isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
-}
-
 class AccessibleButton final : public QAccessibleWidget {
  public:
   explicit AccessibleButton(QAbstractButton& button)
       : QAccessibleWidget(&button), button_(button) {}
 
   // Asked for early, before the button has its properties.
-  QAccessible::Role role() const override { return roleOf(button_); }
+  QAccessible::Role role() const override {
+    const ButtonLook look = buttonLook(&button_);
+    if (look == ButtonLook::FirstSegment || look == ButtonLook::LastSegment) {
+      return QAccessible::RadioButton;
+    }
+    return button_.isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+  }
 
   QString text(QAccessible::Text kind) const override {
     const bool isNamed = !button_.accessibleName().isEmpty();

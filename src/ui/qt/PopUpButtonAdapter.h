@@ -10,9 +10,6 @@ namespace ui::qt {
 
 /// A menu that shows its chosen item. When the user picks an item, the item's own action is sent,
 /// or the button's if the item has none.
-///
-/// Closed, it opens on Space and the arrow keys and leaves every other key alone: keys that are
-/// bound to something else never pick an item by its first letter. The wheel does nothing.
 class PopUpButtonAdapter final : public QObject,
                                  public Adapter<PopUpButton, QComboBox>,
                                  public ActionSource {
