@@ -73,10 +73,7 @@ TEST_F(ResultsSaving, ClosesTheSheetSilentlyWhenTheFolderIsReadOnly) {
 
 TEST_F(ResultsSaving, ClosesTheSheetSilentlyWhenTheFolderIsNotThere) {
   TestPage page;
-  page.endTest();
-  page.button("saveResultsButton").setState(1);
-  page.sheets().saveAnswer = folder_ / "missing" / "results.txt";
-  page.confirmResults();
+  saveAs(folder_ / "missing" / "results.txt", page, 2);
   EXPECT_FALSE(page.isSheetOpen());
   EXPECT_EQ(filesInFolder(), 0U);
   EXPECT_THAT(page.record.log.lines(), IsEmpty());
@@ -97,10 +94,7 @@ TEST_F(ResultsSaving, KeepsTheOlderFileWhenTheDiskIsFull) {
 
 TEST_F(ResultsSaving, WritesNothingToADeviceThatIsFull) {
   TestPage page;
-  page.endTest();
-  page.button("saveResultsButton").setState(1);
-  page.sheets().saveAnswer = "/dev/full";
-  page.confirmResults();
+  saveAs("/dev/full", page, 2);
   EXPECT_TRUE(fs::is_character_file("/dev/full"));
   EXPECT_FALSE(page.isSheetOpen());
   EXPECT_THAT(page.record.log.lines(), IsEmpty());
@@ -141,13 +135,11 @@ TEST_F(ResultsSaving, WritesNothingWhenTheViewLeavesItsParentWhileThePanelRuns) 
 
 TEST_F(ResultsSaving, TouchesNothingWhenTheViewIsDestroyedWhileThePanelRuns) {
   TestPage page;
-  page.answerTimes(2, true);
-  page.endTest();
-  page.button("saveResultsButton").setState(1);
-  page.sheets().saveAnswer = file();
-  page.sheets().whileSavePanelRuns = [&] { page.view->native.reset(); };
-  page.record.calls.clear();
-  page.confirmResults();
+  page.sheets().whileSavePanelRuns = [&] {
+    page.record.calls.clear();
+    page.view->native.reset();
+  };
+  save(page, 2);
   EXPECT_EQ(filesInFolder(), 0U);
   EXPECT_EQ(page.record.calls.count("sheets.endSheet"), 0U);
 }

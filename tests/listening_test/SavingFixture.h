@@ -41,11 +41,12 @@ class ResultsSaving : public testing::Test {
   }
 
   /// Ends a test of that many answers and saves it.
-  void save(TestPage& page, int answers) {
+  void save(TestPage& page, int answers) { saveAs(file(), page, answers); }
+  void saveAs(const std::filesystem::path& place, TestPage& page, int answers) {
     page.answerTimes(answers, true);
     page.endTest();
     page.button("saveResultsButton").setState(1);
-    page.sheets().saveAnswer = file();
+    page.sheets().saveAnswer = place;
     page.confirmResults();
   }
 

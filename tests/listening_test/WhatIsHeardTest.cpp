@@ -25,25 +25,19 @@ TEST(ListeningTest, PlaysTheSourceAfterItSwitchedAAndBOff) {
               ElementsAre("aButton.setState 0", "bButton.setState 0", "unit.setProperty 5301 = 1"));
 }
 
-TEST(ListeningTest, PlaysWhatWasDrawnForA) {
+TEST(ListeningTest, PlaysWhatWasDrawnForAAndTheOtherOneForB) {
   for (const bool aIsSource : {true, false}) {
-    TestPage page;
-    page.restart(aIsSource);
-    page.click("aButton");
-    EXPECT_THAT(page.happened(),
-                ElementsAre("sourceButton.setState 0", "bButton.setState 0",
-                            aIsSource ? "unit.setProperty 5301 = 1" : "unit.setProperty 5301 = 0"));
-  }
-}
-
-TEST(ListeningTest, PlaysTheOtherOneForB) {
-  for (const bool aIsSource : {true, false}) {
-    TestPage page;
-    page.restart(aIsSource);
-    page.click("bButton");
-    EXPECT_THAT(page.happened(),
-                ElementsAre("aButton.setState 0", "sourceButton.setState 0",
-                            aIsSource ? "unit.setProperty 5301 = 0" : "unit.setProperty 5301 = 1"));
+    for (const bool clicksA : {true, false}) {
+      TestPage page;
+      page.restart(aIsSource);
+      page.click(clicksA ? "aButton" : "bButton");
+      const char* const first = clicksA ? "sourceButton.setState 0" : "aButton.setState 0";
+      const char* const second = clicksA ? "bButton.setState 0" : "sourceButton.setState 0";
+      const bool source = clicksA == aIsSource;
+      EXPECT_THAT(page.happened(),
+                  ElementsAre(first, second,
+                              source ? "unit.setProperty 5301 = 1" : "unit.setProperty 5301 = 0"));
+    }
   }
 }
 
