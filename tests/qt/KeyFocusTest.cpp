@@ -188,7 +188,7 @@ class TwoViewsInOneWindow : public testing::Test {
     firstCalls_.clear();
     secondCalls_.clear();
   }
-  ~TwoViewsInOneWindow() override {
+  void TearDown() override {
     delete second_->view();
     second_.reset();
     first_.reset();
