@@ -20,22 +20,21 @@ double differenceOf(const Signal& source) {
                   residual(source[1], encoded[1], 8192, end));
 }
 
+/// To a hundredth of a sample.
 double offset() {
   Rig rig;
   rig.setSetting(velk::kFormat_AAC, velk::kStrategy_ABR, 16);
   const Signal source = smoothNoise(2, 88200, kRate, 2200);
   const Signal encoded = rig.renderAligned(source);
-  return std::fabs(delayBetween(source[0], encoded[0], 8192, 80000));
+  return std::fabs(std::round(100 * delayBetween(source[0], encoded[0], 8192, 80000)) / 100);
 }
 
 std::vector<Row> measure() {
   const Signal independent = sines(2, 176400, kRate, 200, 12000);
   const Signal equal = {independent[0], independent[0]};
-  Row offsetRow = atMost("offset_lc_320", offset(), 0, "samples");
-  offsetRow.holds = std::lround(100 * offsetRow.value) == 0;
   return {atMost("difference_lc_320", differenceOf(equal), kGoal, "dB"),
           atMost("difference_lc_320_independent", differenceOf(independent), kGoal, "dB"),
-          offsetRow};
+          atMost("offset_lc_320", offset(), 0, "samples")};
 }
 
 }  // namespace

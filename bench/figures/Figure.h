@@ -35,6 +35,7 @@ Family difference();
 Family steps();
 Family unitMemory();
 Family manyUnits();
+Family oddSignals();
 Family meterPoll();
 Family viewOpening();
 Family manyViews();

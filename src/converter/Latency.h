@@ -22,7 +22,7 @@ inline constexpr Position kEncodedBehindSource = kLongestCodecDelay;
 constexpr Position encodedBehindSource(const UnitFormat& unit) {
   const Position ratio = resamplingRatio(unit);
   const Position behind = ratio * kEncodedBehindSource;
-  return ratio == 1 ? behind : behind + 2 * kResamplerDelay + (ratio - 1) * kBlockFrames;
+  return ratio == 1 ? behind : behind + 2 * Position{kResamplerDelay} + (ratio - 1) * kBlockFrames;
 }
 
 /// Samples of the unit in the longest access unit; the worker is woken at multiples of it.
