@@ -5,7 +5,7 @@
 #include "listening_test/Velk_AACEncodingViewListeningTestController.h"
 #include "listening_test/Verdict.h"
 #include "ui/Localization.h"
-#include "ui/TextFile.h"
+#include "ui/Toolkit.h"
 #include "view/Velk_AUAACConverterCustomView.h"
 
 /// The listening test's results: the sheet that shows them and the file that keeps them.
@@ -67,7 +67,7 @@ void Velk_AACEncodingViewListeningTestController::saveResultFile() {
       lastTestData->correct,
   };
   // A write that fails is silent.
-  static_cast<void>(ui::writeMacRoman(*place, resultsText(results, texts)));
+  static_cast<void>(toolkit_.writeMacRoman(*place, resultsText(results, texts)));
 }
 
 }  // namespace velk

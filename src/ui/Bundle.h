@@ -20,15 +20,15 @@ class UI_EXPORT Bundle {
   Bundle(std::filesystem::path resources, const std::vector<std::string>& languages);
   Bundle(const Bundle&) = delete;
   Bundle& operator=(const Bundle&) = delete;
-  ~Bundle();
+  virtual ~Bundle();
 
   const std::filesystem::path& resources() const;
   /// The language that is used.
   const std::string& language() const;
 
   /// The text for the key, UTF-8. A missing table, an unreadable one (logged once) or a missing key
-  /// gives the key itself.
-  std::string localizedString(std::string_view key, std::string_view table) const;
+  /// gives the key itself. A toolkit that has bundles of its own may look there.
+  virtual std::string localizedString(std::string_view key, std::string_view table) const;
 
  private:
   class Tables;

@@ -21,6 +21,11 @@ struct Registration {
   }
 };
 
+NotificationCenter*& replacement() {
+  static NotificationCenter* center = nullptr;
+  return center;
+}
+
 }  // namespace
 
 class NotificationCenter::Registry {
@@ -33,7 +38,11 @@ class NotificationCenter::Registry {
 NotificationCenter& NotificationCenter::defaultCenter() {
   // Never destroyed: observers may outlive every static object.
   static NotificationCenter& center = *new NotificationCenter;
-  return center;
+  return replacement() != nullptr ? *replacement() : center;
+}
+
+void NotificationCenter::setDefaultCenter(NotificationCenter* center) {
+  replacement() = center;
 }
 
 NotificationCenter::NotificationCenter() : registry_(std::make_unique<Registry>()) {}

@@ -22,19 +22,22 @@ struct Notification {
 class UI_EXPORT NotificationCenter {
  public:
   static NotificationCenter& defaultCenter();
+  /// Puts a toolkit's own centre in the place of the default one; null brings that back. Not owned.
+  /// What is observed stays with the centre where it was asked for.
+  static void setDefaultCenter(NotificationCenter* center);
 
   NotificationCenter();
   NotificationCenter(const NotificationCenter&) = delete;
   NotificationCenter& operator=(const NotificationCenter&) = delete;
-  ~NotificationCenter();
+  virtual ~NotificationCenter();
 
   /// `observer` only names the registration for `removeObserver`. A null `object` observes the name
   /// from every object.
-  void addObserver(const void* observer, std::string_view name, const void* object,
-                   std::function<void(const Notification&)> deliver);
+  virtual void addObserver(const void* observer, std::string_view name, const void* object,
+                           std::function<void(const Notification&)> deliver);
   /// Removes every registration of the observer.
-  void removeObserver(const void* observer);
-  void post(std::string_view name, const void* object);
+  virtual void removeObserver(const void* observer);
+  virtual void post(std::string_view name, const void* object);
 
  private:
   class Registry;

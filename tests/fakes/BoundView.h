@@ -8,24 +8,14 @@
 
 #include "factory/InterfaceObjects.h"
 #include "factory/Velk_AUAACConverterFactory.h"
-#include "fakes/CallLog.h"
 #include "fakes/FakeConverter.h"
 #include "fakes/FakeInterfaceLoader.h"
 #include "fakes/FakeNativeView.h"
 #include "fakes/FakeToolkit.h"
-#include "fakes/LogCapture.h"
-#include "fakes/NotificationRecorder.h"
+#include "fakes/Record.h"
 #include "view/Velk_AUAACConverterCustomView.h"
 
 namespace fakes {
-
-/// One log for all that happens to the views of a test, with the capture of the system log and of
-/// notifications.
-struct Record {
-  CallLog calls;
-  LogCapture log{calls};
-  NotificationRecorder notifications{calls};
-};
 
 /// A view that the real factory made over the fake toolkit, bound to a unit, in a window. The unit
 /// has to outlive it.

@@ -1,5 +1,7 @@
 #include "fakes/FakeToolkit.h"
 
+#include "ui/TextFile.h"
+
 namespace fakes {
 
 FakeToolkit::FakeToolkit(CallLog& log) : FakeToolkit(log, VELK_RESOURCES, "en", "en_US") {}
@@ -11,6 +13,6 @@ FakeToolkit::FakeToolkit(CallLog& log, const std::filesystem::path& resources,
       helpManager(log),
       bundle(resources, {language}),
       localization(ui::makeLocalization(locale)),
-      services{runLoop, sheets, helpManager, bundle, *localization} {}
+      services{runLoop, sheets, helpManager, bundle, *localization, ui::writeMacRoman} {}
 
 }  // namespace fakes

@@ -3,8 +3,8 @@
 #include <QVariant>
 
 #include "ui/Bundle.h"
+#include "ui/Captions.h"
 #include "ui/qt/ButtonAdapter.h"
-#include "ui/qt/Captions.h"
 #include "ui/qt/LampAdapter.h"
 #include "ui/qt/PopUpButtonAdapter.h"
 #include "ui/qt/SegmentedControlAdapter.h"

@@ -5,14 +5,11 @@
 #include <QLabel>
 #include <QTabWidget>
 
-#include "ui/Bundle.h"
+#include "ui/Captions.h"
 
 namespace ui::qt {
 
 namespace {
-
-/// An accessible name may be put together from several captions.
-const QString kPartSeparator = QStringLiteral(", ");
 
 class Translator {
  public:
@@ -45,18 +42,12 @@ class Translator {
   }
 
  private:
-  QString translated(const QString& caption) const {
-    return caption.isEmpty() ? caption
-                             : QString::fromStdString(
-                                   bundle_.localizedString(caption.toStdString(), kStringsTable));
+  QString translated(const QString& key) const {
+    return QString::fromStdString(caption(bundle_, key.toStdString()));
   }
 
-  QString translatedParts(const QString& name) const {
-    QStringList parts = name.split(kPartSeparator, Qt::SkipEmptyParts);
-    for (QString& part : parts) {
-      part = translated(part);
-    }
-    return parts.join(kPartSeparator);
+  QString translatedParts(const QString& keys) const {
+    return QString::fromStdString(captionParts(bundle_, keys.toStdString()));
   }
 
   const Bundle& bundle_;

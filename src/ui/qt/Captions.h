@@ -8,9 +8,6 @@ class Bundle;
 
 namespace ui::qt {
 
-/// The table that holds all texts of the views.
-inline constexpr const char* kStringsTable = "AUDravoAACStrings";
-
 /// Looks every caption up in the bundle's strings table that the widget and those within it show or
 /// have read out: texts, titles, tabs, menu items, tool tips, and accessible names part by part, as
 /// commas separate them.

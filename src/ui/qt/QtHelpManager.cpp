@@ -2,10 +2,9 @@
 
 #include <QDesktopServices>
 #include <filesystem>
-#include <system_error>
 #include <utility>
 
-#include "ui/Bundle.h"
+#include "ui/HelpPage.h"
 #include "ui/Log.h"
 
 namespace ui::qt {
@@ -14,12 +13,7 @@ QtHelpManager::QtHelpManager(const Bundle& bundle, std::function<bool(const QUrl
     : bundle_(bundle), openUrl_(openUrl ? std::move(openUrl) : QDesktopServices::openUrl) {}
 
 void QtHelpManager::openHelpAnchor(const std::string& anchor, const std::string& /*book*/) {
-  const std::filesystem::path folder = bundle_.resources() / "help";
-  std::filesystem::path page = folder / ("index." + bundle_.language() + ".html");
-  std::error_code error;
-  if (!std::filesystem::exists(page, error)) {
-    page = folder / "index.html";
-  }
+  const std::filesystem::path page = helpPage(bundle_);
   QUrl url = QUrl::fromLocalFile(QString::fromStdString(page.string()));
   url.setFragment(QString::fromStdString(anchor));
   if (!openUrl_(url)) {

@@ -2,11 +2,12 @@
 
 #include <QColor>
 
+#include "ui/ReadableColor.h"
+
 namespace ui::qt {
 
-/// Contrast of text that everybody can read, and of shapes, after WCAG 2.1, 1.4.3 and 1.4.11.
-inline constexpr double kTextContrast = 4.5;
-inline constexpr double kShapeContrast = 3.0;
+using ui::kShapeContrast;
+using ui::kTextContrast;
 
 /// Ratio of the two colours' relative luminances, from 1 to 21 (WCAG 2.1, "contrast ratio").
 double contrast(const QColor& one, const QColor& other);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "ui/TextFile.h"
 #include "ui/qt/Environment.h"
 #include "ui/qt/QtRunLoop.h"
 
@@ -14,6 +15,6 @@ ViewServices::ViewServices(const Environment& environment, QWidget& view,
       runLoop_(environment.makeRunLoop ? environment.makeRunLoop() : std::make_unique<QtRunLoop>()),
       sheets_(view, std::move(didLeaveSheet)),
       helpManager_(bundle_, environment.openUrl),
-      toolkit_{*runLoop_, sheets_, helpManager_, bundle_, *localization_} {}
+      toolkit_{*runLoop_, sheets_, helpManager_, bundle_, *localization_, writeMacRoman} {}
 
 }  // namespace ui::qt

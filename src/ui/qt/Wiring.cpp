@@ -2,11 +2,9 @@
 
 #include <QComboBox>
 #include <QVariant>
-#include <algorithm>
 #include <string>
-#include <type_traits>
-#include <variant>
 
+#include "ui/DeclaredConnections.h"
 #include "ui/Toolkit.h"
 #include "ui/qt/Adapters.h"
 #include "ui/qt/PopUpButtonAdapter.h"
@@ -22,24 +20,29 @@ struct FullName {
   std::string member;
 };
 
-[[noreturn]] void fail(const QWidget& widget, const std::string& fault) {
-  throw InterfaceError("widget \"" + widget.objectName().toStdString() + "\": " + fault);
-}
-
 class Wiring {
  public:
   Wiring(QtView& view, InterfaceObjects& objects, Toolkit& toolkit)
-      : view_(view), objects_(objects.objects()), toolkit_(toolkit) {}
+      : view_(view), declared_(objects.objects()), toolkit_(toolkit) {}
 
   void wire() {
-    wire(view_);
+    wireNamed(view_);
     for (QWidget* widget : view_.findChildren<QWidget*>()) {
-      wire(*widget);
+      wireNamed(*widget);
     }
-    requireEveryOutlet();
+    declared_.requireEveryOutlet();
   }
 
  private:
+  /// Names the widget in whatever is wrong with it.
+  void wireNamed(QWidget& widget) {
+    try {
+      wire(widget);
+    } catch (const InterfaceError& fault) {
+      throw InterfaceError("widget \"" + widget.objectName().toStdString() + "\": " + fault.what());
+    }
+  }
+
   void wire(QWidget& widget) {
     const QStringList outlets =
         widget.property("outlets").toString().split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -50,105 +53,53 @@ class Wiring {
     }
     std::unique_ptr<Object> control = makeAdapter(widget, toolkit_.bundle, toolkit_.localization);
     for (const QString& outlet : outlets) {
-      fill(outletNamed(outlet.toStdString(), widget), outlet.toStdString(), *control, widget);
+      const FullName name = apart(outlet);
+      declared_.fill(name.object, name.member, *control, widget.metaObject()->className());
     }
     if (!action.isEmpty()) {
-      connectAction(action.toStdString(), *control, widget);
+      connectAction(action, *control, widget);
     }
-    connectItems(itemActions, *control, widget);
+    connectItems(itemActions, *control);
     view_.addControl(std::move(control));
   }
 
-  void connectAction(const std::string& name, Object& control, const QWidget& widget) const {
+  void connectAction(const QString& name, Object& control, const QWidget& widget) const {
     auto* source = dynamic_cast<ActionSource*>(&control);
     if (source == nullptr) {
-      fail(widget, std::string("a ") + widget.metaObject()->className() + " sends no action");
+      throw InterfaceError(std::string("a ") + widget.metaObject()->className() +
+                           " sends no action");
     }
-    source->setAction(actionNamed(name, widget));
+    source->setAction(actionNamed(name));
   }
 
-  void connectItems(const QStringList& names, Object& control, const QWidget& widget) const {
+  void connectItems(const QStringList& names, Object& control) const {
     auto* popUp = dynamic_cast<PopUpButton*>(&control);
     if (!names.isEmpty() && (popUp == nullptr || names.size() > popUp->numberOfItems())) {
-      fail(widget, "it has fewer menu items than actions for them");
+      throw InterfaceError("it has fewer menu items than actions for them");
     }
     for (int index = 0; index < names.size(); ++index) {
       if (!names[index].isEmpty()) {
-        popUp->itemAtIndex(index)->setAction(actionNamed(names[index].toStdString(), widget));
+        popUp->itemAtIndex(index)->setAction(actionNamed(names[index]));
       }
     }
   }
 
-  static void fill(const Connections::Slot& slot, const std::string& name, Object& control,
-                   const QWidget& widget) {
-    std::visit(
-        [&](auto** place) {
-          using Control = std::remove_pointer_t<std::remove_reference_t<decltype(*place)>>;
-          if (*place != nullptr) {
-            fail(widget, "outlet \"" + name + "\" is filled already");
-          }
-          *place = dynamic_cast<Control*>(&control);
-          if (*place == nullptr) {
-            fail(widget, std::string("a ") + widget.metaObject()->className() +
-                             " cannot fill outlet \"" + name + "\"");
-          }
-        },
-        slot);
+  Action actionNamed(const QString& fullName) const {
+    const FullName name = apart(fullName);
+    return declared_.action(name.object, name.member);
   }
 
-  const Connections::Slot& outletNamed(const std::string& fullName, const QWidget& widget) const {
-    const FullName name = apart(fullName, widget);
-    const auto& outlets = connectionsOf(name.object, widget).outlets();
-    const auto found = std::find_if(outlets.begin(), outlets.end(),
-                                    [&](const auto& outlet) { return outlet.name == name.member; });
-    if (found == outlets.end()) {
-      fail(widget, "no outlet is named \"" + fullName + "\"");
-    }
-    return found->slot;
-  }
-
-  Action actionNamed(const std::string& fullName, const QWidget& widget) const {
-    const FullName name = apart(fullName, widget);
-    const auto& actions = connectionsOf(name.object, widget).actions();
-    const auto found = std::find_if(actions.begin(), actions.end(), [&](const auto& action) {
-      return action.selector == name.member;
-    });
-    if (found == actions.end()) {
-      fail(widget, "no action is named \"" + fullName + "\"");
-    }
-    return found->action;
-  }
-
-  const Connections& connectionsOf(const std::string& object, const QWidget& widget) const {
-    const auto found = std::find_if(objects_.begin(), objects_.end(),
-                                    [&](const auto& named) { return named.name == object; });
-    if (found == objects_.end()) {
-      fail(widget, "no object is named \"" + object + "\"");
-    }
-    return *found->connections;
-  }
-
-  static FullName apart(const std::string& fullName, const QWidget& widget) {
+  static FullName apart(const QString& name) {
+    const std::string fullName = name.toStdString();
     const std::size_t dot = fullName.find('.');
     if (dot == std::string::npos) {
-      fail(widget, "\"" + fullName + "\" names no object");
+      throw InterfaceError("\"" + fullName + "\" names no object");
     }
     return {fullName.substr(0, dot), fullName.substr(dot + 1)};
   }
 
-  void requireEveryOutlet() const {
-    for (const auto& object : objects_) {
-      for (const auto& outlet : object.connections->outlets()) {
-        if (std::visit([](auto** place) { return *place == nullptr; }, outlet.slot)) {
-          throw InterfaceError("no widget fills outlet \"" + object.name + "." + outlet.name +
-                               "\"");
-        }
-      }
-    }
-  }
-
   QtView& view_;
-  const std::vector<InterfaceObjects::Named>& objects_;
+  DeclaredConnections declared_;
   Toolkit& toolkit_;
 };
 
