@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -32,10 +33,14 @@ std::vector<std::string> Outcome::complaints() const {
 }
 
 Program::Program(std::filesystem::path folder)
-    : folder_(std::move(folder)), executable_(VELK_AUDITION_PROGRAM) {
+    : folder_(std::move(folder)), executable_(executableUnderTest()) {
   // Outside the folder, so that a test sees what the program itself leaves there.
   out_ = folder_.string() + ".out";
   err_ = folder_.string() + ".err";
+}
+
+std::filesystem::path Program::executableUnderTest() {
+  return VELK_PROGRAM;
 }
 
 std::vector<std::string> Program::environment() const {
@@ -74,10 +79,12 @@ pid_t Program::start(const std::vector<std::string>& arguments) {
 
 Outcome Program::wait(pid_t process) const {
   int status = 0;
-  while (::waitpid(process, &status, 0) < 0) {
+  rusage usage{};
+  while (::wait4(process, &status, 0, &usage) < 0) {
     if (errno != EINTR) throw std::runtime_error("cannot wait for the program");
   }
   Outcome outcome;
+  outcome.memory = std::int64_t{usage.ru_maxrss} * 1024;
   outcome.status = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
   if (std::filesystem::is_regular_file(out_)) {
     outcome.out = readBytes(out_);
@@ -93,7 +100,7 @@ Outcome Program::run(const std::vector<std::string>& arguments) {
 }
 
 std::filesystem::path copiedProgram(const std::filesystem::path& folder) {
-  const std::filesystem::path original = VELK_AUDITION_PROGRAM;
+  const auto original = Program::executableUnderTest();
   const auto program = folder / "bin" / original.filename();
   std::filesystem::create_directories(program.parent_path());
   std::filesystem::copy_file(original, program);

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -13,11 +14,13 @@ struct Outcome {
   int status = 0;
   std::string out;
   std::string err;
+  /// The most memory that it ever had, bytes.
+  std::int64_t memory = 0;
 
   std::vector<std::string> complaints() const;
 };
 
-/// The real program as a process of its own, off screen and in a folder of its own.
+/// The real program of this test as a process of its own, off screen and in a folder of its own.
 class Program {
  public:
   /// Standard output and error go to files in `folder`, which is also the working folder.
@@ -27,6 +30,9 @@ class Program {
   void setExecutable(std::filesystem::path executable) { executable_ = std::move(executable); }
   void setStandardOutput(std::filesystem::path path) { out_ = std::move(path); }
   void withoutDisplay() { hasDisplay_ = false; }
+
+  /// The program that this test is about.
+  static std::filesystem::path executableUnderTest();
 
   Outcome run(const std::vector<std::string>& arguments);
   pid_t start(const std::vector<std::string>& arguments);

@@ -1,5 +1,6 @@
 #include "host/measure/Console.h"
 
+#include <fcntl.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -29,7 +30,10 @@ bool isDumb() {
 
 }  // namespace
 
-Console::Console() : showsProgress_(::isatty(STDERR_FILENO) != 0 && !isDumb()) {}
+Console::Console() : showsProgress_(::isatty(STDERR_FILENO) != 0 && !isDumb()) {
+  const int descriptor = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
+  if (descriptor >= 0) error_.reset(::fdopen(descriptor, "w"));
+}
 
 Console::~Console() {
   clearProgress();
@@ -44,20 +48,24 @@ void Console::say(const std::string& text) {
 
 void Console::complain(const std::string& text) {
   clearProgress();
-  std::fprintf(stderr, "aac-measure: %s\n", printable(text).c_str());
+  writeError("aac-measure: " + printable(text) + "\n");
+}
+
+void Console::writeError(const std::string& text) {
+  if (!error_) return;
+  std::fputs(text.c_str(), error_.get());
+  std::fflush(error_.get());
 }
 
 void Console::setProgress(const std::string& line) {
   if (!showsProgress_) return;
-  std::fprintf(stderr, "\r%s\x1b[K", line.c_str());
-  std::fflush(stderr);
+  writeError("\r" + line + "\x1b[K");
   hasProgress_ = true;
 }
 
 void Console::clearProgress() {
   if (!hasProgress_) return;
-  std::fputs("\r\x1b[K", stderr);
-  std::fflush(stderr);
+  writeError("\r\x1b[K");
   hasProgress_ = false;
 }
 

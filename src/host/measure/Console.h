@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdio>
+#include <memory>
 #include <string>
 
 namespace host::measure {
@@ -33,6 +35,14 @@ class Console {
   static bool isColored();
 
  private:
+  struct Close {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+  };
+
+  void writeError(const std::string& text);
+
+  /// Another way to standard error: while a file is opened, nothing gets through the usual one.
+  std::unique_ptr<std::FILE, Close> error_;
   bool showsProgress_;
   bool hasProgress_ = false;
 };

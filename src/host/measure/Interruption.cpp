@@ -23,7 +23,7 @@ void catchInterruptions() {
     if (before.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
   }
   action.sa_handler = SIG_IGN;
-  ::sigaction(SIGPIPE, &action, nullptr);
+  for (const int signal : {SIGPIPE, SIGXFSZ}) ::sigaction(signal, &action, nullptr);
 }
 
 int interruption() {

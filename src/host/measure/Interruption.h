@@ -2,8 +2,8 @@
 
 namespace host::measure {
 
-/// From now on SIGINT, SIGTERM and SIGHUP end nothing by themselves, and writing into a closed pipe
-/// is an error like any other.
+/// From now on SIGINT, SIGTERM and SIGHUP end nothing by themselves, and writing into a closed
+/// pipe, or more than the user may, is an error like any other.
 void catchInterruptions();
 
 /// The signal that came, or 0. Any thread.

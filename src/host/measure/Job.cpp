@@ -40,6 +40,11 @@ int guessedTrim(const Readings& readings, bool interSample) {
   return static_cast<int>(std::ceil(std::min(peak * tenthsPerDecibel, double{greatestTrim})));
 }
 
+std::string quoted(const std::filesystem::path& file) {
+  std::string name = "'";
+  return name.append(file.string()).append("'");
+}
+
 /// A job at work.
 class Work {
  public:
@@ -60,11 +65,6 @@ class Work {
   }
 
  private:
-  std::string quoted() const {
-    std::string name = "'";
-    return name.append(job_.file.string()).append("'");
-  }
-
   std::unique_ptr<JobOutputs> outputs() {
     if (!options_.pictures && !options_.bitStreams) return nullptr;
     return std::make_unique<JobOutputs>(job_, options_, *file_.source);
@@ -89,7 +89,7 @@ class Work {
     auto readings = pass.finish();
     readings.file = job_.file.string();
     if (const auto carried = carriedOtherwise(pass.unit()); carried && row_.warnings.empty()) {
-      row_.warnings.push_back(quoted() + ": " + *carried);
+      row_.warnings.push_back(quoted(job_.file) + ": " + *carried);
     }
     const bool clean = !measure::hasOvers(readings, options_.interSample);
     if (clean || !stopAtOvers) row_.readings = std::move(readings);
@@ -139,7 +139,13 @@ bool hasOvers(const Readings& readings, bool interSample) {
 }
 
 Row done(const Job& job, const Options& options, JobProgress& progress) {
-  return Work(job, options, progress).run();
+  try {
+    return Work(job, options, progress).run();
+  } catch (const Failure& failure) {
+    const std::string why = failure.what();
+    if (why.find(job.file.string()) != std::string::npos) throw;
+    throw Failure(quoted(job.file) + ": " + why);
+  }
 }
 
 }  // namespace host::measure

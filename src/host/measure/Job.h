@@ -54,8 +54,8 @@ struct JobProgress {
 /// Whether there are overs of the kind that counts after encoding.
 bool hasOvers(const Readings& readings, bool interSample);
 
-/// Throws `Failure` when the file cannot be measured or an output not be written, and
-/// `Interrupted`.
+/// Throws `Failure`, which names the file, when it cannot be measured or an output not be written,
+/// and `Interrupted`.
 Row done(const Job& job, const Options& options, JobProgress& progress);
 
 }  // namespace host::measure

@@ -64,7 +64,13 @@ struct M4aFile::Muxer {
     parameters.extradata_size = static_cast<int>(stream.configuration.size());
     track->time_base = {1, rate};
     error = avio_open(&context->pb, path, AVIO_FLAG_WRITE);
-    return error < 0 ? error : avformat_write_header(context, nullptr);
+    if (error < 0) return error;
+    // The edit list ends to the sample, not to the millisecond.
+    AVDictionary* options = nullptr;
+    av_dict_set_int(&options, "movie_timescale", rate, 0);
+    error = avformat_write_header(context, &options);
+    av_dict_free(&options);
+    return error;
   }
 
   int write(const converter::AccessUnit& unit, std::int64_t end) {
