@@ -13,6 +13,7 @@ constexpr std::size_t kFrames = std::size_t{4} * 44100;
 constexpr std::size_t kBlock = 512;
 /// A path through denormal numbers, or one that retries, would be many times slower.
 constexpr double kGoal = 1.5;
+constexpr int kRounds = 5;
 
 struct Odd {
   const char* name;
@@ -57,7 +58,8 @@ std::vector<Row> measure() {
     Signal input = silence(2, kFrames);
     for (std::size_t i = 0; i < kFrames; ++i) input[0][i] = input[1][i] = odd.sample(i);
     std::vector<double> ratios;
-    for (int round = 0; round < 5; ++round) {
+    ratios.reserve(kRounds);
+    for (int round = 0; round < kRounds; ++round) {
       ratios.push_back(processorSecondsFor(input) / processorSecondsFor(bright));
     }
     rows.push_back(atMost(odd.name, median(ratios), kGoal, "of music"));
@@ -69,6 +71,7 @@ std::vector<Row> measure() {
 
 Family oddSignals() {
   std::vector<std::string> names;
+  names.reserve(kSignals.size());
   for (const Odd& odd : kSignals) names.emplace_back(odd.name);
   return {names, measure};
 }

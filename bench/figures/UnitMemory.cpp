@@ -1,7 +1,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
+#include <fstream>
 #include <memory>
 #include <vector>
 
@@ -16,12 +16,11 @@ constexpr double kMebibyte = 1024 * 1024;
 
 /// What the process has in memory, bytes.
 double residentBytes() {
-  long pages = 0;
-  if (std::FILE* file = std::fopen("/proc/self/statm", "r")) {
-    if (std::fscanf(file, "%*s %ld", &pages) != 1) pages = 0;
-    std::fclose(file);
-  }
-  return static_cast<double>(pages) * static_cast<double>(sysconf(_SC_PAGESIZE));
+  std::ifstream statm("/proc/self/statm");
+  long size = 0;
+  long resident = 0;
+  statm >> size >> resident;
+  return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE));
 }
 
 /// Everything that a unit at 48 kHz stereo takes after some seconds of play, its thread included.

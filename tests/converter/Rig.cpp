@@ -82,7 +82,7 @@ Signal Rig::renderTooFast(const Signal& input) {
   setOffline(false);
   gate_.close();
   UInt32 turn = 0;
-  const Signal output = renderInBlocks(input, [&](std::size_t) -> std::size_t {
+  Signal output = renderInBlocks(input, [&](std::size_t) -> std::size_t {
     setPreset(turn % 2 == 0 ? 2 : 3);
     if (turn++ % 3 == 0) gate_.letPass(1);
     return format_.maximumFrames;
