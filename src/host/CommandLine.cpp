@@ -28,7 +28,9 @@ bit_rate_kbps, latency_samples, monitor, source and encoded. source and encoded 
 one record per channel: sample_peak_dbfs, inter_sample_peak_dbtp, sample_clips and
 inter_sample_overs.
 
-Without --headless FILE is played at once; --seconds then closes the window after
+Without --headless FILE is played at once, in a window with its waveform. Triangles
+above the waveform mark overs of the source, triangles below it overs of the encoded
+signal. Click to go to a place, drag to loop a stretch, turn the wheel to zoom; --seconds then closes the window after
 that time, --screenshot is written and --json printed when the window closes.
 
 The recording holds what is played, without pauses. --set takes the bit rates 16, 20,
@@ -37,7 +39,11 @@ encoder cannot do one, it does the nearest that it can and the program says so.
 
 Keys in the window: Ctrl+O opens a file, Ctrl+P or a keyboard's play key plays and
 pauses, Ctrl+Left and Ctrl+Right move by five seconds, Ctrl+Home goes back to the
-beginning, Ctrl+Q quits. All other keys are the view's.
+beginning, Ctrl+I and Ctrl+E start and end the loop here, Ctrl+L switches it on or
+off, Ctrl+D removes it, Ctrl++ and Ctrl+- zoom, Ctrl+Q quits. In the waveform (Tab)
+arrows and pages move, with Shift they draw a loop, with Alt they move it; I or [ and
+O or ] set its edges, L switches it, Delete removes it, + and - zoom. All other keys
+are the view's.
 
 Exit status: 0 success, 1 something went wrong, 2 the command line makes no sense.
 Every error is one line on standard error; no file is left half-written.
@@ -67,6 +73,9 @@ bool monitorsSource(const std::string& word) {
 void check(const AuditionOptions& options) {
   if (options.headless && !options.file) {
     throw UsageError("--headless plays a file: give FILE");
+  }
+  if (options.restore && (options.headless || options.file)) {
+    throw UsageError("--restore opens the last file in a window: give neither FILE nor --headless");
   }
   if (options.seconds && !(*options.seconds > 0 && std::isfinite(*options.seconds))) {
     throw UsageError("bad --seconds: give a number above 0");
@@ -105,6 +114,8 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
   std::optional<std::string> channels;
   app.add_option("FILE", options.file, "The sound file to play");
   app.add_flag("--headless", options.headless, "Run off screen, as fast as it goes, and end");
+  app.add_flag("--restore", options.restore,
+               "Go on where you left off: file, place, loop, device and encoder setting");
   app.add_option("--seconds", options.seconds, "End after this much of the file")->type_name("N");
   app.add_option("--screenshot", options.screenshot, "Write a picture of the window at the end")
       ->type_name("PNG");

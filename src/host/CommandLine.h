@@ -16,6 +16,8 @@ struct AuditionOptions {
   /// Of a file with more than two.
   ChannelChoice channels;
   bool headless = false;
+  /// Go on where the user left off the last time.
+  bool restore = false;
   std::optional<double> seconds;
   std::optional<std::filesystem::path> screenshot;
   bool json = false;

@@ -13,7 +13,7 @@ OpenedFile openedForPlaying(const std::filesystem::path& path, const ChannelChoi
   const auto original = file->format();
   auto truncated = file->truncation();
   auto source = atSampleRate(std::move(file), unitSampleRateFor(original.sampleRate));
-  return {path, std::move(source), original, std::move(truncated)};
+  return {path, std::move(source), original, std::move(truncated), choice};
 }
 
 }  // namespace host

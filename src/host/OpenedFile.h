@@ -18,6 +18,8 @@ struct OpenedFile {
   AudioFormat original;
   /// Whether the file proved to hold less than it promises.
   std::shared_ptr<const std::atomic<bool>> truncated;
+  /// What was chosen of its channels.
+  ChannelChoice channels = {};
 };
 
 /// Of a file with more than two channels those of the choice are played. Throws `TooManyChannels`

@@ -11,6 +11,7 @@
 namespace host {
 Session::Session(OpenedFile file)
     : path_(std::move(file.path)),
+      channels_(std::move(file.channels)),
       format_(file.source->format()),
       original_(file.original),
       truncated_(std::move(file.truncated)),
@@ -29,6 +30,7 @@ void Session::load(OpenedFile file) {
   const bool hadOutput = output_ != nullptr;
   stop();
   path_ = std::move(file.path);
+  channels_ = std::move(file.channels);
   original_ = file.original;
   truncated_ = std::move(file.truncated);
   player_ = std::make_unique<Player>(*unit_, maximumFrames, std::move(file.source));

@@ -32,6 +32,7 @@ class Session {
   converter::ConverterUnit& unit() { return *unit_; }
   Player& player() { return *player_; }
   const std::filesystem::path& path() const { return path_; }
+  const ChannelChoice& channels() const { return channels_; }
   AudioFormat format() const { return format_; }
   AudioFormat originalFormat() const { return original_; }
   bool fileIsTruncated() const { return *truncated_; }
@@ -57,6 +58,7 @@ class Session {
   void startOutput(const std::optional<Device>& device);
 
   std::filesystem::path path_;
+  ChannelChoice channels_;
   AudioFormat format_;
   AudioFormat original_;
   std::shared_ptr<const std::atomic<bool>> truncated_;

@@ -1,8 +1,6 @@
 #include "host/app/Audition.h"
 
-#include <QFileDialog>
 #include <QLocale>
-#include <QMessageBox>
 #include <algorithm>
 #include <utility>
 
@@ -40,14 +38,6 @@ void copySettings(AudioUnit from, AudioUnit to) {
   monitorSource(to, monitorsSource(from));
 }
 
-int milliseconds(std::int64_t frames, AudioFormat format) {
-  return static_cast<int>(std::min<std::int64_t>(frames * 1000 / format.sampleRate, INT32_MAX));
-}
-
-std::int64_t frames(int milliseconds, AudioFormat format) {
-  return std::int64_t{milliseconds} * format.sampleRate / 1000;
-}
-
 QString kiloHertz(std::uint32_t hertz) {
   return QLocale().toString(hertz / 1000.0, 'g', 6);
 }
@@ -59,24 +49,39 @@ Audition::Audition(const AuditionOptions& options, std::unique_ptr<AtomicFile> r
     : options_(options),
       bundle_(viewBundlePath()),
       record_(std::move(record)),
-      devices_(std::move(devices)) {
+      devices_(std::move(devices)),
+      opening_(window_, options.channels,
+               [this](OpenedFile file) { takeAndPlay(std::move(file)); }),
+      overview_(window_.transport()),
+      deviceMenu_(window_.transport().deviceMenu()) {
   connectWindow();
 }
 
 Audition::~Audition() = default;
 
 void Audition::connectWindow() {
-  auto& transport = window_.transport();
-  connect(&window_, &MainWindow::openRequested, this, &Audition::openChosen);
-  connect(&window_, &MainWindow::fileDropped, this, &Audition::openAndPlay);
+  auto& waveform = window_.transport().waveform();
   connect(&window_, &MainWindow::playRequested, this, &Audition::togglePlaying);
   connect(&window_, &MainWindow::rewindRequested, this, [this] { moveTo(0); });
-  connect(&window_, &MainWindow::moveRequested, this, [this](int by) {
+  connect(&window_, &MainWindow::moveRequested, this, [this](int milliseconds) {
     if (!session_) return;
-    moveTo(milliseconds(session_->player().position(), session_->format()) + by);
+    const auto by = std::int64_t{milliseconds} * session_->format().sampleRate / 1000;
+    moveTo(heardPosition() + by);
   });
-  connect(&transport, &TransportBar::positionChosen, this, &Audition::moveTo);
-  connect(transport.deviceMenu(), &QMenu::aboutToShow, this, &Audition::fillDeviceMenu);
+  connect(&waveform, &WaveformView::positionChosen, this, &Audition::moveTo);
+  connect(&waveform, &WaveformView::loopChosen, this, [this](qint64 begin, qint64 end) {
+    const LoopRange loop = {begin, end};
+    changeLoop([&] { loop_.choose(loop.length() > 0 ? std::optional(loop) : std::nullopt); });
+  });
+  connect(&window_, &MainWindow::loopToggled, this,
+          [this] { changeLoop([this] { loop_.toggle(); }); });
+  connect(&window_, &MainWindow::loopRemoved, this,
+          [this] { changeLoop([this] { loop_.choose(std::nullopt); }); });
+  connect(&window_, &MainWindow::loopBeginRequested, this,
+          [this] { changeLoop([this] { loop_.beginAt(heardPosition()); }); });
+  connect(&window_, &MainWindow::loopEndRequested, this,
+          [this] { changeLoop([this] { loop_.endAt(heardPosition()); }); });
+  connect(&deviceMenu_, &DeviceMenu::chosen, this, &Audition::chooseDevice);
 }
 
 void Audition::open(OpenedFile file) {
@@ -87,6 +92,7 @@ void Audition::open(OpenedFile file) {
                 ? QString()
                 : tr("%1 kHz, played as %2 kHz").arg(kiloHertz(original), kiloHertz(rate)));
   if (session_ && session_->suits(file)) {
+    loop_.setPlayer(nullptr);
     session_->load(std::move(file));
   } else {
     auto session = std::make_unique<Session>(std::move(file));
@@ -102,6 +108,8 @@ void Audition::open(OpenedFile file) {
   warnedOfTruncation_ = false;
   missedFrames_ = 0;
   lateFrames_ = lateFrames(session_->unit());
+  loop_.setPlayer(&session_->player());
+  overview_.setFile(*session_, analysing_);
   window_.transport().setFileName(name);
   window_.setWindowTitle(tr("%1 – AAC Audition").arg(name));
   window_.setTransportEnabled(true);
@@ -150,30 +158,9 @@ void Audition::finish() {
   recorder_.reset();
 }
 
-void Audition::openChosen() {
-  auto* const dialog = new QFileDialog(
-      &window_, tr("Open Sound File"), {},
-      tr("Sound files (*.wav *.wave *.aif *.aiff *.aifc *.flac *.ogg *.oga *.opus *.mp3 *.w64 "
-         "*.rf64 *.caf *.au);;All files (*)"));
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  dialog->setFileMode(QFileDialog::ExistingFile);
-  connect(dialog, &QFileDialog::fileSelected, this, &Audition::openAndPlay);
-  dialog->open();
-}
-
-void Audition::openAndPlay(const QString& path) {
-  // A new view would end the test without a word.
-  if (session_ && listeningTestRuns(&session_->unit())) return;
-  try {
-    open(openedForPlaying(path.toStdString(), options_.channels));
-    session_->player().play();
-  } catch (const Failure& failure) {
-    auto* const message =
-        new QMessageBox(QMessageBox::Warning, tr("AAC Audition"),
-                        QString::fromStdString(failure.what()), QMessageBox::Ok, &window_);
-    message->setAttribute(Qt::WA_DeleteOnClose);
-    message->open();
-  }
+void Audition::takeAndPlay(OpenedFile file) {
+  open(std::move(file));
+  session_->player().play();
   refresh();
 }
 
@@ -188,10 +175,28 @@ void Audition::togglePlaying() {
   refresh();
 }
 
-void Audition::moveTo(int milliseconds) {
+void Audition::moveTo(std::int64_t frame) {
   if (!session_) return;
-  session_->player().seek(frames(std::max(milliseconds, 0), session_->format()));
+  overview_.leavePosition(*session_);
+  session_->player().seek(frame);
   refresh();
+}
+
+void Audition::changeLoop(const std::function<void()>& change) {
+  if (!session_) return;
+  overview_.leavePosition(*session_);
+  change();
+  refresh();
+}
+
+std::int64_t Audition::heardPosition() {
+  const auto* const output = session_->output();
+  return session_->player().audiblePosition(output != nullptr ? output->latency() : 0);
+}
+
+void Audition::chooseDevice(const std::optional<Device>& device) {
+  setNotice({});
+  setDevice(device);
 }
 
 void Audition::setDevice(const std::optional<Device>& device) {
@@ -205,45 +210,30 @@ void Audition::setDevice(const std::optional<Device>& device) {
   refresh();
 }
 
-void Audition::fillDeviceMenu() {
-  auto* const menu = window_.transport().deviceMenu();
-  menu->clear();
-  const auto current = session_ ? session_->device() : std::nullopt;
-  const auto add = [&](const QString& name, const std::optional<Device>& device) {
-    auto* const action = menu->addAction(name, this, [this, device] {
-      setNotice({});
-      setDevice(device);
-    });
-    action->setCheckable(true);
-    action->setChecked(device ? current && current->name == device->name : !current);
-    action->setEnabled(session_ != nullptr);
-  };
-  add(tr("No Device (silent)"), std::nullopt);
-  menu->addSeparator();
-  auto devices = outputDevices();
-  // A device that plays may hide from those who look for one.
-  if (current && !deviceNamed(devices, current->name)) devices.push_back(*current);
-  for (const auto& device : devices) add(QString::fromStdString(device.name), device);
-}
-
 void Audition::refresh() {
+  deviceMenu_.setCurrent(session_ ? session_->device() : std::nullopt, session_ != nullptr);
   if (!session_) return;
   refreshOutput();
   refreshTransport();
   warnOfTruncation();
   const bool test = listeningTestRuns(&session_->unit());
   window_.setOpenEnabled(!test);
+  opening_.setEnabled(!test);
   window_.status().setEncoderText(encoderText(session_->unit(), session_->format().sampleRate));
 }
 
 void Audition::refreshTransport() {
   auto& player = session_->player();
   auto& transport = window_.transport();
-  auto* const output = session_->output();
-  const auto latency = output != nullptr ? output->latency() : 0;
+  const auto* const output = session_->output();
+  const auto rate = session_->format().sampleRate;
+  const auto position = heardPosition();
   transport.setPlaying(player.isPlaying());
-  transport.setLength(milliseconds(player.length(), session_->format()));
-  transport.setPosition(milliseconds(player.audiblePosition(latency), session_->format()));
+  transport.showTime(position, player.length(), rate);
+  transport.setLoop(loop_.loop(), loop_.isOn(), rate);
+  transport.waveform().setLoop(loop_.loop(), loop_.isOn());
+  window_.setLoop(loop_.loop().has_value(), loop_.isOn());
+  overview_.refresh(*session_, position, Analysis::Clock::now());
   transport.setDeviceName(output == nullptr || output->isSilent()
                               ? tr("No device")
                               : QString::fromStdString(output->name()));
@@ -274,6 +264,28 @@ void Audition::warnOfTruncation() {
   warn("the file '" + session_->path().string() +
        "' is damaged or cut off: it holds less than it promises; what is there is played");
   setNotice(tr("The file is damaged or cut off"));
+}
+
+std::optional<SavedSession> Audition::sessionToSave() {
+  if (!session_) return std::nullopt;
+  SavedSession saved;
+  saved.file = std::filesystem::absolute(session_->path()).string();
+  saved.channels = session_->channels();
+  saved.position = heardPosition();
+  saved.loop = loop_.loop();
+  saved.loopIsOn = loop_.isOn();
+  if (session_->device()) saved.device = session_->device()->name;
+  saved.setting = encoderSettingOf(&session_->unit());
+  return saved;
+}
+
+void Audition::restore(const SavedSession& saved) {
+  open(openedForPlaying(saved.file, saved.channels));
+  const bool settingIsNamed = options_.setting || options_.preset;
+  if (saved.setting && !settingIsNamed) applyEncoderSetting(&session_->unit(), *saved.setting);
+  if (saved.loop) loop_.choose(saved.loop);
+  if (saved.loop && !saved.loopIsOn) loop_.toggle();
+  moveTo(saved.position);
 }
 
 void Audition::setNotice(const QString& notice) {

@@ -9,7 +9,12 @@
 #include "host/Recorder.h"
 #include "host/Session.h"
 #include "host/ViewBundle.h"
+#include "host/app/DeviceMenu.h"
+#include "host/app/FileOpening.h"
+#include "host/app/LoopControl.h"
 #include "host/app/MainWindow.h"
+#include "host/app/OverviewControl.h"
+#include "host/app/SavedSession.h"
 
 namespace host::app {
 
@@ -32,6 +37,18 @@ class Audition : public QObject {
   /// monitored signal are those of the command line at first and stay what they are afterwards.
   /// Throws `Failure`; the earlier file then stays.
   void open(OpenedFile file);
+  /// Opens a file as if the user had chosen it, and plays it: what is wrong with it is said in the
+  /// window.
+  void openAndPlay(const QString& path) { opening_.open(path); }
+  /// Whether files opened from now on are analysed in the background.
+  void setAnalysing(bool analysing) { analysing_ = analysing; }
+  bool isAnalysing() const { return overview_.isBusy(); }
+  /// Where the files opened last are kept. Not owned.
+  void setSettings(QSettings* settings) { opening_.setSettings(settings); }
+  /// What is to be found again, if a file is open.
+  std::optional<SavedSession> sessionToSave();
+  /// Opens the session's file where it was left. Throws `Failure`.
+  void restore(const SavedSession& saved);
   /// Plays to this device from now on, or to nobody.
   void setDevice(const std::optional<Device>& device);
   /// Brings the window up to date with what plays.
@@ -44,11 +61,12 @@ class Audition : public QObject {
   void startFirstDevice();
   void takeSession(std::unique_ptr<Session> session);
   void recordFrom(Session& session);
-  void openChosen();
-  void openAndPlay(const QString& path);
+  void takeAndPlay(OpenedFile file);
   void togglePlaying();
-  void moveTo(int milliseconds);
-  void fillDeviceMenu();
+  void moveTo(std::int64_t frame);
+  void changeLoop(const std::function<void()>& change);
+  void chooseDevice(const std::optional<Device>& device);
+  std::int64_t heardPosition();
   void refreshTransport();
   void refreshOutput();
   void warnOfTruncation();
@@ -64,8 +82,13 @@ class Audition : public QObject {
   bool warnedOfTruncation_ = false;
   std::uint64_t missedFrames_ = 0;
   std::uint64_t lateFrames_ = 0;
+  LoopControl loop_;
+  bool analysing_ = false;
   /// Goes before the session, to whose unit its view is bound.
   MainWindow window_;
+  FileOpening opening_;
+  OverviewControl overview_;
+  DeviceMenu deviceMenu_;
 };
 
 }  // namespace host::app

@@ -98,6 +98,8 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   requireDevice(options.device);
   auto file = openedForPlaying(*options.file, options.channels);
   Audition audition(options, std::move(files.record), std::nullopt);
+  // A picture shows the whole waveform.
+  audition.setAnalysing(files.screenshot != nullptr);
   audition.open(std::move(file));
   if (options.seconds) limitLength(audition, *options.seconds);
   bool interrupted = false;
@@ -114,7 +116,14 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   audition.session()->player().play();
   turnWhile([&] { return pump.turn(); }, interrupted);
   if (!interrupted) waitForEncoder(*audition.session(), interrupted);
-  if (files.screenshot) settle(interrupted);
+  if (files.screenshot) {
+    const auto goesOn = [&] {
+      audition.refresh();
+      return audition.isAnalysing();
+    };
+    turnWhile(goesOn, interrupted, restingMilliseconds);
+    settle(interrupted);
+  }
   if (interrupted) throw Failure("interrupted; nothing was written");
 
   refresh.stop();

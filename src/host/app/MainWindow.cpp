@@ -4,9 +4,7 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFrame>
-#include <QKeySequence>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMimeData>
 #include <utility>
 
@@ -17,7 +15,6 @@ namespace {
 
 constexpr int viewWidth = 560;
 constexpr int emptyHeight = 195;
-constexpr int step = 5000;
 
 QFrame* separator(QWidget* parent) {
   auto* const line = new QFrame(parent);
@@ -65,32 +62,12 @@ MainWindow::MainWindow()
   makeMenus();
   connect(transport_, &TransportBar::openClicked, this, &MainWindow::openRequested);
   connect(transport_, &TransportBar::playClicked, this, &MainWindow::playRequested);
+  connect(transport_, &TransportBar::loopToggled, this, &MainWindow::loopToggled);
   setTransportEnabled(false);
 }
 
 MainWindow::~MainWindow() {
   removeView();
-}
-
-void MainWindow::makeMenus() {
-  auto* const file = menuBar()->addMenu(tr("&File"));
-  open_ =
-      file->addAction(tr("&Open…"), QKeySequence(tr("Ctrl+O")), this, &MainWindow::openRequested);
-  file->addSeparator();
-  file->addAction(tr("&Quit"), QKeySequence(tr("Ctrl+Q")), this, &QWidget::close);
-
-  auto* const playback = menuBar()->addMenu(tr("&Playback"));
-  auto* const play = playback->addAction(tr("&Play or Pause"), this, &MainWindow::playRequested);
-  play->setShortcuts({QKeySequence(tr("Ctrl+P")), QKeySequence(Qt::Key_MediaPlay),
-                      QKeySequence(Qt::Key_MediaTogglePlayPause)});
-  transportActions_ = {
-      play,
-      playback->addAction(tr("To the &Beginning"), QKeySequence(tr("Ctrl+Home")), this,
-                          &MainWindow::rewindRequested),
-      playback->addAction(tr("Five Seconds Ba&ck"), QKeySequence(tr("Ctrl+Left")), this,
-                          [this] { Q_EMIT moveRequested(-step); }),
-      playback->addAction(tr("Five Seconds &Forward"), QKeySequence(tr("Ctrl+Right")), this,
-                          [this] { Q_EMIT moveRequested(step); })};
 }
 
 void MainWindow::setView(std::unique_ptr<ui::NativeView> view) {
@@ -127,6 +104,7 @@ void MainWindow::removeView() {
 
 void MainWindow::setOpenEnabled(bool enabled) {
   open_->setEnabled(enabled);
+  recent_->setEnabled(enabled);
   transport_->setOpenEnabled(enabled);
   setAcceptDrops(enabled);
 }
@@ -134,6 +112,12 @@ void MainWindow::setOpenEnabled(bool enabled) {
 void MainWindow::setTransportEnabled(bool enabled) {
   transport_->setTransportEnabled(enabled);
   for (auto* const action : transportActions_) action->setEnabled(enabled);
+}
+
+void MainWindow::setLoop(bool exists, bool isOn) {
+  loop_->setEnabled(exists);
+  loop_->setChecked(isOn);
+  removeLoop_->setEnabled(exists);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

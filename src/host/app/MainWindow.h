@@ -30,6 +30,10 @@ class MainWindow : public QMainWindow {
   /// Whether files can be opened and dropped.
   void setOpenEnabled(bool enabled);
   void setTransportEnabled(bool enabled);
+  /// Whether there is a loop, and whether it is in use.
+  void setLoop(bool exists, bool isOn);
+  /// Filled by its `aboutToShow`.
+  QMenu* recentMenu() { return recent_; }
 
  Q_SIGNALS:
   void openRequested();
@@ -38,6 +42,11 @@ class MainWindow : public QMainWindow {
   /// Relative, in milliseconds.
   void moveRequested(int milliseconds);
   void rewindRequested();
+  void loopToggled();
+  void loopRemoved();
+  /// At the place that sounds.
+  void loopBeginRequested();
+  void loopEndRequested();
   /// The window is about to close, still as the user saw it.
   void closing();
 
@@ -48,6 +57,9 @@ class MainWindow : public QMainWindow {
 
  private:
   void makeMenus();
+  void addTransport(QMenu& menu);
+  void addLoop(QMenu& menu);
+  void addZoom(QMenu& menu);
   void followView();
   void removeView();
 
@@ -57,6 +69,9 @@ class MainWindow : public QMainWindow {
   QWidget* invitation_;
   QWidget* view_ = nullptr;
   QAction* open_ = nullptr;
+  QMenu* recent_ = nullptr;
+  QAction* loop_ = nullptr;
+  QAction* removeLoop_ = nullptr;
   QList<QAction*> transportActions_;
 };
 

@@ -3,11 +3,14 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "host/app/TimeText.h"
+
 namespace host::app {
 namespace {
 
 constexpr int grid = 8;
 constexpr int deviceWidth = 176;
+constexpr int loopWidth = 128;
 
 /// Keys belong to the view: a click here does not take the focus away from it.
 template <class Control>
@@ -16,21 +19,14 @@ Control* keepingFocusInView(Control* control) {
   return control;
 }
 
-QLabel* timeLabel(QWidget* parent) {
-  auto* const label = new QLabel(timeText(0), parent);
-  label->setMinimumWidth(label->fontMetrics().horizontalAdvance("0:00:00"));
-  return label;
+QHBoxLayout* row() {
+  auto* const layout = new QHBoxLayout;
+  layout->setContentsMargins(2 * grid, 0, 2 * grid, 0);
+  layout->setSpacing(grid);
+  return layout;
 }
 
 }  // namespace
-
-QString timeText(int milliseconds) {
-  const int seconds = milliseconds / 1000;
-  const auto two = [](int number) { return QString("%1").arg(number, 2, 10, QChar('0')); };
-  const QString tail = ":" + two(seconds % 60);
-  if (seconds < 3600) return QString::number(seconds / 60) + tail;
-  return QString::number(seconds / 3600) + ":" + two(seconds / 60 % 60) + tail;
-}
 
 TransportBar::TransportBar(QWidget* parent)
     : QWidget(parent),
@@ -38,42 +34,48 @@ TransportBar::TransportBar(QWidget* parent)
       file_(new ElidedLabel(Qt::ElideMiddle, this)),
       device_(keepingFocusInView(new QPushButton(this))),
       deviceMenu_(new QMenu(this)),
+      waveform_(new WaveformView(this)),
       play_(keepingFocusInView(new PlayButton(this))),
-      elapsed_(timeLabel(this)),
-      slider_(keepingFocusInView(new PositionSlider(this))),
-      total_(timeLabel(this)) {
+      time_(keepingFocusInView(new TimeDisplay(this))),
+      total_(new QLabel(this)),
+      analysis_(new AnalysisIndicator(this)),
+      loop_(keepingFocusInView(new QPushButton(this))) {
   device_->setMenu(deviceMenu_);
   device_->setFixedWidth(deviceWidth);
   device_->setToolTip(tr("The device that plays"));
-  total_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   file_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   file_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-
-  auto* const upper = new QHBoxLayout;
-  upper->setSpacing(grid);
-  upper->addWidget(open_);
-  upper->addWidget(file_, 1);
-  upper->addWidget(device_);
-  auto* const lower = new QHBoxLayout;
-  lower->setSpacing(grid);
-  lower->addWidget(play_);
-  lower->addWidget(elapsed_);
-  lower->addWidget(slider_, 1);
-  lower->addWidget(total_);
-  auto* const rows = new QVBoxLayout(this);
-  rows->setContentsMargins(2 * grid, grid, 2 * grid, grid);
-  rows->setSpacing(grid);
-  rows->addLayout(upper);
-  rows->addLayout(lower);
+  loop_->setCheckable(true);
+  loop_->setFixedWidth(loopWidth);
+  layOut();
 
   connect(open_, &QPushButton::clicked, this, &TransportBar::openClicked);
   connect(play_, &PlayButton::clicked, this, &TransportBar::playClicked);
-  connect(slider_, &PositionSlider::chosen, this, &TransportBar::positionChosen);
-  connect(slider_, &PositionSlider::valueChanged, this, &TransportBar::showElapsed);
-  connect(slider_, &PositionSlider::sliderMoved, this, &TransportBar::showElapsed);
+  connect(loop_, &QPushButton::clicked, this, &TransportBar::loopToggled);
+  connect(waveform_, &WaveformView::loopToggled, this, &TransportBar::loopToggled);
+  setLoop(std::nullopt, false, 0);
   setTransportEnabled(false);
   setFileName({});
   setDeviceName(tr("No device"));
+}
+
+void TransportBar::layOut() {
+  auto* const upper = row();
+  upper->addWidget(open_);
+  upper->addWidget(file_, 1);
+  upper->addWidget(device_);
+  auto* const lower = row();
+  lower->addWidget(play_);
+  lower->addWidget(time_);
+  lower->addWidget(total_);
+  lower->addWidget(analysis_, 1);
+  lower->addWidget(loop_);
+  auto* const rows = new QVBoxLayout(this);
+  rows->setContentsMargins(0, grid, 0, grid);
+  rows->setSpacing(grid);
+  rows->addLayout(upper);
+  rows->addWidget(waveform_);
+  rows->addLayout(lower);
 }
 
 void TransportBar::setFileName(const QString& name) {
@@ -82,8 +84,9 @@ void TransportBar::setFileName(const QString& name) {
 }
 
 void TransportBar::setTransportEnabled(bool enabled) {
-  for (QWidget* const each : {static_cast<QWidget*>(play_), static_cast<QWidget*>(elapsed_),
-                              static_cast<QWidget*>(slider_), static_cast<QWidget*>(total_)}) {
+  isEnabled_ = enabled;
+  for (QWidget* const each : {static_cast<QWidget*>(play_), static_cast<QWidget*>(time_),
+                              static_cast<QWidget*>(waveform_)}) {
     each->setEnabled(enabled);
   }
 }
@@ -96,24 +99,29 @@ void TransportBar::setPlaying(bool playing) {
   play_->setPlaying(playing);
 }
 
-void TransportBar::setLength(int milliseconds) {
-  if (milliseconds == slider_->maximum()) return;
-  slider_->setMaximum(milliseconds);
-  total_->setText(timeText(milliseconds));
+void TransportBar::showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate) {
+  time_->showTime(position, length, sampleRate);
+  const auto total = tr("of %1", "the whole length").arg(timeText(length, sampleRate));
+  if (total_->text() != total) total_->setText(total);
 }
 
-void TransportBar::setPosition(int milliseconds) {
-  slider_->showPosition(milliseconds);
+void TransportBar::setLoop(const std::optional<LoopRange>& loop, bool isOn,
+                           std::uint32_t sampleRate) {
+  loop_->setEnabled(loop.has_value());
+  loop_->setChecked(loop && isOn);
+  const auto text = loop ? tr("Loop %1").arg(timeText(loop->length(), sampleRate)) : tr("Loop");
+  if (text == loop_->text() && !loop_->toolTip().isEmpty()) return;
+  loop_->setText(text);
+  loop_->setToolTip(
+      loop ? tr("Loop from %1 to %2; click to switch it on or off")
+                 .arg(timeText(loop->begin, sampleRate), timeText(loop->end, sampleRate))
+           : tr("Drag across the waveform to set a loop"));
 }
 
 void TransportBar::setDeviceName(const QString& name) {
   const int room = deviceWidth - 5 * grid;
   const auto text = device_->fontMetrics().elidedText(name, Qt::ElideRight, room);
   if (device_->text() != text) device_->setText(text);
-}
-
-void TransportBar::showElapsed() {
-  elapsed_->setText(timeText(slider_->sliderPosition()));
 }
 
 }  // namespace host::app

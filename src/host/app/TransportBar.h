@@ -5,13 +5,15 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include "host/app/AnalysisIndicator.h"
 #include "host/app/ElidedLabel.h"
 #include "host/app/PlayButton.h"
-#include "host/app/PositionSlider.h"
+#include "host/app/TimeDisplay.h"
+#include "host/app/WaveformView.h"
 
 namespace host::app {
 
-/// The row above the view: what plays, where it is, and to which device.
+/// The rows above the view: what plays and to which device, the waveform, and where it is.
 class TransportBar : public QWidget {
   Q_OBJECT
 
@@ -22,31 +24,34 @@ class TransportBar : public QWidget {
   void setTransportEnabled(bool enabled);
   void setOpenEnabled(bool enabled);
   void setPlaying(bool playing);
-  void setLength(int milliseconds);
-  void setPosition(int milliseconds);
+  void showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate);
+  /// The loop that there is, and whether it is in use.
+  void setLoop(const std::optional<LoopRange>& loop, bool isOn, std::uint32_t sampleRate);
   void setDeviceName(const QString& name);
   /// Filled by its `aboutToShow`.
   QMenu* deviceMenu() { return deviceMenu_; }
+  WaveformView& waveform() { return *waveform_; }
+  AnalysisIndicator& analysis() { return *analysis_; }
 
  Q_SIGNALS:
   void openClicked();
   void playClicked();
-  void positionChosen(int milliseconds);
+  void loopToggled();
 
  private:
-  void showElapsed();
+  void layOut();
 
   QPushButton* open_;
   ElidedLabel* file_;
   QPushButton* device_;
   QMenu* deviceMenu_;
+  WaveformView* waveform_;
   PlayButton* play_;
-  QLabel* elapsed_;
-  PositionSlider* slider_;
+  TimeDisplay* time_;
   QLabel* total_;
+  AnalysisIndicator* analysis_;
+  QPushButton* loop_;
+  bool isEnabled_ = false;
 };
-
-/// "3:07" or "1:02:45".
-QString timeText(int milliseconds);
 
 }  // namespace host::app

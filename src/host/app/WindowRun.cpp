@@ -1,10 +1,14 @@
 #include <QApplication>
+#include <QSettings>
 #include <QTimer>
+#include <algorithm>
 #include <exception>
 #include <utility>
 
+#include "host/Failure.h"
 #include "host/app/Report.h"
 #include "host/app/Run.h"
+#include "host/app/SavedSession.h"
 #include "host/app/Words.h"
 
 namespace host::app {
@@ -12,26 +16,51 @@ namespace {
 
 constexpr int refreshMilliseconds = 40;
 
-/// The devices to play to: the one that the user named, or all in order of preference.
-std::vector<Device> wantedDevices(const std::optional<std::string>& name) {
+/// The devices to play to: the one that the user named, or all in order of preference, that of the
+/// last session first.
+std::vector<Device> wantedDevices(const std::optional<std::string>& name,
+                                  const SavedSession* last) {
   if (name && *name == "none") return {};
   auto devices = outputDevices();
   if (name) return {requiredDevice(devices, *name)};
-  return inOrderOfPreference(std::move(devices));
+  devices = inOrderOfPreference(std::move(devices));
+  if (last == nullptr) return devices;
+  if (last->device.empty()) return {};
+  std::stable_partition(devices.begin(), devices.end(),
+                        [&](const Device& device) { return device.name == last->device; });
+  return devices;
+}
+
+/// Opens what the command line asks for, before the window is shown. False when the user has to be
+/// asked something first.
+bool openFirst(Audition& audition, const AuditionOptions& options, const SavedSession* last) {
+  try {
+    if (last != nullptr) audition.restore(*last);
+    if (!options.file) return true;
+    audition.open(openedForPlaying(*options.file, options.channels));
+    return true;
+  } catch (const TooManyChannels&) {
+    return false;
+  } catch (const Failure& failure) {
+    if (last == nullptr) throw;
+    warn(failure.what());
+    return true;
+  }
 }
 
 }  // namespace
 
 int runWithWindow(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
-  auto devices = wantedDevices(options.device);
-  std::optional<OpenedFile> file;
-  if (options.file) file = openedForPlaying(*options.file, options.channels);
-  Audition audition(options, std::move(files.record), std::move(devices));
+  QSettings settings(QSettings::IniFormat, QSettings::UserScope, "aac-audition", "aac-audition");
+  const auto last = options.restore ? savedSession(settings) : std::nullopt;
+  if (options.restore && !last) warn("there is no session to restore");
+  const auto* const restored = last ? &*last : nullptr;
+  Audition audition(options, std::move(files.record), wantedDevices(options.device, restored));
   auto& window = audition.window();
-  if (file) {
-    audition.open(std::move(*file));
-    if (options.seconds) limitLength(audition, *options.seconds);
-  }
+  audition.setAnalysing(true);
+  audition.setSettings(&settings);
+  const bool isOpened = openFirst(audition, options, restored);
+  if (options.seconds && audition.session() != nullptr) limitLength(audition, *options.seconds);
   std::exception_ptr error;
   QObject::connect(&window, &MainWindow::closing, [&] {
     try {
@@ -51,10 +80,13 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
   });
   refresh.start(refreshMilliseconds);
   window.show();
-  if (audition.session() != nullptr) audition.session()->player().play();
+  if (!isOpened) audition.openAndPlay(QString::fromStdString(options.file->string()));
+  // What is restored waits for the user.
+  if (options.file && audition.session() != nullptr) audition.session()->player().play();
   QApplication::exec();
 
   refresh.stop();
+  if (const auto session = audition.sessionToSave()) save(*session, settings);
   audition.finish();
   if (error) std::rethrow_exception(error);
   if (options.json && audition.session() != nullptr) say(asJson(readingsAfter(audition)) + "\n");

@@ -1,91 +1,97 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
+#include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "host/app/TransportBar.h"
 
-using host::app::PositionSlider;
 using host::app::TransportBar;
 
 namespace {
 
+constexpr std::uint32_t rate = 48000;
+
 class Transport : public testing::Test {
  protected:
   Transport() {
+    QLocale::setDefault(QLocale::c());
     bar_.setFixedWidth(560);
     bar_.setTransportEnabled(true);
-    bar_.setLength(100000);
     bar_.show();
-  }
-  PositionSlider& slider() { return *bar_.findChild<PositionSlider*>(); }
-  QPoint at(double part) {
-    return {static_cast<int>(part * slider().width()), slider().height() / 2};
   }
   bool shows(const QString& text) {
     for (const auto* const label : bar_.findChildren<QLabel*>()) {
-      if (label->text() == text) return true;
+      if (label->text().contains(text)) return true;
+    }
+    for (const auto* const button : bar_.findChildren<QAbstractButton*>()) {
+      if (button->text().contains(text)) return true;
     }
     return false;
+  }
+  QAbstractButton* loopButton() {
+    for (auto* const button : bar_.findChildren<QAbstractButton*>()) {
+      if (button->text().startsWith("Loop")) return button;
+    }
+    return nullptr;
   }
 
   TransportBar bar_;
 };
 
-TEST(TimeText, HasHoursOnlyWhereTheyAreNeeded) {
-  EXPECT_EQ(host::app::timeText(0), "0:00");
-  EXPECT_EQ(host::app::timeText(999), "0:00");
-  EXPECT_EQ(host::app::timeText(61000), "1:01");
-  EXPECT_EQ(host::app::timeText(3599999), "59:59");
-  EXPECT_EQ(host::app::timeText(3600000 + 2 * 60000 + 45000), "1:02:45");
-}
-
 TEST_F(Transport, ShowsWhereItIsAndHowLongItTakes) {
-  bar_.setPosition(65000);
-  EXPECT_TRUE(shows("1:05"));
-  EXPECT_TRUE(shows("1:40"));
+  bar_.showTime(65 * rate + 12345, 100 * rate, rate);
+  EXPECT_TRUE(shows("1:05.257"));
+  EXPECT_TRUE(shows("1:40.000"));
 }
 
-TEST_F(Transport, GoesWhereItIsClicked) {
-  QSignalSpy chosen(&bar_, &TransportBar::positionChosen);
-  QTest::mouseClick(&slider(), Qt::LeftButton, {}, at(0.5));
-  ASSERT_EQ(chosen.count(), 1);
-  EXPECT_NEAR(chosen[0][0].toInt(), 50000, 1000);
-  QTest::mouseClick(&slider(), Qt::LeftButton, {}, at(0));
-  EXPECT_EQ(chosen[1][0].toInt(), 0);
-  QTest::mouseClick(&slider(), Qt::LeftButton, {}, QPoint(slider().width() - 1, 5));
-  EXPECT_EQ(chosen[2][0].toInt(), 100000);
+TEST_F(Transport, ShowsTheTimeThatIsLeftAfterAClickAndBack) {
+  bar_.showTime(65 * rate, 100 * rate, rate);
+  auto* const time = bar_.findChild<host::app::TimeDisplay*>();
+  EXPECT_EQ(time->accessibleName(), "Elapsed time");
+  QTest::mouseClick(time, Qt::LeftButton);
+  EXPECT_EQ(time->text(), QString::fromUtf8("\u22120:35.000"));
+  EXPECT_EQ(time->accessibleName(), "Remaining time");
+  QTest::mouseClick(time, Qt::LeftButton);
+  EXPECT_EQ(time->text(), "1:05.000");
 }
 
-TEST_F(Transport, GoesOnceWhenTheDragEndsAndDoesNotFollowThePlayerMeanwhile) {
-  QSignalSpy chosen(&bar_, &TransportBar::positionChosen);
-  QTest::mousePress(&slider(), Qt::LeftButton, {}, at(0.2));
-  QTest::mouseMove(&slider(), at(0.6));
-  bar_.setPosition(1000);
-  EXPECT_NEAR(slider().sliderPosition(), 60000, 1500);
-  EXPECT_EQ(chosen.count(), 0);
-  QTest::mouseRelease(&slider(), Qt::LeftButton, {}, at(0.75));
-  ASSERT_EQ(chosen.count(), 1);
-  bar_.setPosition(1000);
-  EXPECT_EQ(slider().value(), 1000);
+TEST_F(Transport, OffersTheLoopThatThereIs) {
+  QSignalSpy toggled(&bar_, &TransportBar::loopToggled);
+  bar_.setLoop(std::nullopt, false, rate);
+  EXPECT_FALSE(loopButton()->isEnabled());
+  bar_.setLoop(host::LoopRange{10 * rate, 12 * rate + 24}, true, rate);
+  EXPECT_EQ(loopButton()->text(), "Loop 0:02.000");
+  EXPECT_TRUE(loopButton()->toolTip().contains("0:10.000"));
+  EXPECT_TRUE(loopButton()->isChecked());
+  QTest::mouseClick(loopButton(), Qt::LeftButton);
+  EXPECT_EQ(toggled.count(), 1);
+  bar_.setLoop(host::LoopRange{10 * rate, 12 * rate + 24}, false, rate);
+  EXPECT_FALSE(loopButton()->isChecked());
 }
 
-TEST_F(Transport, GoesBySecondsOnKeys) {
-  QSignalSpy chosen(&bar_, &TransportBar::positionChosen);
-  bar_.setPosition(50000);
-  QTest::keyClick(&slider(), Qt::Key_Right);
-  QTest::keyClick(&slider(), Qt::Key_PageUp);
-  ASSERT_EQ(chosen.count(), 2);
-  EXPECT_EQ(chosen[0][0].toInt(), 51000);
-  EXPECT_EQ(chosen[1][0].toInt(), 56000);
-}
-
-TEST_F(Transport, NeverAsksForAPlaceByItself) {
-  QSignalSpy chosen(&bar_, &TransportBar::positionChosen);
-  bar_.setPosition(70000);
-  bar_.setLength(50000);
-  bar_.setLength(200000);
-  EXPECT_EQ(chosen.count(), 0);
+TEST_F(Transport, TellsHowFarTheAnalysisHasCome) {
+  using host::Analysis;
+  auto& indicator = bar_.analysis();
+  QSignalSpy cancelled(&indicator, &host::app::AnalysisIndicator::cancelled);
+  QSignalSpy restarted(&indicator, &host::app::AnalysisIndicator::restarted);
+  auto* const button = indicator.findChild<QAbstractButton*>();
+  indicator.showState({Analysis::Step::Waveform, 0.999, {}, 0});
+  EXPECT_TRUE(shows("Reading: 99 %"));
+  indicator.showState({Analysis::Step::Encoded, 0.25, {}, 0});
+  EXPECT_TRUE(shows("Analysing: 25 %"));
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(cancelled.count(), 1);
+  indicator.showState({Analysis::Step::Cancelled, 0, {}, 0});
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(restarted.count(), 1);
+  indicator.showState({Analysis::Step::Done, 1, {}, 57});
+  EXPECT_TRUE(shows("Encoded overs: 57"));
+  EXPECT_FALSE(button->isVisible());
+  indicator.showState({Analysis::Step::Failed, 0, "the file is gone", 0});
+  EXPECT_TRUE(button->isVisible());
+  EXPECT_TRUE(shows("failed"));
 }
 
 TEST_F(Transport, SaysWhatItsButtonDoes) {

@@ -1,0 +1,35 @@
+#include "host/app/TimeDisplay.h"
+
+#include "host/app/TimeText.h"
+
+namespace host::app {
+
+TimeDisplay::TimeDisplay(QWidget* parent) : QToolButton(parent) {
+  constexpr std::int64_t widest = -(std::int64_t{10} * 3600);
+  setAutoRaise(true);
+  setMinimumWidth(fontMetrics().horizontalAdvance(timeText(widest, 1)) + 8);
+  connect(this, &QToolButton::clicked, this, [this] {
+    showsRemaining_ = !showsRemaining_;
+    showText();
+  });
+  showText();
+}
+
+void TimeDisplay::showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate) {
+  position_ = position;
+  length_ = length;
+  sampleRate_ = sampleRate;
+  showText();
+}
+
+void TimeDisplay::showText() {
+  const auto text = timeText(showsRemaining_ ? position_ - length_ : position_, sampleRate_);
+  if (text != this->text()) setText(text);
+  const auto name = showsRemaining_ ? tr("Remaining time") : tr("Elapsed time");
+  if (name == accessibleName()) return;
+  setAccessibleName(name);
+  setToolTip(showsRemaining_ ? tr("Remaining time; click for the elapsed one")
+                             : tr("Elapsed time; click for the remaining one"));
+}
+
+}  // namespace host::app
