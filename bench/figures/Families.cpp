@@ -5,7 +5,8 @@ namespace figures {
 std::vector<Family> families() {
   std::vector<Family> all = {codecCost(),  truePeakSpeed(),    truePeakError(), meteringLoad(),
                              callTime(),   audioThreadCalls(), difference(),    steps(),
-                             unitMemory(), manyUnits(),        oddSignals(),    meterPoll()};
+                             unitMemory(), manyUnits(),        oddSignals(),    meterPoll(),
+                             measureCost()};
 #ifdef VELK_WITH_VIEWS
   all.push_back(viewOpening());
   all.push_back(manyViews());

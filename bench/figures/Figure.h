@@ -36,6 +36,7 @@ Family steps();
 Family unitMemory();
 Family manyUnits();
 Family oddSignals();
+Family measureCost();
 Family meterPoll();
 Family viewOpening();
 Family manyViews();
