@@ -30,6 +30,10 @@ struct AccessUnit {
 
 /// Is shown the very bits that the encoded signal is decoded from. Called on the unit's worker
 /// thread, in order; what takes long makes the encoded signal late. Nothing may be thrown.
+///
+/// Off line, all units of the encoded signal that `render` has put out have been shown, and perhaps
+/// some more. Once the sink has been taken away nothing is shown any more, so that other threads
+/// may look at what it has kept.
 class BitStreamSink {
  public:
   BitStreamSink() = default;
