@@ -81,8 +81,11 @@ std::unique_ptr<ui::NativeView> ViewBundle::viewForUnit(AudioUnit unit) {
 }
 
 std::filesystem::path viewBundlePath() {
-  const auto program = std::filesystem::read_symlink("/proc/self/exe");
-  return program.parent_path().parent_path() / "bundle" / "Velk_NordaAACConverter.bundle";
+  const std::filesystem::path name = "Velk_NordaAACConverter.bundle";
+  const auto top = std::filesystem::read_symlink("/proc/self/exe").parent_path().parent_path();
+  const auto installed = top / "lib" / "aac-audition" / name;
+  std::error_code error;
+  return std::filesystem::exists(installed, error) ? installed : top / "bundle" / name;
 }
 
 }  // namespace host

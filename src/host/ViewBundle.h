@@ -24,7 +24,8 @@ class ViewBundle {
   std::unique_ptr<AUCocoaUIBase> factory_;
 };
 
-/// Where the bundle lies: beside the folder of the running program.
+/// Where the bundle lies: beside the folder of the running program, or where it is installed with
+/// it.
 std::filesystem::path viewBundlePath();
 
 }  // namespace host

@@ -48,12 +48,13 @@ std::vector<std::string> Program::environment() const {
   for (char** each = ::environ; *each != nullptr; ++each) {
     const std::string_view variable = *each;
     bool isOurs = false;
-    for (const auto* const name :
-         {"QT_QPA_PLATFORM=", "DISPLAY=", "WAYLAND_DISPLAY=", "XDG_RUNTIME_DIR="}) {
+    for (const auto* const name : {"QT_QPA_PLATFORM=", "DISPLAY=", "WAYLAND_DISPLAY=",
+                                   "XDG_RUNTIME_DIR=", "XDG_CONFIG_HOME="}) {
       if (variable.starts_with(name)) isOurs = true;
     }
     if (!isOurs) variables.emplace_back(variable);
   }
+  variables.push_back("XDG_CONFIG_HOME=" + folder_.string() + ".config");
   if (hasDisplay_) variables.emplace_back("QT_QPA_PLATFORM=offscreen");
   return variables;
 }

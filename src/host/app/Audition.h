@@ -20,6 +20,8 @@ namespace host::app {
 
 /// The window and what plays in it.
 class Audition : public QObject {
+  Q_OBJECT
+
  public:
   /// `record` may be null. Without a list of devices nothing renders by itself; with one, the first
   /// that works plays, or nobody. Throws `Failure` when the view's bundle cannot be loaded.

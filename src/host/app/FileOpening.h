@@ -14,6 +14,8 @@ namespace host::app {
 /// Opens what the user asks for: by dialog, from the files opened last, or dropped on the window.
 /// Says what is wrong with a file, and asks which channels to take of one with many.
 class FileOpening : public QObject {
+  Q_OBJECT
+
  public:
   /// `take` shows the file in the window; it may throw `Failure`. `channels` are those to take of
   /// files with more than two, if that was said.

@@ -11,9 +11,9 @@
 namespace host::app {
 namespace {
 
-QString tr(const char* text) {
-  return QCoreApplication::translate("StatusText", text);
-}
+class Status {
+  Q_DECLARE_TR_FUNCTIONS(StatusText)
+};
 
 template <class Data>
 bool read(AudioUnit unit, AudioUnitPropertyID id, Data& data) {
@@ -24,8 +24,8 @@ bool read(AudioUnit unit, AudioUnitPropertyID id, Data& data) {
 QString settingText(const converter::EffectiveSetting& setting) {
   const auto name =
       QString::fromStdString(formatName(setting.format) + " " + strategyName(setting.strategy));
-  if (setting.vbrMode != 0) return tr("%1 mode %2").arg(name).arg(setting.vbrMode);
-  return tr("%1 %2 kbit/s").arg(name, QLocale().toString(setting.bitRate / 1000.0, 'g', 4));
+  if (setting.vbrMode != 0) return Status::tr("%1 mode %2").arg(name).arg(setting.vbrMode);
+  return Status::tr("%1 %2 kbit/s").arg(name, QLocale().toString(setting.bitRate / 1000.0, 'g', 4));
 }
 
 }  // namespace
@@ -42,7 +42,7 @@ std::uint64_t lateFrames(converter::ConverterUnit& unit) {
 }
 
 QString encoderText(converter::ConverterUnit& unit, double sampleRate) {
-  if (listeningTestRuns(&unit)) return tr("Listening test");
+  if (listeningTestRuns(&unit)) return Status::tr("Listening test");
   QStringList parts;
   converter::EffectiveSetting setting{};
   if (read(&unit, converter::kConverterProperty_EffectiveSetting, setting)) {
@@ -50,9 +50,9 @@ QString encoderText(converter::ConverterUnit& unit, double sampleRate) {
   }
   converter::BitRate rate{};
   if (read(&unit, converter::kConverterProperty_BitRate, rate) && rate.recentKbps > 0) {
-    parts << tr("really %1 kbit/s").arg(QLocale().toString(rate.recentKbps, 'f', 1));
+    parts << Status::tr("really %1 kbit/s").arg(QLocale().toString(rate.recentKbps, 'f', 1));
   }
-  parts << tr("latency %1 ms").arg(qRound(unit.latency() * 1000 / sampleRate));
+  parts << Status::tr("latency %1 ms").arg(qRound(unit.latency() * 1000 / sampleRate));
   return parts.join(QStringLiteral("  ·  "));
 }
 

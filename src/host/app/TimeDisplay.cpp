@@ -3,11 +3,14 @@
 #include "host/app/TimeText.h"
 
 namespace host::app {
+namespace {
+
+constexpr int padding = 16;
+
+}  // namespace
 
 TimeDisplay::TimeDisplay(QWidget* parent) : QToolButton(parent) {
-  constexpr std::int64_t widest = -(std::int64_t{10} * 3600);
   setAutoRaise(true);
-  setMinimumWidth(fontMetrics().horizontalAdvance(timeText(widest, 1)) + 8);
   connect(this, &QToolButton::clicked, this, [this] {
     showsRemaining_ = !showsRemaining_;
     showText();
@@ -17,6 +20,11 @@ TimeDisplay::TimeDisplay(QWidget* parent) : QToolButton(parent) {
 
 void TimeDisplay::showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate) {
   position_ = position;
+  if (length != length_ || sampleRate != sampleRate_) {
+    // As wide as the longest time, so that nothing moves while it runs.
+    const auto longest = QString(timeText(-length, sampleRate));
+    setFixedWidth(fontMetrics().horizontalAdvance(longest) + padding);
+  }
   length_ = length;
   sampleRate_ = sampleRate;
   showText();

@@ -10,17 +10,20 @@ namespace {
 constexpr int step = 5000;
 constexpr double zoomStep = 0.5;
 
+QKeySequence withCtrl(Qt::Key key) {
+  return QKeySequence(Qt::CTRL | key);
+}
+
 }  // namespace
 
 // All shortcuts have Ctrl: bare keys are the view's.
 void MainWindow::makeMenus() {
   auto* const file = menuBar()->addMenu(tr("&File"));
-  open_ =
-      file->addAction(tr("&Open…"), QKeySequence(tr("Ctrl+O")), this, &MainWindow::openRequested);
+  open_ = file->addAction(tr("&Open…"), withCtrl(Qt::Key_O), this, &MainWindow::openRequested);
   recent_ = file->addMenu(tr("Open &Recent"));
   recent_->setToolTipsVisible(true);
   file->addSeparator();
-  file->addAction(tr("&Quit"), QKeySequence(tr("Ctrl+Q")), this, &QWidget::close);
+  file->addAction(tr("&Quit"), withCtrl(Qt::Key_Q), this, &QWidget::close);
   auto* const playback = menuBar()->addMenu(tr("&Playback"));
   addTransport(*playback);
   playback->addSeparator();
@@ -31,27 +34,27 @@ void MainWindow::makeMenus() {
 
 void MainWindow::addTransport(QMenu& menu) {
   auto* const play = menu.addAction(tr("&Play or Pause"), this, &MainWindow::playRequested);
-  play->setShortcuts({QKeySequence(tr("Ctrl+P")), QKeySequence(Qt::Key_MediaPlay),
+  play->setShortcuts({withCtrl(Qt::Key_P), QKeySequence(Qt::Key_MediaPlay),
                       QKeySequence(Qt::Key_MediaTogglePlayPause)});
   transportActions_ << play
-                    << menu.addAction(tr("To the &Beginning"), QKeySequence(tr("Ctrl+Home")), this,
+                    << menu.addAction(tr("To the &Beginning"), withCtrl(Qt::Key_Home), this,
                                       &MainWindow::rewindRequested)
-                    << menu.addAction(tr("Five Seconds Ba&ck"), QKeySequence(tr("Ctrl+Left")), this,
+                    << menu.addAction(tr("Five Seconds Ba&ck"), withCtrl(Qt::Key_Left), this,
                                       [this] { Q_EMIT moveRequested(-step); })
-                    << menu.addAction(tr("Five Seconds &Forward"), QKeySequence(tr("Ctrl+Right")),
-                                      this, [this] { Q_EMIT moveRequested(step); });
+                    << menu.addAction(tr("Five Seconds &Forward"), withCtrl(Qt::Key_Right), this,
+                                      [this] { Q_EMIT moveRequested(step); });
 }
 
 void MainWindow::addLoop(QMenu& menu) {
-  loop_ = menu.addAction(tr("&Loop"), QKeySequence(tr("Ctrl+L")), this, &MainWindow::loopToggled);
+  loop_ = menu.addAction(tr("&Loop"), withCtrl(Qt::Key_L), this, &MainWindow::loopToggled);
   loop_->setCheckable(true);
   loop_->setEnabled(false);
-  removeLoop_ = menu.addAction(tr("Re&move Loop"), QKeySequence(tr("Ctrl+D")), this,
-                               &MainWindow::loopRemoved);
+  removeLoop_ =
+      menu.addAction(tr("Re&move Loop"), withCtrl(Qt::Key_D), this, &MainWindow::loopRemoved);
   removeLoop_->setEnabled(false);
-  transportActions_ << menu.addAction(tr("&Start Loop Here"), QKeySequence(tr("Ctrl+I")), this,
+  transportActions_ << menu.addAction(tr("&Start Loop Here"), withCtrl(Qt::Key_I), this,
                                       &MainWindow::loopBeginRequested)
-                    << menu.addAction(tr("&End Loop Here"), QKeySequence(tr("Ctrl+E")), this,
+                    << menu.addAction(tr("&End Loop Here"), withCtrl(Qt::Key_E), this,
                                       &MainWindow::loopEndRequested);
 }
 
@@ -59,10 +62,10 @@ void MainWindow::addZoom(QMenu& menu) {
   auto* const in =
       menu.addAction(tr("Zoom &In"), this, [this] { transport_->waveform().zoom(zoomStep); });
   // Where + is on the upper row only, = does as well.
-  in->setShortcuts({QKeySequence(tr("Ctrl++")), QKeySequence(tr("Ctrl+="))});
-  transportActions_ << in
-                    << menu.addAction(tr("Zoom &Out"), QKeySequence(tr("Ctrl+-")), this,
-                                      [this] { transport_->waveform().zoom(1 / zoomStep); });
+  in->setShortcuts({withCtrl(Qt::Key_Plus), withCtrl(Qt::Key_Equal)});
+  transportActions_ << in << menu.addAction(tr("Zoom &Out"), withCtrl(Qt::Key_Minus), this, [this] {
+    transport_->waveform().zoom(1 / zoomStep);
+  });
 }
 
 }  // namespace host::app

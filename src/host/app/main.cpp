@@ -5,6 +5,7 @@
 #include "host/CommandLine.h"
 #include "host/Failure.h"
 #include "host/app/Application.h"
+#include "host/app/Languages.h"
 #include "host/app/Run.h"
 #include "host/app/ToolkitMessages.h"
 #include "host/app/Words.h"
@@ -29,13 +30,15 @@ void choosePlatform(bool headless) {
 
 int run(const host::AuditionOptions& options, const char* program) {
   choosePlatform(options.headless);
-  auto files = host::app::claimedOutputFiles(options);
+  // First, so that whatever is claimed is given up again.
   host::app::TerminationSignals signals;
+  auto files = host::app::claimedOutputFiles(options);
   // The toolkit's own options are not this program's: it only gets its name.
   int count = 1;
   char* arguments[] = {const_cast<char*>(program), nullptr};
   host::app::tameToolkitMessages();
-  const host::app::Application application(count, arguments);
+  host::app::Application application(count, arguments);
+  host::app::speakLanguageOf(QLocale(), application);
   QApplication::setApplicationName("aac-audition");
   // Numbers for machines keep their point whatever the user's language.
   std::setlocale(LC_NUMERIC, "C");

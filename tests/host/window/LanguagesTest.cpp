@@ -1,0 +1,149 @@
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QXmlStreamReader>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "host/app/ChannelDialog.h"
+#include "host/app/Languages.h"
+#include "host/app/MainWindow.h"
+
+namespace {
+
+/// Context and source of a text.
+using Text = std::pair<std::string, std::string>;
+
+struct Translation {
+  std::string words;
+  bool isFinished = true;
+};
+
+std::map<Text, Translation> translations(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+  QXmlStreamReader xml(&file);
+  std::map<Text, Translation> all;
+  std::string context;
+  std::string source;
+  while (!xml.atEnd()) {
+    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+    if (xml.name() == QLatin1String("name")) context = xml.readElementText().toStdString();
+    if (xml.name() == QLatin1String("source")) source = xml.readElementText().toStdString();
+    if (xml.name() == QLatin1String("translation")) {
+      const bool isFinished = !xml.attributes().hasAttribute("type");
+      all[{context, source}] = {xml.readElementText().toStdString(), isFinished};
+    }
+  }
+  EXPECT_FALSE(xml.hasError());
+  return all;
+}
+
+std::set<Text> texts(const std::map<Text, Translation>& translations) {
+  std::set<Text> texts;
+  for (const auto& [text, translation] : translations) texts.insert(text);
+  return texts;
+}
+
+std::multiset<std::string> placeholders(const std::string& text) {
+  std::multiset<std::string> found;
+  static const QRegularExpression placeholder(QStringLiteral("%\\d|\\*\\.\\w+"));
+  for (const auto& match : placeholder.globalMatch(QString::fromStdString(text))) {
+    found.insert(match.captured().toStdString());
+  }
+  return found;
+}
+
+class Language : public testing::TestWithParam<const char*> {
+ protected:
+  QString path() const {
+    return QStringLiteral(VELK_SOURCES "/resources/i18n/aac-audition_%1.ts").arg(GetParam());
+  }
+};
+
+TEST_P(Language, HasEveryTextOfTheSourcesAndNoOther) {
+  const QTemporaryDir folder;
+  const auto found = folder.filePath("found.ts");
+  QProcess lupdate;
+  lupdate.start(VELK_LUPDATE, {"-I", VELK_SOURCES "/src", "-locations", "none",
+                               VELK_SOURCES "/src/host/app", "-ts", found});
+  ASSERT_TRUE(lupdate.waitForFinished(60000));
+  ASSERT_EQ(lupdate.exitCode(), 0);
+  const auto wanted = texts(translations(found));
+  EXPECT_GT(wanted.size(), 60U);
+  EXPECT_THAT(texts(translations(path())), testing::ContainerEq(wanted));
+}
+
+TEST_P(Language, TranslatesEveryTextWithItsPlaceholders) {
+  for (const auto& [text, translation] : translations(path())) {
+    EXPECT_TRUE(translation.isFinished) << text.second;
+    EXPECT_FALSE(translation.words.empty()) << text.second;
+    EXPECT_EQ(placeholders(translation.words), placeholders(text.second)) << text.second;
+  }
+}
+
+TEST_P(Language, GivesEveryMenuItsOwnLetters) {
+  for (const auto& [text, translation] : translations(path())) {
+    const auto has = [](const std::string& words) { return words.find('&') != std::string::npos; };
+    EXPECT_EQ(has(translation.words), has(text.second)) << text.second;
+  }
+}
+
+/// Speaks a language while it lives.
+class Speaking {
+ public:
+  explicit Speaking(const QLocale& locale) {
+    host::app::speakLanguageOf(locale, *QCoreApplication::instance());
+  }
+  Speaking(const Speaking&) = delete;
+  Speaking& operator=(const Speaking&) = delete;
+  ~Speaking() {
+    for (auto* const translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
+      QCoreApplication::removeTranslator(translator);
+      delete translator;
+    }
+  }
+};
+
+TEST_P(Language, IsThatOfTheWindow) {
+  const Speaking speaking{QLocale(QString(GetParam()))};
+  const bool german = std::string(GetParam()) == "de";
+  EXPECT_EQ(host::app::MainWindow::tr("&File"), german ? "&Datei" : "&Fichier");
+  host::app::MainWindow window;
+  window.transport().setLoop(host::LoopRange{0, std::int64_t{3600} * 48000}, true, 48000);
+  window.transport().analysis().showState({host::Analysis::Step::Done, 1, {}, 123456});
+  EXPECT_LE(window.transport().minimumSizeHint().width(), 560);
+  window.show();
+  EXPECT_EQ(window.width(), 560);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, Language, testing::Values("de", "fr"),
+                         [](const auto& parameter) { return std::string(parameter.param); });
+
+TEST(English, IsSpokenToWhoeverReadsItOrALanguageThatIsMissing) {
+  for (const char* const name : {"en_US", "en_GB", "fi_FI"}) {
+    const Speaking speaking{QLocale(QString(name))};
+    EXPECT_EQ(host::app::MainWindow::tr("&File"), "&File") << name;
+  }
+}
+
+TEST(ChannelDialog, TakesTheFirstTwoChannelsUnlessOthersAreChosen) {
+  host::app::ChannelDialog dialog("surround.wav", 6);
+  EXPECT_EQ(dialog.choice(), (host::ChannelChoice{1, 2}));
+  const auto boxes = dialog.findChildren<QComboBox*>();
+  ASSERT_EQ(boxes.size(), 2);
+  boxes[0]->setCurrentIndex(4);
+  boxes[1]->setCurrentIndex(5);
+  EXPECT_EQ(dialog.choice(), (host::ChannelChoice{5, 6}));
+  boxes[1]->setCurrentIndex(6);
+  EXPECT_EQ(dialog.choice(), (host::ChannelChoice{5}));
+}
+
+}  // namespace
