@@ -36,6 +36,7 @@ std::vector<Job> jobsFor(const std::vector<std::filesystem::path>& files, const 
 
 std::vector<std::string> texts(const std::vector<std::filesystem::path>& files) {
   std::vector<std::string> result;
+  result.reserve(files.size());
   for (const auto& file : files) result.push_back(file.string());
   return result;
 }
