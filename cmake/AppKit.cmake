@@ -1,0 +1,45 @@
+# AppKit: the system's own on macOS, GNUstep's elsewhere. Reference counts are kept by hand.
+if(NOT APPLE)
+  # GNUstep is built for GNU's runtime, which no other compiler's code can be trusted with.
+  find_program(CMAKE_OBJC_COMPILER NAMES gcc-12 gcc REQUIRED)
+  find_program(CMAKE_OBJCXX_COMPILER NAMES g++-12 g++ REQUIRED)
+endif()
+enable_language(OBJC OBJCXX)
+set(CMAKE_OBJCXX_STANDARD 20)
+set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+set(CMAKE_OBJCXX_EXTENSIONS OFF)
+set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
+
+add_library(velk_cocoa INTERFACE)
+if(APPLE)
+  target_compile_options(velk_cocoa INTERFACE
+    $<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:-fno-objc-arc>)
+  target_link_libraries(velk_cocoa INTERFACE "-framework AppKit")
+else()
+  find_program(VELK_GNUSTEP_CONFIG gnustep-config)
+  if(NOT VELK_GNUSTEP_CONFIG)
+    message(FATAL_ERROR "VELK_WITH_APPKIT needs GNUstep: scripts/install-packages test")
+  endif()
+  execute_process(COMMAND ${VELK_GNUSTEP_CONFIG} --objc-flags
+    OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND ${VELK_GNUSTEP_CONFIG} --gui-libs
+    OUTPUT_VARIABLE libraries OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  execute_process(COMMAND ${VELK_GNUSTEP_CONFIG} --variable=GNUSTEP_SYSTEM_HEADERS
+    OUTPUT_VARIABLE headers OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+  separate_arguments(flags)
+  separate_arguments(libraries)
+  # What is the build's own business: optimisation, warnings, dependencies, places of headers.
+  list(FILTER flags EXCLUDE REGEX "^-(MMD|MP|g|O[0-9s]?|Wall|I.*|fPIC)$")
+  list(FILTER libraries EXCLUDE REGEX "^-L")
+  # CMake does not tell GNU's compilers the standard. Without the flag of constructors and destructors
+  # instance variables would have neither. A lambda's captures look to it like a message at first, in
+  # which a comma would be wrong.
+  target_compile_options(velk_cocoa INTERFACE
+    "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags}>"
+    "$<$<COMPILE_LANG_AND_ID:OBJC,GNU>:-std=c11>"
+    "$<$<COMPILE_LANG_AND_ID:OBJCXX,GNU>:-std=c++20;-fobjc-call-cxx-cdtors;-Wno-unused-value>"
+    # A method has the parameters that its selector asks for.
+    "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:-Wno-unused-parameter>")
+  target_include_directories(velk_cocoa SYSTEM INTERFACE ${headers})
+  target_link_libraries(velk_cocoa INTERFACE ${libraries})
+endif()

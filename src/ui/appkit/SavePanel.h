@@ -1,0 +1,15 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <filesystem>
+#include <optional>
+
+#include "ui/Sheets.h"
+
+namespace ui::appkit {
+
+/// Runs the system's save panel modally: the chosen place, or nothing when the user cancelled.
+std::optional<std::filesystem::path> runSavePanel(const SavePanelTexts& texts);
+
+}  // namespace ui::appkit

@@ -1,0 +1,19 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "ui/Sheets.h"
+
+namespace ui::appkit {
+
+/// A window of the interface file that is shown as a sheet.
+class SheetAdapter final : public Sheet {
+ public:
+  explicit SheetAdapter(NSWindow* window) : window_(window) {}
+  NSWindow* window() const { return window_; }
+
+ private:
+  NSWindow* window_;
+};
+
+}  // namespace ui::appkit

@@ -1,0 +1,54 @@
+#include "ui/appkit/bundle/Velk_AUAACConverterFactory.h"
+
+#include "factory/Velk_AUAACConverterFactory.h"
+#include "ui/appkit/Adapter.h"
+#include "ui/appkit/AppKitInterfaceLoader.h"
+#include "ui/appkit/AppKitView.h"
+#include "ui/appkit/FoundationServices.h"
+#include "ui/appkit/Strings.h"
+#include "ui/appkit/bundle/InterfaceClasses.h"
+
+using ui::appkit::AppKitInterfaceLoader;
+using ui::appkit::AppKitView;
+
+@implementation Velk_AUAACConverterFactory
+
+@synthesize uiFreshlyLoadedView;
+
+- (instancetype)init {
+  self = [super init];
+  if (self != nil) {
+    ui::appkit::useFoundationServices();
+    _factory = new velk::Velk_AUAACConverterFactory(
+        std::make_unique<AppKitInterfaceLoader>(AppKitInterfaceLoader::Files{
+            [NSBundle bundleForClass:[self class]],
+            self,
+            @"uiFreshlyLoadedView",
+            {{"view", [Velk_AUAACConverterCustomView class]},
+             {"auditionController", [Velk_AACEncodingViewAuditionController class]},
+             {"listeningTestController", [Velk_AACEncodingViewListeningTestController class]},
+             {"settingsController", [Velk_AACEncodingViewSettingsController class]},
+             {"keyController", [Velk_AACEncodingViewKeyController class]}}}));
+  }
+  return self;
+}
+
+- (void)dealloc {
+  delete _factory;
+  [super dealloc];
+}
+
+- (unsigned)interfaceVersion {
+  return _factory->interfaceVersion();
+}
+
+- (NSString*)description {
+  return ui::appkit::nsString(_factory->description());
+}
+
+- (NSView*)uiViewForAudioUnit:(AudioUnit)unit withSize:(NSSize)size {
+  auto view = _factory->uiViewForAudioUnit(unit, ui::appkit::sizeOf(size));
+  return view ? AppKitView::handOver(std::move(view)) : nil;
+}
+
+@end

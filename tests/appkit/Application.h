@@ -1,0 +1,17 @@
+#pragma once
+
+namespace appkit_test {
+
+/// The application object, set up so that it starts the same way everywhere. Main thread, once.
+class Application {
+ public:
+  Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+  ~Application();
+
+ private:
+  void* pool_;
+};
+
+}  // namespace appkit_test
