@@ -36,11 +36,11 @@
     </message>
     <message>
         <source>Encoded: no overs</source>
-        <translation>Codiert: keine Überschreitungen</translation>
+        <translation>Codiert: keine Overs</translation>
     </message>
     <message>
         <source>Encoded overs: %1</source>
-        <translation>Codiert: %1 Überschreitungen</translation>
+        <translation>Codiert: %1 Overs</translation>
     </message>
     <message>
         <source>Analysis stopped</source>
@@ -328,11 +328,11 @@
     </message>
     <message>
         <source>▼ Source overs: %1</source>
-        <translation>▼ Überschreitungen der Quelle: %1</translation>
+        <translation>▼ Overs der Quelle: %1</translation>
     </message>
     <message>
         <source>▲ Encoded overs: %1</source>
-        <translation>▲ Überschreitungen codiert: %1</translation>
+        <translation>▲ Overs codiert: %1</translation>
     </message>
     <message>
         <source>Waveform</source>

@@ -1,5 +1,6 @@
 #include "host/app/TransportBar.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -51,7 +52,11 @@ TransportBar::TransportBar(QWidget* parent)
 
   connect(open_, &QPushButton::clicked, this, &TransportBar::openClicked);
   connect(play_, &PlayButton::clicked, this, &TransportBar::playClicked);
-  connect(loop_, &QPushButton::clicked, this, &TransportBar::loopToggled);
+  connect(loop_, &QPushButton::clicked, this, [this] {
+    // Whether the loop is in use is told by whoever answers.
+    loop_->setChecked(loopShines_);
+    Q_EMIT loopToggled();
+  });
   connect(waveform_, &WaveformView::loopToggled, this, &TransportBar::loopToggled);
   setLoop(std::nullopt, false, 0);
   setTransportEnabled(false);
@@ -84,7 +89,6 @@ void TransportBar::setFileName(const QString& name) {
 }
 
 void TransportBar::setTransportEnabled(bool enabled) {
-  isEnabled_ = enabled;
   for (QWidget* const each : {static_cast<QWidget*>(play_), static_cast<QWidget*>(time_),
                               static_cast<QWidget*>(waveform_)}) {
     each->setEnabled(enabled);
@@ -108,7 +112,11 @@ void TransportBar::showTime(std::int64_t position, std::int64_t length, std::uin
 void TransportBar::setLoop(const std::optional<LoopRange>& loop, bool isOn,
                            std::uint32_t sampleRate) {
   loop_->setEnabled(loop.has_value());
-  loop_->setChecked(loop && isOn);
+  if (const bool shines = loop && isOn; shines != loopShines_) {
+    loopShines_ = shines;
+    loop_->setChecked(shines);
+    showLoopState();
+  }
   const auto text = loop ? tr("Loop %1").arg(timeText(loop->length(), sampleRate)) : tr("Loop");
   if (text == loop_->text() && !loop_->toolTip().isEmpty()) return;
   loop_->setText(text);
@@ -116,6 +124,21 @@ void TransportBar::setLoop(const std::optional<LoopRange>& loop, bool isOn,
       loop ? tr("Loop from %1 to %2; click to switch it on or off")
                  .arg(timeText(loop->begin, sampleRate), timeText(loop->end, sampleRate))
            : tr("Drag across the waveform to set a loop"));
+}
+
+void TransportBar::showLoopState() {
+  // In some styles a pressed button is hard to tell from another.
+  auto colors = palette();
+  if (loopShines_) {
+    colors.setColor(QPalette::Button, colors.color(QPalette::Highlight));
+    colors.setColor(QPalette::ButtonText, colors.color(QPalette::HighlightedText));
+  }
+  loop_->setPalette(colors);
+}
+
+void TransportBar::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) showLoopState();
+  QWidget::changeEvent(event);
 }
 
 void TransportBar::setDeviceName(const QString& name) {

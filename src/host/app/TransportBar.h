@@ -38,8 +38,12 @@ class TransportBar : public QWidget {
   void playClicked();
   void loopToggled();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void layOut();
+  void showLoopState();
 
   QPushButton* open_;
   ElidedLabel* file_;
@@ -51,7 +55,7 @@ class TransportBar : public QWidget {
   QLabel* total_;
   AnalysisIndicator* analysis_;
   QPushButton* loop_;
-  bool isEnabled_ = false;
+  bool loopShines_ = false;
 };
 
 }  // namespace host::app

@@ -197,6 +197,22 @@ TEST_F(Overview, LoopsWhatIsDraggedAcross) {
   EXPECT_FALSE(action("&Loop")->isEnabled());
 }
 
+TEST_F(Overview, TakesItsOwnKeysAndLeavesTheOthersToTheView) {
+  open("loud.wav");
+  audition_->window().activateWindow();
+  waveform().setFocus(Qt::TabFocusReason);
+  QTest::keyClick(audition_->window().focusWidget(), Qt::Key_PageDown);
+  EXPECT_EQ(player().position(), 20 * waveform().step());
+  QTest::keyClick(audition_->window().focusWidget(), Qt::Key_BracketLeft);
+  EXPECT_EQ(player().loop(), (LoopRange{20 * waveform().step(), 112000}));
+  QTest::keyClick(audition_->window().focusWidget(), Qt::Key_1);
+  UInt32 monitorsSource = 0;
+  UInt32 size = sizeof monitorsSource;
+  audition_->session()->unit().getProperty(velk::kConverterProperty_MonitorSource,
+                                           kAudioUnitScope_Global, 0, &monitorsSource, size);
+  EXPECT_EQ(monitorsSource, 1U);
+}
+
 TEST_F(Overview, SetsTheLoopWhereItIsByMenu) {
   open("loud.wav");
   player().seek(30000);
