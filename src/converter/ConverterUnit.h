@@ -73,6 +73,10 @@ class ConverterUnit : public audio_unit::Unit {
   /// `render` runs.
   virtual void reset() = 0;
 
+  /// Tells the meters at the end of all audio that silence follows, so that what the waveform does
+  /// around the last samples counts, too. Not while `render` runs. A unit without meters ignores it.
+  virtual void finish() {}
+
   /// Shows the access units to `sink` from now on, which has to outlive the unit or be taken away
   /// again with null; there is none at first. Does what `reset` does, so that the first unit shown
   /// is the first of the audio. Not while `render` runs. A unit that has no bit stream ignores it.

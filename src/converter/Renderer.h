@@ -23,6 +23,7 @@ class Renderer {
   /// As the operations of `ConverterUnit`.
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
   void reset();
+  void finish() { meters_.finish(); }
   void setBitStreamSink(BitStreamSink* sink);
 
   UInt32 latency() const { return latency_; }

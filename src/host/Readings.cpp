@@ -50,10 +50,8 @@ Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format) {
 }
 
 Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format) {
-  auto readings = readingsOf(unit, format);
-  unit.reset();
-  readPeaks(unit, readings);
-  return readings;
+  unit.finish();
+  return readingsOf(unit, format);
 }
 
 velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit) {

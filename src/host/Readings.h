@@ -40,7 +40,7 @@ struct Readings {
 /// Asks the unit; `file` and `seconds` stay empty. Throws `Failure` when the unit does not tell.
 Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format);
 /// The same at the end of all audio: as if silence followed, so that the very last samples count
-/// too. Resets the unit. Not while it renders.
+/// too. Not while the unit renders.
 Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format);
 /// Throws `Failure` when the unit does not tell.
 velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit);

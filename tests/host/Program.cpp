@@ -91,8 +91,10 @@ Outcome Program::wait(pid_t process) const {
     outcome.out = readBytes(out_);
     std::filesystem::remove(out_);
   }
-  outcome.err = readBytes(err_);
-  std::filesystem::remove(err_);
+  if (std::filesystem::is_regular_file(err_)) {
+    outcome.err = readBytes(err_);
+    std::filesystem::remove(err_);
+  }
   return outcome;
 }
 

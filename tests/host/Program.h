@@ -29,6 +29,7 @@ class Program {
   /// Another copy of it.
   void setExecutable(std::filesystem::path executable) { executable_ = std::move(executable); }
   void setStandardOutput(std::filesystem::path path) { out_ = std::move(path); }
+  void setStandardError(std::filesystem::path path) { err_ = std::move(path); }
   void withoutDisplay() { hasDisplay_ = false; }
 
   /// The program that this test is about.

@@ -1,9 +1,13 @@
 #include <ebur128.h>
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sndfile.h>
+#include <unistd.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <memory>
+#include <thread>
 
 #include "Measured.h"
 #include "Sound.h"
@@ -164,8 +168,10 @@ TEST_F(Measure, ReadsTheFloorForSilence) {
   mix("mix.wav", silence(48000, 2, 48000));
   const auto outcome = run({"--json", "mix.wav"});
   EXPECT_EQ(outcome.status, 0);
+  const auto row = rows(outcome).at(0);
   for (const auto* const signal : {"source", "encoded"}) {
-    for (const auto& channel : rows(outcome).at(0)[signal]) {
+    ASSERT_THAT(row[signal], SizeIs(2));
+    for (const auto& channel : row[signal]) {
       EXPECT_EQ(channel["sample_peak_dbfs"], floorDb);
       EXPECT_EQ(channel["inter_sample_peak_dbtp"], floorDb);
       EXPECT_EQ(channel["sample_clips"], 0);
@@ -237,6 +243,57 @@ TEST_F(Measure, ReadsHighRatesAndEveryDepth) {
 TEST_F(Measure, ShowsNoProgressWhereThereIsNoTerminal) {
   mix("mix.wav", noise(44100, 2, 44100 * 5));
   EXPECT_EQ(run({"--all", "mix.wav"}).err, "");
+}
+
+/// A terminal that keeps what is shown on it.
+class Terminal {
+ public:
+  Terminal() : master_(::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC)) {
+    ::grantpt(master_);
+    ::unlockpt(master_);
+    // Held open, so that there is something to read before and after the program.
+    slave_ = ::open(path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+    reader_ = std::thread([this] {
+      char buffer[1024];
+      for (;;) {
+        const auto got = ::read(master_, buffer, sizeof buffer);
+        if (got <= 0) return;
+        shown_.append(buffer, static_cast<std::size_t>(got));
+      }
+    });
+  }
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+  ~Terminal() { ::close(master_); }
+
+  std::string path() const { return ::ptsname(master_); }
+  /// All that was shown until the program ended.
+  std::string shown() {
+    ::close(slave_);
+    reader_.join();
+    return shown_;
+  }
+
+ private:
+  int master_;
+  int slave_;
+  std::string shown_;
+  std::thread reader_;
+};
+
+TEST_F(Measure, ShowsProgressOnATerminalAndRemovesItAgain) {
+  mix("mix.wav", noise(44100, 2, 44100 * 60));
+  Terminal terminal;
+  Program program(folder_.path());
+  program.setStandardError(terminal.path());
+  const auto outcome = program.run({"--json", "mix.wav"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(rows(outcome), SizeIs(1));
+  const auto shown = terminal.shown();
+  EXPECT_THAT(shown, HasSubstr(" %  1 of 1"));
+  EXPECT_THAT(shown, HasSubstr("mix.wav  AAC VBRC 256"));
+  EXPECT_THAT(shown, testing::EndsWith("\r\x1b[K"));
+  EXPECT_THAT(shown, testing::Not(HasSubstr("\n")));
 }
 
 TEST_F(Measure, TakesNoMoreMemoryForALongFile) {
