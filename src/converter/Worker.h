@@ -18,6 +18,8 @@ class Worker {
   ~Worker() { stop(); }
 
   /// Main thread, while the audio thread does not use the queues. Starting makes everything empty.
+  /// Throws `std::system_error` when there is no thread to be had; nothing is then made of the
+  /// source, and nobody waits for it.
   void start();
   void stop();
   /// While stopped. Null for none.
@@ -34,10 +36,10 @@ class Worker {
   void wake() { work_.release(); }
 
   /// Audio thread: waits until `ready`, which the worker's progress has to make true sooner or
-  /// later.
+  /// later. Without a worker it only looks.
   template <typename Ready>
   void waitUntil(Ready ready) {
-    while (!ready()) {
+    while (!ready() && thread_.joinable()) {
       waiting_.exchange(true, std::memory_order_acq_rel);
       wake();
       // Either this look sees the progress, or the worker has yet to see that somebody waits.

@@ -53,6 +53,16 @@ class Reader : public testing::Test {
   std::vector<float> output_;
 };
 
+TEST_F(Reader, DoesNotWaitForAWorkerThatThereIsNot) {
+  // Something to do, and nobody to do it.
+  ASSERT_NE(worker_.source().claim(), nullptr);
+  worker_.source().push();
+  std::vector<float> samples(100, 99);
+  float* planes[] = {samples.data()};
+  EXPECT_EQ(reader_.read(0, 100, planes, 1, true), 100U);
+  EXPECT_EQ(samples, std::vector<float>(100, 0.0F));
+}
+
 TEST_F(Reader, DoesNotMissWhatIsBeforeTheFirstSample) {
   EXPECT_EQ(readTo(0), 0U);
   expectSignal(kStart, 0, false);
