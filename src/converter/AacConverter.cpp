@@ -110,6 +110,8 @@ void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element
       return put(data, controls_.missedFrames.load(std::memory_order_relaxed));
     case kConverterProperty_CodecFailures:
       return put(data, renderer_.codec().failures());
+    case kConverterProperty_Metering:
+      return put(data, metering_);
     default:
       return;
   }
@@ -136,6 +138,10 @@ OSStatus AacConverter::setProperty(AudioUnitPropertyID id, AudioUnitScope scope,
       break;
     case velk::kConverterProperty_ListeningTestActive:
       listeningTestActive_ = take<UInt32>(data);
+      break;
+    case kConverterProperty_Metering:
+      metering_ = take<UInt32>(data);
+      controls_.metering.store(metering_ != 0, std::memory_order_relaxed);
       break;
     default:
       break;

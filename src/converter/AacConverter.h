@@ -40,6 +40,7 @@ class AacConverter final : public ConverterUnit {
   UInt32 monitorSource_ = 0;
   UInt32 listeningTestActive_ = 0;
   UInt32 offlineRender_ = 0;
+  UInt32 metering_ = 1;
   Controls controls_;
   Parameters parameters_;
   Renderer renderer_;

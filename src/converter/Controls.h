@@ -12,6 +12,7 @@ struct Controls {
   std::atomic<Setting> setting{Setting{}};
   std::atomic<bool> monitorSource{false};
   std::atomic<bool> offline{false};
+  std::atomic<bool> metering{true};
   std::atomic<UInt64> missedFrames{0};
 };
 

@@ -10,7 +10,8 @@
 
 namespace converter {
 
-/// Properties of this unit beyond the contract with the view; global scope, element 0, read only.
+/// Properties of this unit beyond the contract with the view; global scope, element 0, read only
+/// but for the last.
 inline constexpr AudioUnitPropertyID kConverterProperty_EffectiveSetting = 5310;
 inline constexpr AudioUnitPropertyID kConverterProperty_BitRate = 5311;
 /// UInt64: frames of encoded signal that came too late since the unit was made, or that no codec
@@ -19,6 +20,10 @@ inline constexpr AudioUnitPropertyID kConverterProperty_MissedFrames = 5312;
 /// UInt64: codecs that could not be opened since the unit was made, and access units that could not
 /// be made or decoded. 0 as long as all is well.
 inline constexpr AudioUnitPropertyID kConverterProperty_CodecFailures = 5313;
+/// UInt32, may be written: 0 while what the unit renders is not metered, because nobody hears it
+/// and it only leads up to what follows, as before the place that a player was sent to;
+/// otherwise 1.
+inline constexpr AudioUnitPropertyID kConverterProperty_Metering = 5314;
 
 /// Data of `kConverterProperty_EffectiveSetting`: the setting really used, which is the nearest
 /// that works where the parameters ask for one that the encoder cannot do at this rate and channel

@@ -37,6 +37,7 @@ constexpr std::array kProperties = {
     Property{kConverterProperty_BitRate, sizeof(BitRate), Access::read},
     Property{kConverterProperty_MissedFrames, sizeof(UInt64), Access::read},
     Property{kConverterProperty_CodecFailures, sizeof(UInt64), Access::read},
+    Property{kConverterProperty_Metering, sizeof(UInt32), Access::readWrite},
 };
 
 const Property* find(AudioUnitPropertyID id) {

@@ -65,7 +65,11 @@ void Renderer::renderSlice(const float* const* input, float* const* output, UInt
   delay_.process(input, source.data(), frames);
   const UInt32 missed = reader_.read(position, frames, encoded.data(), unit_.channels, wait);
   if (missed > 0) controls_.missedFrames.fetch_add(missed, std::memory_order_relaxed);
-  meters_.process(source.data(), encoded.data(), frames);
+  if (controls_.metering.load(std::memory_order_relaxed)) {
+    meters_.process(source.data(), encoded.data(), frames);
+  } else {
+    meters_.pass(source.data(), encoded.data(), frames);
+  }
   monitor_.process(source.data(), encoded.data(), output, unit_.channels, frames, monitorSource);
 }
 
@@ -73,7 +77,7 @@ void Renderer::reset() {
   worker_.stop();
   feeder_.clear();
   delay_.clear();
-  meters_.finish();
+  meters_.abandon();
   worker_.start();
 }
 

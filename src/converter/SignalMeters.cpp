@@ -17,6 +17,23 @@ void SignalMeters::process(const float* const* source, const float* const* encod
   publish();
 }
 
+void SignalMeters::pass(const float* const* source, const float* const* encoded,
+                        std::size_t frames) noexcept {
+  takeReset();
+  for (std::size_t channel = 0; channel < channels_; ++channel) {
+    source_[channel].pass(source[channel], frames);
+    encoded_[channel].pass(encoded[channel], frames);
+  }
+  publish();
+}
+
+void SignalMeters::abandon() noexcept {
+  for (std::size_t channel = 0; channel < channels_; ++channel) {
+    source_[channel].abandon();
+    encoded_[channel].abandon();
+  }
+}
+
 void SignalMeters::finish() noexcept {
   takeReset();
   for (std::size_t channel = 0; channel < channels_; ++channel) {

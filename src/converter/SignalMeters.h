@@ -22,7 +22,15 @@ class SignalMeters {
   void process(const float* const* source, const float* const* encoded,
                std::size_t frames) noexcept;
 
-  /// Ends both signals, as before a seek; see `TruePeakMeter::finish`. Not while `process` runs.
+  /// Takes one block of both signals without metering it; see `TruePeakMeter::pass`. A pending
+  /// reset is taken too. Audio thread; never allocates, locks or waits.
+  void pass(const float* const* source, const float* const* encoded, std::size_t frames) noexcept;
+
+  /// Ends both signals, as before a seek; see `TruePeakMeter::abandon`. Not while `process` runs.
+  void abandon() noexcept;
+
+  /// Ends both signals at the end of all audio; see `TruePeakMeter::finish`. Not while `process`
+  /// runs.
   void finish() noexcept;
 
   /// Clears peaks and counts, for readers at once. Any thread; wait-free.

@@ -72,9 +72,24 @@ void TruePeakMeter::reset() noexcept {
   updateStatistics();
 }
 
+void TruePeakMeter::pass(const float* samples, std::size_t frames) noexcept {
+  while (frames > 0) {
+    const std::size_t count = std::min(frames, kMaximumIntervals);
+    static_cast<void>(copySound(samples, count, signal_.data() + kHistory));
+    std::copy_n(signal_.data() + count, kHistory, signal_.data());
+    samples += count;
+    frames -= count;
+  }
+  intervalsToSkip_ = kDelay;
+}
+
 void TruePeakMeter::finish() noexcept {
   constexpr std::array<float, kDelay> silence{};
   process(silence.data(), silence.size());
+  abandon();
+}
+
+void TruePeakMeter::abandon() noexcept {
   signal_.fill(0);
   intervalsToSkip_ = kDelay;
 }

@@ -54,9 +54,16 @@ class TruePeakMeter {
   /// metered any more, those of samples after it are, with the true signal before them.
   void reset() noexcept;
 
-  /// Ends the signal: meters its last intervals as if silence followed, and takes the next sample
-  /// as the first of a new signal. Keeps the readings.
+  /// Takes samples that are not metered: only as what lies before those that are.
+  void pass(const float* samples, std::size_t frames) noexcept;
+
+  /// Ends the signal where silence follows: meters its last intervals, and takes the next sample as
+  /// the first of a new signal. Keeps the readings.
   void finish() noexcept;
+
+  /// Ends the signal where it is cut, as `finish`, but its last `kDelay` intervals are never
+  /// metered: what would have followed is unknown, and a cut makes peaks that are not the signal's.
+  void abandon() noexcept;
 
   /// Magnitudes relative to full scale; 0 when nothing was heard.
   float samplePeak() const noexcept { return samplePeak_; }

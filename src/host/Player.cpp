@@ -51,13 +51,12 @@ void Player::pause() {
 
 void Player::setOffline(bool offline) {
   offline_ = offline;
-  setUnitOffline(offline);
+  setUnitFlag(kAudioUnitProperty_OfflineRender, offline);
 }
 
-void Player::setUnitOffline(bool offline) {
-  const UInt32 value = offline ? 1 : 0;
-  unit_.setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &value,
-                    sizeof value);
+void Player::setUnitFlag(AudioUnitPropertyID flag, bool on) {
+  const UInt32 value = on ? 1 : 0;
+  unit_.setProperty(flag, kAudioUnitScope_Global, 0, &value, sizeof value);
 }
 
 void Player::quiesce() {
@@ -115,38 +114,42 @@ void Player::seek(std::int64_t frame) {
   if (isFinished()) wanted_ = Wanted::Silence;
   quiesce();
   frame = std::clamp<std::int64_t>(frame, 0, length());
-  reader_.seek(frame);
+  loops_ = loop_ && frame < loop_->end;
+  const auto earliest = loop_ && !loops_ ? loop_->end : 0;
+  const auto leadIn = std::min<std::int64_t>(unit_.latency(), frame - earliest);
+  reader_.seek(frame - leadIn);
   unit_.reset();
   origin_ = frame;
-  loops_ = loop_ && frame < loop_->end;
-  fed_ = 0;
+  fed_ = -leadIn;
   feedable_ = unlimited;
   start_ = 0;
   played_ = 0;
   finished_ = false;
   // The very beginning is played as it is; any other place would begin with a click.
   gain_ = frame == 0 ? 1.0F : 0.0F;
-  runThroughLatency();
+  runUpTo(leadIn);
   // The device may ask for several blocks at once to begin with.
   reader_.waitFor(format().sampleRate / 8);
   wake();
 }
 
-void Player::runThroughLatency() {
-  setUnitOffline(true);
+void Player::runUpTo(std::int64_t leadIn) {
+  setUnitFlag(kAudioUnitProperty_OfflineRender, true);
+  setUnitFlag(converter::kConverterProperty_Metering, false);
   const auto channels = format().channels;
   Planes output{};
   for (std::uint32_t channel = 0; channel < channels; ++channel) {
     output[channel] = planes_.data() + std::size_t{channel} * maximumFrames_;
   }
-  for (auto left = unit_.latency(); left > 0;) {
-    const auto frames = std::min<std::uint32_t>(left, maximumFrames_);
+  for (auto left = unit_.latency() + leadIn; left > 0;) {
+    const auto frames = static_cast<std::uint32_t>(std::min<std::int64_t>(left, maximumFrames_));
     reader_.waitFor(frames);
     const auto got = reader_.read(interleaved_.data(), frames);
     feedUnit(interleaved_.data(), got, output.data(), 0, frames);
     left -= frames;
   }
-  setUnitOffline(offline_);
+  setUnitFlag(converter::kConverterProperty_Metering, true);
+  setUnitFlag(kAudioUnitProperty_OfflineRender, offline_);
 }
 
 void Player::feedUnit(const float* interleaved, std::size_t got, float* const* output,

@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "audio_unit/AudioUnitTypes.h"
 #include "host/BlockRenderer.h"
 #include "host/LoopRange.h"
 #include "host/StreamReader.h"
@@ -46,8 +47,9 @@ class Player : public BlockRenderer {
   bool isPlaying() const { return wanted_.load() == Wanted::Sound && !isFinished(); }
   /// Whether the last frame was heard.
   bool isFinished() const { return finished_.load(std::memory_order_acquire); }
-  /// Continues, playing or not, from `frame`. Resets the unit. From before the end of a loop
-  /// playing runs into it; from behind it goes on to the end.
+  /// Continues, playing or not, from `frame`. Resets the unit and runs it up to the place, so that
+  /// what is heard and metered from there on is that of playing through it. From before the end of
+  /// a loop playing runs into it; from behind it goes on to the end.
   void seek(std::int64_t frame);
   /// Repeats a stretch of the source from now on, or nothing. What is not within the source is cut
   /// off. From outside playing moves to the begin of the loop. What is heard repeats without a gap
@@ -84,8 +86,10 @@ class Player : public BlockRenderer {
   std::int64_t placeOf(std::int64_t frames) const;
   /// How many frames follow the last seek until playing ends.
   std::int64_t framesToPlay() const;
-  void runThroughLatency();
-  void setUnitOffline(bool offline);
+  /// Renders what lies before the place where playing starts: `leadIn` frames that are played to
+  /// nobody, for codec and meters to have them behind them, and the unit's latency.
+  void runUpTo(std::int64_t leadIn);
+  void setUnitFlag(AudioUnitPropertyID flag, bool on);
   /// Renders up to `frames` frames at the offset; fewer when the source is behind.
   std::uint32_t renderSound(float* const* planes, std::uint32_t offset,
                             std::uint32_t frames) noexcept;

@@ -35,7 +35,8 @@ TEST(Properties, KeepFlagsAsWritten) {
   Rig rig;
   for (const AudioUnitPropertyID id :
        {velk::kConverterProperty_ListeningTestActive, velk::kConverterProperty_MonitorSource,
-        AudioUnitPropertyID{kAudioUnitProperty_OfflineRender}}) {
+        AudioUnitPropertyID{kAudioUnitProperty_OfflineRender},
+        converter::kConverterProperty_Metering}) {
     for (const UInt32 value : {0U, 1U, 7U, 0U}) {
       ASSERT_EQ(rig.unit().setProperty(id, kGlobal, 0, &value, sizeof value), noErr);
       EXPECT_EQ(rig.property<UInt32>(id), value);
@@ -64,6 +65,7 @@ constexpr Reading kReadings[] = {
     {converter::kConverterProperty_BitRate, kGlobal, 8},
     {converter::kConverterProperty_MissedFrames, kGlobal, 8},
     {converter::kConverterProperty_CodecFailures, kGlobal, 8},
+    {converter::kConverterProperty_Metering, kGlobal, 4},
 };
 
 TEST(Properties, NameWhatIsWrongWithAReading) {
@@ -119,6 +121,7 @@ TEST(Properties, NameWhatIsWrongWithAWriting) {
     const bool writable = id == velk::kConverterProperty_MonitorSource ||
                           id == velk::kConverterProperty_ListeningTestActive ||
                           id == kAudioUnitProperty_OfflineRender ||
+                          id == converter::kConverterProperty_Metering ||
                           id == kAudioUnitProperty_PresentPreset;
     std::array<unsigned char, 256> zeros{};
     EXPECT_EQ(set(id, scope, 0, zeros.data(), size),
@@ -131,7 +134,7 @@ TEST(Properties, AreUnknownWhereTheUnitHasNone) {
   Rig rig;
   UInt32 value = 1;
   UInt32 size = sizeof value;
-  for (const AudioUnitPropertyID id : {0U, 1U, 5300U, 5305U, 5309U, 5314U, 0xffffffffU}) {
+  for (const AudioUnitPropertyID id : {0U, 1U, 5300U, 5305U, 5309U, 5315U, 0xffffffffU}) {
     EXPECT_EQ(rig.unit().getProperty(id, kGlobal, 0, &value, size), kAudioUnitErr_InvalidProperty);
     EXPECT_EQ(rig.unit().setProperty(id, kGlobal, 0, &value, size), kAudioUnitErr_InvalidProperty);
   }

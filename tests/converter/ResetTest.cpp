@@ -82,9 +82,10 @@ TEST(Reset, EndsWhatIsMetered) {
   Signal loud = silence(2, 40000);
   for (std::size_t i = 0; i < loud[0].size(); ++i) loud[0][i] = loud[1][i] = i % 2 == 0 ? 2 : -2;
   rig.render(loud);
-  rig.unit().reset();
   const auto ended = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
   EXPECT_GT(ended[0].mInterSampleClipCount, 0);
+  rig.unit().reset();
+  expectStatistics(rig, ended);
   rig.render(silence(2, 30000));
   expectStatistics(rig, ended);
 }

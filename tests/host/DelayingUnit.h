@@ -14,6 +14,7 @@ class DelayingUnit : public converter::ConverterUnit {
 
   UInt32 latency() const override { return latency_; }
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept override {
+    if (before.empty()) before.assign(input[0], input[0] + frames);
     for (std::size_t channel = 0; channel < lines_.size(); ++channel) {
       auto at = at_;
       for (UInt32 i = 0; i < frames; ++i) {
@@ -23,9 +24,11 @@ class DelayingUnit : public converter::ConverterUnit {
       }
     }
     at_ = (at_ + frames) % latency_;
+    if (metering) metered.insert(metered.end(), output[0], output[0] + frames);
   }
   void reset() override {
     ++resets;
+    before.clear();
     for (auto& line : lines_) std::fill(line.begin(), line.end(), 0.0F);
   }
 
@@ -43,15 +46,27 @@ class DelayingUnit : public converter::ConverterUnit {
   }
   OSStatus setProperty(AudioUnitPropertyID id, AudioUnitScope, AudioUnitElement, const void* data,
                        UInt32 size) override {
-    if (id != kAudioUnitProperty_OfflineRender) return kAudioUnitErr_InvalidProperty;
     UInt32 value = 0;
     std::memcpy(&value, data, std::min<std::size_t>(size, sizeof value));
-    offline = value != 0;
-    return noErr;
+    switch (id) {
+      case kAudioUnitProperty_OfflineRender:
+        offline = value != 0;
+        return noErr;
+      case converter::kConverterProperty_Metering:
+        metering = value != 0;
+        return noErr;
+      default:
+        return kAudioUnitErr_InvalidProperty;
+    }
   }
 
   int resets = 0;
   bool offline = false;
+  bool metering = true;
+  /// The first samples since the last reset, first channel.
+  std::vector<float> before;
+  /// What came out while it was metered, first channel.
+  std::vector<float> metered;
 
  private:
   UInt32 latency_;

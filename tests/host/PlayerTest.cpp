@@ -154,6 +154,22 @@ TEST_F(Playing, ContinuesAtTheFrameThatItWasSentTo) {
   EXPECT_EQ(player().position(), 30512);
 }
 
+TEST_F(Playing, LeadsTheUnitUpToThePlaceWithoutMeteringWhatNobodyHears) {
+  make(ramp(40000));
+  for (const std::int64_t place : {0, 1, 700, 1500, 30000}) {
+    unit_->metered.clear();
+    player().seek(place);
+    EXPECT_TRUE(unit_->metered.empty());
+    EXPECT_TRUE(unit_->metering);
+    player().play();
+    blocks(2, 256);
+    ASSERT_EQ(unit_->metered.size(), 512U);
+    EXPECT_EQ(placeOf(unit_->metered.front()), place);
+    // What leads up is as long as what is under way in the unit.
+    EXPECT_EQ(placeOf(unit_->before[0]), std::max<std::int64_t>(place - latency, 0)) << place;
+  }
+}
+
 TEST_F(Playing, StaysPausedWhenItIsSentElsewhere) {
   make(ramp(40000));
   player().seek(30000);

@@ -28,6 +28,12 @@ struct Feed {
     meters.process(source.data(), encoded.data(), frames);
   }
 
+  void past(SignalMeters& meters, std::size_t at, std::size_t frames) const {
+    const std::array<const float*, 2> source{planes[0].data() + at, planes[1].data() + at};
+    const std::array<const float*, 2> encoded{planes[2].data() + at, planes[3].data() + at};
+    meters.pass(source.data(), encoded.data(), frames);
+  }
+
   velk::TruePeakStats alone(std::size_t plane, std::size_t from, std::size_t to) const {
     converter::TruePeakMeter meter;
     meter.process(planes[plane].data(), from);
@@ -90,12 +96,29 @@ TEST(SignalMeters, KeepTheReadingsWhenTheSignalEnds) {
   SignalMeters meters(2);
   feed.into(meters, 0, 5000);
   const PeakStatistics before = meters.read();
-  meters.finish();
-  const PeakStatistics after = meters.read();
-  for (std::size_t slot = 0; slot < before.size(); ++slot) {
-    EXPECT_EQ(after[slot].mSamplePeak, before[slot].mSamplePeak);
-    EXPECT_GE(after[slot].mInterSampleClipCount, before[slot].mInterSampleClipCount);
+  meters.abandon();
+  EXPECT_TRUE(same(meters.read(), before));
+}
+
+TEST(SignalMeters, PassOverBothSignals) {
+  const Feed feed;
+  SignalMeters meters(2);
+  feed.past(meters, 0, 5000);
+  EXPECT_TRUE(same(meters.read(), clearedPeakStatistics()));
+  feed.into(meters, 5000, 4000);
+  const PeakStatistics read = meters.read();
+  for (std::size_t slot = 0; slot < read.size(); ++slot) {
+    expectSame(read[slot], feed.alone(slot, 5000, 9000));
   }
+}
+
+TEST(SignalMeters, AreResetDuringAPassToo) {
+  const Feed feed;
+  SignalMeters meters(2);
+  feed.into(meters, 0, 5000);
+  meters.requestReset();
+  feed.past(meters, 5000, 4000);
+  EXPECT_TRUE(same(meters.read(), clearedPeakStatistics()));
 }
 
 TEST(SignalMeters, NeverAllocate) {
@@ -105,9 +128,10 @@ TEST(SignalMeters, NeverAllocate) {
   for (std::size_t at = 0; at + 512 <= 20000; at += 512) {
     feed.into(meters, at, 512);
     meters.requestReset();
+    feed.past(meters, at, 512);
     static_cast<void>(meters.read());
   }
-  meters.finish();
+  meters.abandon();
   EXPECT_EQ(allocationCount(), before);
 }
 

@@ -9,6 +9,7 @@
 
 #include "EveryPoint.h"
 #include "MeterSignals.h"
+#include "SameStatistics.h"
 #include "converter/TruePeakMeter.h"
 
 using converter::kMeterFloorDecibels;
@@ -244,11 +245,54 @@ TEST(TruePeakMeter, StartsANewSignalFromSilenceAndKeepsTheReadings) {
   const Samples second = meter_signals::clippedMix(2000, 6.0F, 2);
   TruePeakMeter meter;
   feed(meter, first);
-  meter.finish();
+  const std::int64_t before = meter.interSampleOverCount();
+  ASSERT_GT(before, 0);
+  meter.abandon();
+  EXPECT_EQ(meter.interSampleOverCount(), before);
   feed(meter, second);
-  meter.finish();
-  EXPECT_EQ(meter.interSampleOverCount(),
-            everyPoint(first, 0, first.size()).overs + everyPoint(second, 0, second.size()).overs);
+  TruePeakMeter alone;
+  feed(alone, second);
+  ASSERT_GT(alone.interSampleOverCount(), 0);
+  EXPECT_EQ(meter.interSampleOverCount(), before + alone.interSampleOverCount());
+}
+
+TEST(TruePeakMeter, MakesNoOverOfACutInALoudSignal) {
+  TruePeakMeter meter;
+  feed(meter, Samples(300, 0.99F));
+  meter.reset();
+  feed(meter, Samples(300, 0.99F));
+  meter.abandon();
+  feed(meter, Samples(300, 0.0F));
+  EXPECT_EQ(meter.interSampleOverCount(), 0);
+  EXPECT_NEAR(meter.interSamplePeak(), 0.99F, 1e-4);
+}
+
+TEST(TruePeakMeter, MetersWhatFollowsAPassAsInTheMiddleOfTheSignal) {
+  const Samples signal = meter_signals::clippedMix(3000, 6.0F, 4);
+  for (const std::size_t passed : {0U, 1U, 11U, 500U, 1999U}) {
+    const Samples before(signal.begin(), signal.begin() + static_cast<std::ptrdiff_t>(passed));
+    const Samples after(signal.begin() + static_cast<std::ptrdiff_t>(passed), signal.end());
+    TruePeakMeter expected;
+    feed(expected, before);
+    expected.reset();
+    feed(expected, after);
+    TruePeakMeter meter;
+    meter.pass(before.data(), before.size());
+    EXPECT_EQ(meter.statistics().mSamplePeak, kMeterFloorDecibels);
+    feed(meter, after);
+    EXPECT_TRUE(same(meter.statistics(), expected.statistics())) << passed;
+  }
+}
+
+TEST(TruePeakMeter, KeepsItsReadingsDuringAPass) {
+  TruePeakMeter meter;
+  feed(meter, meter_signals::mix(2000, 0.5F, 1));
+  const velk::TruePeakStats before = meter.statistics();
+  const Samples loud = meter_signals::clippedMix(2000, 6.0F, 2);
+  meter.pass(loud.data(), loud.size());
+  feed(meter, Samples(2000, 0.0F));
+  EXPECT_EQ(meter.sampleClipCount(), 0);
+  EXPECT_TRUE(same(meter.statistics(), before));
 }
 
 TEST(TruePeakMeter, TakesSamplesThatAreNoSoundAsSilenceForThePeaks) {
