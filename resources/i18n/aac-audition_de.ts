@@ -93,6 +93,10 @@
         <source>The file is damaged or cut off</source>
         <translation>Die Datei ist beschädigt oder abgeschnitten</translation>
     </message>
+    <message>
+        <source>The recording has failed</source>
+        <translation>Die Aufnahme ist gescheitert</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ChannelDialog</name>

@@ -93,6 +93,10 @@
         <source>The file is damaged or cut off</source>
         <translation>Le fichier est endommagé ou tronqué</translation>
     </message>
+    <message>
+        <source>The recording has failed</source>
+        <translation>L’enregistrement a échoué</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ChannelDialog</name>

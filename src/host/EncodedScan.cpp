@@ -37,8 +37,7 @@ class EncodedScan {
     const auto length = static_cast<double>(std::max<std::int64_t>(source_.frames(), 1));
     while (progress.goesOn()) {
       if (hasEnded_ && metered_ >= taken_) {
-        // The last intervals count as if silence followed.
-        unit_->reset();
+        static_cast<void>(finalReadingsOf(*unit_, format_));
         mark(std::max<std::int64_t>(taken_ - 1, 0));
         break;
       }

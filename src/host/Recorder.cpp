@@ -68,6 +68,11 @@ void Recorder::hear(const float* const* planes, std::uint32_t frames) noexcept {
   }
 }
 
+std::string Recorder::failure() const {
+  const std::lock_guard lock(mutex_);
+  return error_;
+}
+
 void Recorder::waitForRoom(std::uint32_t frames) {
   std::unique_lock lock(mutex_);
   madeRoom_.wait(lock, [&] {

@@ -25,6 +25,8 @@ class Recorder : public AudioTap {
   ~Recorder() override;
 
   void hear(const float* const* planes, std::uint32_t frames) noexcept override;
+  /// What went wrong so far, or nothing. Any thread but the audio thread.
+  std::string failure() const;
   /// Waits until a block of `frames` frames fits. For rendering faster than real time.
   void waitForRoom(std::uint32_t frames);
   /// Writes what is left and gives the file its name. Throws `Failure` when anything was lost on
@@ -48,7 +50,7 @@ class Recorder : public AudioTap {
   std::atomic<std::uint64_t> lostFrames_{0};
   std::unique_ptr<void, Close> file_;
 
-  std::mutex mutex_;
+  mutable std::mutex mutex_;
   std::condition_variable wakeWriter_;
   std::condition_variable madeRoom_;
   bool stop_ = false;

@@ -30,8 +30,10 @@ class OverFinder {
       frame_ += static_cast<std::int64_t>(count);
     }
   }
+  /// The last intervals count as if silence followed.
   void finish() {
-    meter_.finish();
+    constexpr std::array<float, converter::TruePeakMeter::kDelay> silence{};
+    meter_.process(silence.data(), silence.size());
     frame_ = std::max<std::int64_t>(frame_ - 1, 0);
     mark();
   }

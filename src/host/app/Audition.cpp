@@ -216,6 +216,7 @@ void Audition::refresh() {
   refreshOutput();
   refreshTransport();
   warnOfTruncation();
+  warnOfRecording();
   const bool test = listeningTestRuns(&session_->unit());
   window_.setOpenEnabled(!test);
   opening_.setEnabled(!test);
@@ -266,26 +267,11 @@ void Audition::warnOfTruncation() {
   setNotice(tr("The file is damaged or cut off"));
 }
 
-std::optional<SavedSession> Audition::sessionToSave() {
-  if (!session_) return std::nullopt;
-  SavedSession saved;
-  saved.file = std::filesystem::absolute(session_->path()).string();
-  saved.channels = session_->channels();
-  saved.position = heardPosition();
-  saved.loop = loop_.loop();
-  saved.loopIsOn = loop_.isOn();
-  if (session_->device()) saved.device = session_->device()->name;
-  saved.setting = encoderSettingOf(&session_->unit());
-  return saved;
-}
-
-void Audition::restore(const SavedSession& saved) {
-  open(openedForPlaying(saved.file, saved.channels));
-  const bool settingIsNamed = options_.setting || options_.preset;
-  if (saved.setting && !settingIsNamed) applyEncoderSetting(&session_->unit(), *saved.setting);
-  if (saved.loop) loop_.choose(saved.loop);
-  if (saved.loop && !saved.loopIsOn) loop_.toggle();
-  moveTo(saved.position);
+void Audition::warnOfRecording() {
+  // The window lives on; what is said on standard error comes when the recording ends.
+  if (warnedOfRecording_ || !recorder_ || recorder_->failure().empty()) return;
+  warnedOfRecording_ = true;
+  setNotice(tr("The recording has failed"));
 }
 
 void Audition::setNotice(const QString& notice) {

@@ -72,6 +72,7 @@ class Audition : public QObject {
   void refreshTransport();
   void refreshOutput();
   void warnOfTruncation();
+  void warnOfRecording();
   void setNotice(const QString& notice);
 
   const AuditionOptions options_;
@@ -82,6 +83,7 @@ class Audition : public QObject {
   AudioFormat recordedFormat_;
   std::unique_ptr<Session> session_;
   bool warnedOfTruncation_ = false;
+  bool warnedOfRecording_ = false;
   std::uint64_t missedFrames_ = 0;
   std::uint64_t lateFrames_ = 0;
   LoopControl loop_;

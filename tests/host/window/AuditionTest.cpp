@@ -1,10 +1,13 @@
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QRegularExpression>
 #include <array>
+#include <csignal>
+#include <thread>
 #include <vector>
 
 #include "Sound.h"
@@ -19,6 +22,26 @@
 using host::app::Audition;
 
 namespace {
+
+/// While it lives, files grow no larger than so many bytes, as on a full disk.
+class SmallFiles {
+ public:
+  explicit SmallFiles(rlim_t bytes) : signals_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &earlier_);
+    const rlimit few = {bytes, earlier_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &few);
+  }
+  SmallFiles(const SmallFiles&) = delete;
+  SmallFiles& operator=(const SmallFiles&) = delete;
+  ~SmallFiles() {
+    ::setrlimit(RLIMIT_FSIZE, &earlier_);
+    std::signal(SIGXFSZ, signals_);
+  }
+
+ private:
+  rlimit earlier_{};
+  void (*signals_)(int);
+};
 
 /// The window around the real view. Nothing renders but what a test asks for.
 class Auditioning : public testing::Test {
@@ -216,6 +239,22 @@ TEST_F(Auditioning, RecordsEveryFileOfOneFormatIntoOneRecording) {
     plane.insert(plane.end(), other.planes[channel].begin(), other.planes[channel].end());
   }
   EXPECT_TRUE(readSound(path("out.wav")).planes == expected.planes);
+}
+
+TEST_F(Auditioning, SaysAtOnceThatTheRecordingFails) {
+  auto& audition = start({}, std::make_unique<host::AtomicFile>(path("out.wav")));
+  open("stereo.wav");
+  audition.refresh();
+  EXPECT_FALSE(shows("recording"));
+  {
+    const SmallFiles only(65536);
+    playToTheEnd();
+    while (audition.recorder()->failure().empty()) std::this_thread::yield();
+  }
+  audition.refresh();
+  EXPECT_TRUE(shows("The recording has failed"));
+  EXPECT_THROW(audition.finish(), host::Failure);
+  EXPECT_FALSE(std::filesystem::exists(path("out.wav")));
 }
 
 }  // namespace
