@@ -79,7 +79,7 @@ class ConverterUnit : public audio_unit::Unit {
   virtual void reset() = 0;
 
   /// Tells the meters at the end of all audio that silence follows, so that what the waveform does
-  /// around the last samples counts, too. Not while `render` runs. A unit without meters ignores it.
+  /// around the last samples counts too. Not while `render` runs.
   virtual void finish() {}
 
   /// Shows the access units to `sink` from now on, which has to outlive the unit or be taken away
