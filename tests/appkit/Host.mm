@@ -117,6 +117,17 @@ NSButton* Host::buttonWithTitle(NSView* content, std::string_view title) {
 void Host::click(NSButton* button) {
   if ([button isEnabled] && ![button isHiddenOrHasHiddenAncestor]) {
     [button performClick:nil];
+    // A click is an event, after which every loop looks whether it should end.
+    [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
+                                        location:NSZeroPoint
+                                   modifierFlags:0
+                                       timestamp:0
+                                    windowNumber:0
+                                         context:nil
+                                         subtype:0
+                                           data1:0
+                                           data2:0]
+             atStart:NO];
   }
 }
 

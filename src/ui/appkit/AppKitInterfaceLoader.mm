@@ -24,16 +24,26 @@ constexpr std::string_view kViewName = "view";
 NSArray* instantiate(NSBundle* bundle, std::string_view name, id owner) {
   NSArray* objects = nil;
   BOOL loaded = NO;
+  NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
   NSException* exception = exceptionOf([&] {
     NSNib* nib = [[[NSNib alloc] initWithNibNamed:nsString(name) bundle:bundle] autorelease];
     loaded = nib != nil && [nib instantiateWithOwner:owner topLevelObjects:&objects];
   });
+  [objects retain];
+  [exception retain];
+  [pool drain];
+  [objects autorelease];
+  [exception autorelease];
   if (exception != nil) {
     throw InterfaceError("cannot be read: " + utf8([exception reason]));
   }
   if (loaded != YES) {
     throw InterfaceError("is missing or cannot be read");
   }
+#ifdef GNUSTEP
+  // Here each of them is the caller's besides.
+  [objects makeObjectsPerformSelector:@selector(release)];
+#endif
   return objects;
 }
 

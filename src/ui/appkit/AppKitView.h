@@ -77,6 +77,8 @@ class AppKitView final : public NativeView, public ViewListener {
   void interpretKeyEvents(const KeyEvent& event) override;
 
  private:
+  // What everything else refers to goes last.
+  Retained<NSArray*> topLevelObjects_;
   ViewServices services_;
   ControlTable controls_;
   std::vector<Retained<id>> connected_;
@@ -85,7 +87,6 @@ class AppKitView final : public NativeView, public ViewListener {
   Velk_View* view_ = nil;
   bool isViewOwner_ = false;
   bool isGoing_ = false;
-  Retained<NSArray*> topLevelObjects_;
   std::function<void(Size)> frameSizeObserver_;
 };
 

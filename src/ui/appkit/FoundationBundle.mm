@@ -1,18 +1,17 @@
 #include "ui/appkit/FoundationBundle.h"
 
+#include "ui/Captions.h"
 #include "ui/appkit/Strings.h"
 
 namespace ui::appkit {
 
 namespace {
 
+/// The language whose table the system would read.
 std::vector<std::string> languagesOf(NSBundle* bundle) {
-  std::vector<std::string> languages;
-  NSEnumerator* names = [[bundle preferredLocalizations] objectEnumerator];
-  while (NSString* name = [names nextObject]) {
-    languages.push_back(utf8(name));
-  }
-  return languages;
+  NSString* table = [bundle pathForResource:nsString(kStringsTable) ofType:@"strings"];
+  NSString* folder = [[table stringByDeletingLastPathComponent] lastPathComponent];
+  return {utf8([folder stringByDeletingPathExtension])};
 }
 
 }  // namespace
