@@ -2,8 +2,10 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QFrame>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <utility>
@@ -123,6 +125,16 @@ void MainWindow::setLoop(bool exists, bool isOn) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   Q_EMIT closing();
   QMainWindow::closeEvent(event);
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
+  // What no control around the view has taken is the view's. What it leaves over comes back here.
+  if (view_ == nullptr || handsKeyOn_) return;
+  if (view_ == focusWidget() || view_->isAncestorOf(focusWidget())) return;
+  handsKeyOn_ = true;
+  QCoreApplication::sendEvent(view_, event);
+  handsKeyOn_ = false;
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

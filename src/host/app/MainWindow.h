@@ -52,6 +52,7 @@ class MainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
@@ -68,6 +69,7 @@ class MainWindow : public QMainWindow {
   QVBoxLayout* rows_;
   QWidget* invitation_;
   QWidget* view_ = nullptr;
+  bool handsKeyOn_ = false;
   QAction* open_ = nullptr;
   QMenu* recent_ = nullptr;
   QAction* loop_ = nullptr;

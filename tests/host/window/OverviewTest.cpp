@@ -200,6 +200,7 @@ TEST_F(Overview, LoopsWhatIsDraggedAcross) {
 TEST_F(Overview, TakesItsOwnKeysAndLeavesTheOthersToTheView) {
   open("loud.wav");
   audition_->window().activateWindow();
+  QCoreApplication::processEvents();
   waveform().setFocus(Qt::TabFocusReason);
   QTest::keyClick(audition_->window().focusWidget(), Qt::Key_PageDown);
   EXPECT_EQ(player().position(), 20 * waveform().step());
