@@ -15,12 +15,13 @@ bool sameNames(const std::vector<Device>& one, const std::vector<Device>& other)
 
 }  // namespace
 
-DeviceMenu::DeviceMenu(QMenu* menu, Look look) : menu_(menu), look_(std::move(look)) {
+DeviceMenu::DeviceMenu(QMenu* menu, Look look, int milliseconds)
+    : menu_(menu), look_(std::move(look)) {
   connect(menu_, &QMenu::aboutToShow, this, &DeviceMenu::open);
   connect(menu_, &QMenu::aboutToHide, this, &DeviceMenu::close);
   connect(&lookAgain_, &QTimer::timeout, this, &DeviceMenu::startLooking);
   connect(&lookWhetherFound_, &QTimer::timeout, this, &DeviceMenu::takeFound);
-  lookAgain_.setInterval(lookAgain);
+  lookAgain_.setInterval(milliseconds);
   lookWhetherFound_.setInterval(foundMilliseconds);
 }
 

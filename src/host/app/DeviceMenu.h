@@ -23,7 +23,7 @@ class DeviceMenu : public QObject {
   /// How often it looks while the menu is open, in milliseconds.
   static constexpr int lookAgain = 2000;
 
-  explicit DeviceMenu(QMenu* menu, Look look = outputDevices);
+  explicit DeviceMenu(QMenu* menu, Look look = outputDevices, int milliseconds = lookAgain);
   ~DeviceMenu() override;
 
   /// The one that plays, or nothing while nobody listens.

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "host/app/TimeText.h"
+#include "ui/ReadableColor.h"
 
 namespace host::app {
 namespace {
@@ -130,8 +131,10 @@ void TransportBar::showLoopState() {
   // In some styles a pressed button is hard to tell from another.
   auto colors = palette();
   if (loopShines_) {
-    colors.setColor(QPalette::Button, colors.color(QPalette::Highlight));
-    colors.setColor(QPalette::ButtonText, colors.color(QPalette::HighlightedText));
+    const auto accent = colors.color(QPalette::Highlight);
+    const bool takesLight = ui::isDark({accent.redF(), accent.greenF(), accent.blueF(), 1});
+    colors.setColor(QPalette::Button, accent);
+    colors.setColor(QPalette::ButtonText, takesLight ? Qt::white : Qt::black);
   }
   loop_->setPalette(colors);
 }
