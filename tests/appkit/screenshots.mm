@@ -4,7 +4,6 @@
 #import <AppKit/AppKit.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -85,9 +84,26 @@ class Album {
 
   void save(Stage& stage, const std::string& name) {
     stage.advance(kSettled * 2);
-    const std::string file = (folder_ / (name + ".png")).string();
-    const std::string command = "import -window root -crop 700x620+60+200 " + file;
-    if (std::system(command.c_str()) != 0) {
+    appkit_test::onMain([&] {
+      NSArray* windows = [NSApp windows];
+      for (NSUInteger index = 0; index < [windows count]; ++index) {
+        NSWindow* window = [windows objectAtIndex:index];
+        if ([window isVisible] && [[window title] isEqualToString:@"Host"]) {
+          NSWindow* sheet = [window attachedSheet];
+          write([sheet != nil ? sheet : window contentView], folder_ / (name + ".png"));
+        }
+      }
+    });
+  }
+
+  static void write(NSView* view, const std::filesystem::path& file) {
+    [view lockFocus];
+    NSBitmapImageRep* picture =
+        [[[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]] autorelease];
+    [view unlockFocus];
+    NSData* png = [picture representationUsingType:NSPNGFileType
+                                        properties:[NSDictionary dictionary]];
+    if (![png writeToFile:nsString(file.string()) atomically:YES]) {
       std::fprintf(stderr, "cannot write %s\n", file.c_str());
     }
   }

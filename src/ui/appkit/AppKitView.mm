@@ -154,7 +154,11 @@ void AppKitView::interpretKeyEvents(const KeyEvent& event) {
 }
 
 - (void)applyFrameSize:(NSSize)size {
+  // What is behind shows through, and what is within moves.
+  [[self superview] setNeedsDisplayInRect:[self frame]];
   [super setFrameSize:size];
+  [[self superview] setNeedsDisplayInRect:[self frame]];
+  [self setNeedsDisplay:YES];
 }
 
 - (void)setFrameSize:(NSSize)size {

@@ -20,6 +20,7 @@ int LampAdapter::intValue() const {
 
 void LampAdapter::setIntValue(int value) {
   [control() setIntValue:value];
+  [control() setNeedsDisplay:YES];
 }
 
 }  // namespace ui::appkit

@@ -17,11 +17,11 @@ void placePages(NSTabView* tabs) {
   const NSRect frame = [tabs frame];
   const NSRect wanted = NSMakeRect(NSMinX(frame) + kSides, NSMinY(frame) + kBelow,
                                    NSWidth(frame) - 2 * kSides, NSHeight(frame) - kBelow - kAbove);
-  const NSRect now = [[tabs superview] convertRect:[tabs contentRect] fromView:tabs];
-  [tabs setFrame:NSMakeRect(NSMinX(frame) + NSMinX(wanted) - NSMinX(now),
-                            NSMinY(frame) + NSMinY(wanted) - NSMinY(now),
-                            NSWidth(frame) + NSWidth(wanted) - NSWidth(now),
-                            NSHeight(frame) + NSHeight(wanted) - NSHeight(now))];
+  const NSRect now = [tabs contentRect];
+  const CGFloat below = [tabs isFlipped] ? NSHeight(frame) - NSMaxY(now) : NSMinY(now);
+  [tabs setFrame:NSMakeRect(NSMinX(wanted) - NSMinX(now), NSMinY(wanted) - below,
+                            NSWidth(wanted) + NSWidth(frame) - NSWidth(now),
+                            NSHeight(wanted) + NSHeight(frame) - NSHeight(now))];
 }
 
 }  // namespace

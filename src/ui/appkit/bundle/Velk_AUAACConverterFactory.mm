@@ -1,5 +1,7 @@
 #include "ui/appkit/bundle/Velk_AUAACConverterFactory.h"
 
+#include <type_traits>
+
 #include "factory/Velk_AUAACConverterFactory.h"
 #include "ui/appkit/Adapter.h"
 #include "ui/appkit/AppKitInterfaceLoader.h"
@@ -7,6 +9,8 @@
 #include "ui/appkit/FoundationServices.h"
 #include "ui/appkit/Strings.h"
 #include "ui/appkit/bundle/InterfaceClasses.h"
+
+static_assert(std::is_same_v<AudioUnit, audio_unit::Unit*>);
 
 using ui::appkit::AppKitInterfaceLoader;
 using ui::appkit::AppKitView;
