@@ -99,12 +99,26 @@ class OddFiles : public testing::Test {
 };
 
 TEST_F(OddFiles, MayBeUnreadable) {
-  if (::geteuid() == 0) GTEST_SKIP() << "root may read everything";
   writeSound(folder_ / "bad.wav", noise(44100, 2, 4410));
+  writeSound(folder_ / "good.wav", noise(44100, 2, 4410));
   fs::permissions(folder_ / "bad.wav", fs::perms::none);
-  const auto outcome = run({"bad.wav"});
+  Program program(folder_.path());
+  std::vector<std::string> arguments = {"--json", "bad.wav", "good.wav"};
+  if (::geteuid() == 0) {
+    // Root may read everything, nobody may not.
+    fs::permissions(folder_.path(), fs::perms::others_read | fs::perms::others_exec,
+                    fs::perm_options::add);
+    program.setExecutable("/usr/bin/setpriv");
+    arguments.insert(arguments.begin(), {"--reuid=65534", "--regid=65534", "--clear-groups", "--",
+                                         Program::executableUnderTest().string()});
+  }
+  const auto outcome = program.run(arguments);
+  if (outcome.err.starts_with("setpriv: ")) GTEST_SKIP() << "nobody may not run the program here";
   EXPECT_EQ(outcome.status, 1);
+  ASSERT_THAT(outcome.complaints(), SizeIs(1)) << outcome.err;
   EXPECT_THAT(outcome.err, HasSubstr("'bad.wav'"));
+  EXPECT_THAT(outcome.err, HasSubstr("ermi"));
+  EXPECT_THAT(rows(outcome), SizeIs(1));
 }
 
 TEST_F(OddFiles, MayHaveASingleSample) {
