@@ -6,9 +6,16 @@
 
 #include "ui/CustomView.h"
 
+#ifdef __APPLE__
+struct OpaqueAudioComponentInstance;
+namespace audio_unit {
+using Unit = OpaqueAudioComponentInstance;
+}
+#else
 namespace audio_unit {
 class Unit;
 }
+#endif
 
 /// What a host asks of a view bundle's factory; main thread only.
 class UI_EXPORT AUCocoaUIBase {
