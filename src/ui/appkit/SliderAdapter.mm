@@ -1,9 +1,11 @@
 #include "ui/appkit/SliderAdapter.h"
 
+#include "ui/appkit/ValueSlider.h"
+
 namespace ui::appkit {
 
 int SliderAdapter::intValue() const {
-  return static_cast<int>([control() doubleValue]);
+  return wholePosition(control());
 }
 
 void SliderAdapter::setFloatValue(float value) {

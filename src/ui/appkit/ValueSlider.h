@@ -8,3 +8,10 @@
 }
 @property(nonatomic, assign) IBOutlet NSTextField* valueField;
 @end
+
+namespace ui::appkit {
+
+/// The slider's position truncated toward zero; what is no number counts as the lowest.
+int wholePosition(NSSlider* slider);
+
+}  // namespace ui::appkit

@@ -19,7 +19,20 @@
 }
 
 - (void)showValue {
-  [_valueField setIntegerValue:static_cast<NSInteger>([self doubleValue])];
+  [_valueField setIntegerValue:ui::appkit::wholePosition(self)];
 }
 
 @end
+
+namespace ui::appkit {
+
+int wholePosition(NSSlider* slider) {
+  const double value = [slider doubleValue];
+  const double lowest = [slider minValue];
+  const double highest = [slider maxValue];
+  // Written so that a NaN, which compares as nothing, is the lowest.
+  const double position = value > lowest ? (value < highest ? value : highest) : lowest;
+  return static_cast<int>(position);
+}
+
+}  // namespace ui::appkit
