@@ -132,10 +132,16 @@ const std::set<std::string> kTextsOfTheView = {
     "Test Cycles: %@\n",
     "Results: %@/%@ (%@ Correct)\n\n"};
 
+/// Of all that the bundle is made of.
 std::set<std::string> keysInSources() {
   std::set<std::string> keys;
-  for (const fs::path& file : filesIn(kSources, ".cpp")) {
-    keys.merge(lookedUpKeys(readBytes(file)));
+  for (const char* room :
+       {"audition", "encoder", "factory", "keys", "listening_test", "ui", "view"}) {
+    for (const char* extension : {".cpp", ".mm"}) {
+      for (const fs::path& file : filesIn(fs::path(kSources) / room, extension)) {
+        keys.merge(lookedUpKeys(readBytes(file)));
+      }
+    }
   }
   return keys;
 }
