@@ -30,8 +30,9 @@ inter_sample_overs.
 
 Without --headless FILE is played at once, in a window with its waveform. Triangles
 above the waveform mark overs of the source, triangles below it overs of the encoded
-signal. Click to go to a place, drag to loop a stretch, turn the wheel to zoom; --seconds then closes the window after
-that time, --screenshot is written and --json printed when the window closes.
+signal. Click to go to a place, drag to loop a stretch, turn the wheel to zoom.
+--seconds then closes the window after that time, --screenshot is written and --json
+printed when the window closes.
 
 The recording holds what is played, without pauses. --set takes the bit rates 16, 20,
 24, 32, 40, 48, 56, 64, 80, 96, 128, 160, 192, 224, 256, 288 and 320 kbit/s; where the
@@ -52,11 +53,6 @@ Examples:
   aac-audition mix.wav
   aac-audition mix.wav --headless --preset 128k --json
   aac-audition mix.flac --headless --set he,abr,64 --record decoded.wav)";
-
-/// The command line parser's messages may have several lines.
-std::string firstLine(const std::string& text) {
-  return text.substr(0, text.find('\n'));
-}
 
 /// Where a path leads, however it is written.
 std::filesystem::path place(const std::filesystem::path& path) {
@@ -106,7 +102,6 @@ void check(const AuditionOptions& options) {
 std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const char* const* argv) {
   CLI::App app(description, "aac-audition");
   app.footer(footer);
-  app.set_version_flag("--version", "aac-audition 0.1.0", "Print the version and exit");
   AuditionOptions options;
   std::optional<std::string> monitor;
   std::optional<std::string> preset;
@@ -135,15 +130,7 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
   app.add_option("--channels", channels,
                  "The channels to play of a file that has more than two, by number from 1 on")
       ->type_name("L,R");
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::CallForHelp&) {
-    return HelpText{app.help()};
-  } catch (const CLI::CallForVersion& version) {
-    return HelpText{std::string(version.what()) + "\n"};
-  } catch (const CLI::ParseError& error) {
-    throw UsageError(firstLine(error.what()));
-  }
+  if (const auto text = parseArguments(app, argc, argv)) return *text;
   if (monitor) options.monitorsSource = monitorsSource(*monitor);
   if (preset) options.preset = presetIndex(*preset);
   if (channels) options.channels = parsedChannelChoice(*channels);

@@ -5,6 +5,7 @@
 #include <string>
 #include <variant>
 
+#include "host/ArgumentParsing.h"
 #include "host/ChannelChoice.h"
 #include "host/EncoderSetting.h"
 
@@ -26,11 +27,6 @@ struct AuditionOptions {
   std::optional<bool> monitorsSource;
   std::optional<std::uint32_t> preset;
   std::optional<EncoderSetting> setting;
-};
-
-/// A text to print before ending with success.
-struct HelpText {
-  std::string text;
 };
 
 /// Reads the arguments, `argv[0]` first. Throws `UsageError`.

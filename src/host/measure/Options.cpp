@@ -55,10 +55,6 @@ Examples:
   aac-measure --preset 128k --find-trim --inter-sample mix.wav
   aac-measure --set he,abr,64 --set hev2,abr,48 --json *.flac > readings.jsonl)";
 
-std::string firstLine(const std::string& text) {
-  return text.substr(0, text.find('\n'));
-}
-
 void check(const Options& options) {
   if (options.inputs.empty()) throw UsageError("there is nothing to measure: give FILE or FOLDER");
   if (options.interSample && !options.findTrim && !options.failOnOvers) {
@@ -72,7 +68,6 @@ void check(const Options& options) {
 std::variant<Options, HelpText> parsedArguments(int argc, const char* const* argv) {
   CLI::App app(description, "aac-measure");
   app.footer(footer);
-  app.set_version_flag("--version", "aac-measure 0.1.0", "Print the version and exit");
   Options options;
   options.jobs = std::max(std::thread::hardware_concurrency(), 1U);
   std::vector<std::string> presets;
@@ -106,15 +101,7 @@ std::variant<Options, HelpText> parsedArguments(int argc, const char* const* arg
       ->type_name("FOLDER");
   app.add_option("--png", options.pictures, "Draw the waveforms with their overs to this folder")
       ->type_name("FOLDER");
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::CallForHelp&) {
-    return HelpText{app.help()};
-  } catch (const CLI::CallForVersion& version) {
-    return HelpText{std::string(version.what()) + "\n"};
-  } catch (const CLI::ParseError& error) {
-    throw UsageError(firstLine(error.what()));
-  }
+  if (const auto text = parseArguments(app, argc, argv)) return *text;
   if (channels) options.channels = parsedChannelChoice(*channels);
   if (all) options.encoders = everyPreset();
   for (const auto& preset : presets) addUnlessThere(options.encoders, presetChoice(preset));

@@ -6,6 +6,7 @@
 #include <variant>
 #include <vector>
 
+#include "host/ArgumentParsing.h"
 #include "host/ChannelChoice.h"
 #include "host/measure/EncoderChoice.h"
 
@@ -28,11 +29,6 @@ struct Options {
   /// Folders for a picture, and for the bit stream, of every file and setting.
   std::optional<std::filesystem::path> pictures;
   std::optional<std::filesystem::path> bitStreams;
-};
-
-/// A text to print before ending with success.
-struct HelpText {
-  std::string text;
 };
 
 /// Reads the arguments, `argv[0]` first. Throws `UsageError`.

@@ -11,7 +11,7 @@ int main(int argc, char** argv) {
   using namespace host::measure;
   try {
     const auto parsed = parsedArguments(argc, argv);
-    if (const auto* const help = std::get_if<HelpText>(&parsed)) {
+    if (const auto* const help = std::get_if<host::HelpText>(&parsed)) {
       Console().say(help->text);
       return EXIT_SUCCESS;
     }

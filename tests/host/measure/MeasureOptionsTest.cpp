@@ -10,7 +10,7 @@ using testing::SizeIs;
 
 namespace {
 
-std::variant<Options, HelpText> parsed(std::vector<const char*> words) {
+std::variant<Options, host::HelpText> parsed(std::vector<const char*> words) {
   words.insert(words.begin(), "aac-measure");
   return parsedArguments(static_cast<int>(words.size()), words.data());
 }
@@ -74,13 +74,13 @@ TEST(Options, MakeSenseOrAreRefused) {
 }
 
 TEST(Options, AreHelpedOnRequest) {
-  const auto help = std::get<HelpText>(parsed({"--help"})).text;
+  const auto help = std::get<host::HelpText>(parsed({"--help"})).text;
   for (const char* const word :
        {"--preset", "--all", "--set", "--channels", "--find-trim", "--inter-sample",
         "--fail-on-overs", "--jobs", "--json", "--m4a", "--png", "Exit status"}) {
     EXPECT_THAT(help, HasSubstr(word));
   }
-  EXPECT_THAT(std::get<HelpText>(parsed({"--version"})).text, HasSubstr("aac-measure"));
+  EXPECT_THAT(std::get<host::HelpText>(parsed({"--version"})).text, HasSubstr("aac-measure"));
 }
 
 }  // namespace
