@@ -23,15 +23,16 @@ struct Feed {
       meter_signals::clippedMix(20000, 5.0F, 3), meter_signals::whiteNoise(20000, 1.2F, 4)};
 
   void into(SignalMeters& meters, std::size_t at, std::size_t frames) const {
-    const std::array<const float*, 2> source{planes[0].data() + at, planes[1].data() + at};
-    const std::array<const float*, 2> encoded{planes[2].data() + at, planes[3].data() + at};
-    meters.process(source.data(), encoded.data(), frames);
+    meters.process(from(0, at).data(), from(2, at).data(), frames);
   }
 
   void past(SignalMeters& meters, std::size_t at, std::size_t frames) const {
-    const std::array<const float*, 2> source{planes[0].data() + at, planes[1].data() + at};
-    const std::array<const float*, 2> encoded{planes[2].data() + at, planes[3].data() + at};
-    meters.pass(source.data(), encoded.data(), frames);
+    meters.pass(from(0, at).data(), from(2, at).data(), frames);
+  }
+
+  /// Two planes from the first one on.
+  std::array<const float*, 2> from(std::size_t plane, std::size_t at) const {
+    return {planes[plane].data() + at, planes[plane + 1].data() + at};
   }
 
   velk::TruePeakStats alone(std::size_t plane, std::size_t from, std::size_t to) const {
