@@ -1,32 +1,43 @@
 # Tests wait for their compilation longer than for themselves.
 set(VELK_TEST_OPTIONS $<$<CONFIG:Release>:-O1> $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 
-# Parsing GoogleTest takes half of a small test's compilation. A program with other compiler flags, as those
-# with Qt have, reads the headers as they are.
+# velk_test_headers(<name> LINK <target...> HEADERS <header...>)
+# Parses headers once for all tests that are compiled as this says. Parsing GoogleTest takes half of a small
+# test's compilation, and Qt takes more.
 set(CMAKE_PCH_WARN_INVALID OFF)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT VELK_SANITIZE AND NOT TARGET velk_test_headers)
-  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/test_headers.cpp CONTENT "int main() {}\n")
-  add_executable(velk_test_headers ${CMAKE_CURRENT_BINARY_DIR}/test_headers.cpp)
-  target_link_libraries(velk_test_headers PRIVATE GTest::gmock GTest::gtest_main velk_warnings)
-  target_compile_options(velk_test_headers PRIVATE ${VELK_TEST_OPTIONS})
-  target_precompile_headers(velk_test_headers PRIVATE
-    <gmock/gmock.h> <gtest/gtest.h> <functional> <memory> <string> <vector>)
-endif()
+function(velk_test_headers name)
+  cmake_parse_arguments(TEST "" "" "LINK;HEADERS" ${ARGN})
+  if(TARGET ${name} OR VELK_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    return()
+  endif()
+  set(main ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
+  file(CONFIGURE OUTPUT ${main} CONTENT "int main() {}\n")
+  add_executable(${name} ${main})
+  target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gmock GTest::gtest_main velk_warnings)
+  target_compile_options(${name} PRIVATE ${VELK_TEST_OPTIONS})
+  target_precompile_headers(${name} PRIVATE
+    <gmock/gmock.h> <gtest/gtest.h> <functional> <memory> <string> <vector> ${TEST_HEADERS})
+endfunction()
+
+velk_test_headers(velk_test_headers)
 
 # velk_test(<name> LABELS <room...> SOURCES <file...> LINK <target...> [AS_PRODUCT]
-#           [PROPERTIES <ctest properties...>])
+#           [PARSED <target>] [PROPERTIES <ctest properties...>])
 # One small GoogleTest program; every test of it carries the rooms' labels. AS_PRODUCT compiles it with the
-# products' options, where g++ 12 warns of what is not there at -O1.
+# products' options, where g++ 12 warns of what is not there at -O1. PARSED names other headers than the usual.
 function(velk_test name)
-  cmake_parse_arguments(TEST "AS_PRODUCT" "" "LABELS;SOURCES;LINK;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(TEST "AS_PRODUCT" "PARSED" "LABELS;SOURCES;LINK;PROPERTIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gmock GTest::gtest_main velk_warnings)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   if(NOT TEST_AS_PRODUCT)
     target_compile_options(${name} PRIVATE ${VELK_TEST_OPTIONS})
-    if(TARGET velk_test_headers)
-      target_precompile_headers(${name} REUSE_FROM velk_test_headers)
+    if(NOT TEST_PARSED)
+      set(TEST_PARSED velk_test_headers)
+    endif()
+    if(TARGET ${TEST_PARSED})
+      target_precompile_headers(${name} REUSE_FROM ${TEST_PARSED})
     endif()
   endif()
   gtest_discover_tests(${name}

@@ -76,7 +76,7 @@ TEST_F(Sheets, TakeClosingForCancel) {
 
 TEST_F(Sheets, TakeReturnForTheDefaultButton) {
   auto& menu = host_.outlet<QComboBox>("view.encoderPopup");
-  emit menu.activated(menu.count() - 1);
+  Q_EMIT menu.activated(menu.count() - 1);
   QWidget& sheet = host_.outlet("settingsController.settingsSheet");
   ASSERT_TRUE(sheet.isVisible());
   calls_.clear();

@@ -54,7 +54,7 @@ class Tour {
     lookAtSheet("keyController.keySettingsSheet", look);
     click("keyController.doneButton");
     auto& menu = host_.outlet<QComboBox>("view.encoderPopup");
-    emit menu.activated(menu.count() - 1);
+    Q_EMIT menu.activated(menu.count() - 1);
     lookAtSheet("settingsController.settingsSheet", look);
     unit_.hostSetsSetting({0.0F, 2.0F, 127.0F});
     host_.advance(std::chrono::milliseconds(120));

@@ -224,9 +224,9 @@ TEST(Action, ThatFailsIsLoggedAndGoesNoFurther) {
   host.advance(120ms);
   unit.failAlways(fakes::UnitCall::SetParameter, 0, -10878);
   auto& menu = host.outlet<QComboBox>("view.encoderPopup");
-  emit menu.activated(menu.count() - 1);
+  Q_EMIT menu.activated(menu.count() - 1);
   auto& type = host.outlet<QComboBox>("settingsController.typePopup");
-  EXPECT_NO_THROW(emit type.activated(1));
+  EXPECT_NO_THROW(Q_EMIT type.activated(1));
   EXPECT_THAT(log.lines(), testing::Not(IsEmpty()));
 }
 

@@ -184,7 +184,7 @@ class Album {
     menu.showPopup();
     save(*menu.view()->window(), "menu");
     menu.hidePopup();
-    emit menu.activated(menu.count() - 1);
+    Q_EMIT menu.activated(menu.count() - 1);
     QWidget& sheet = scene.host->outlet("settingsController.settingsSheet");
     save(sheet, "custom-HE");
     scene.unit.hostSetsSetting({0.0F, 1.0F, 14.0F});
