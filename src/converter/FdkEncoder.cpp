@@ -1,5 +1,6 @@
 #include <fdk-aac/aacenc_lib.h>
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 #include <string>
@@ -41,6 +42,10 @@ UINT objectType(Format format) {
   return AOT_AAC_LC;
 }
 
+/// Samples that HE is given late. Its own delay is odd, and a container that counts in samples of
+/// the core coder, which are two of these, could not say where the source begins.
+constexpr UInt32 kHeldBackByHe = 1;
+
 /// Delays measured band by band against the decoder in use: the band replication lies one sample
 /// ahead of what the encoder reports for HE.
 CodecTiming timingOf(Format format) {
@@ -48,7 +53,7 @@ CodecTiming timingOf(Format format) {
     case Format::lc:
       return {1024, 2048, 3, 0};
     case Format::he:
-      return {2048, 5057, 4, 0};
+      return {2048, 5057 + kHeldBackByHe, 4, 0};
     case Format::heV2:
       return {2048, 7106, 5, 0};
   }
@@ -96,7 +101,9 @@ class FdkEncoder final : public Encoder {
   FdkEncoder(const Setting& setting, const UnitFormat& unit)
       : timing_(timingOf(setting.format)),
         channels_(unit.channels),
-        input_(std::size_t{timing_.frameLength} * unit.channels) {
+        frame_(std::size_t{timing_.frameLength} * unit.channels),
+        heldBack_(std::size_t{setting.format == Format::he ? kHeldBackByHe : 0} * unit.channels),
+        input_(heldBack_ + frame_) {
     AACENCODER* encoder = nullptr;
     // Zero modules and channels reserve all: anything smaller overflows inside the library.
     const AACENC_ERROR opened = aacEncOpen(&encoder, 0, 0);
@@ -113,19 +120,20 @@ class FdkEncoder final : public Encoder {
   }
 
   std::span<const std::uint8_t> encode(const float* const* planes) override {
-    interleavePcm16(planes, channels_, timing_.frameLength, input_.data());
+    std::copy_n(input_.begin() + static_cast<std::ptrdiff_t>(frame_), heldBack_, input_.begin());
+    interleavePcm16(planes, channels_, timing_.frameLength, input_.data() + heldBack_);
     void* inputs[] = {input_.data()};
     void* outputs[] = {output_.data()};
     INT inputKind[] = {IN_AUDIO_DATA};
     INT outputKind[] = {OUT_BITSTREAM_DATA};
-    INT inputSize[] = {static_cast<INT>(input_.size() * sizeof(std::int16_t))};
+    INT inputSize[] = {static_cast<INT>(frame_ * sizeof(std::int16_t))};
     INT outputSize[] = {static_cast<INT>(output_.size())};
     INT inputElement[] = {sizeof(std::int16_t)};
     INT outputElement[] = {sizeof(std::uint8_t)};
     const AACENC_BufDesc in{1, inputs, inputKind, inputSize, inputElement};
     const AACENC_BufDesc out{1, outputs, outputKind, outputSize, outputElement};
     AACENC_InArgs arguments{};
-    arguments.numInSamples = static_cast<INT>(input_.size());
+    arguments.numInSamples = static_cast<INT>(frame_);
     AACENC_OutArgs result{};
     if (aacEncEncode(handle_.get(), &in, &out, &arguments, &result) != AACENC_OK) return {};
     return {output_.data(), static_cast<std::size_t>(result.numOutBytes)};
@@ -142,6 +150,9 @@ class FdkEncoder final : public Encoder {
   AACENC_InfoStruct info_{};
   CodecTiming timing_;
   UInt32 channels_;
+  /// Samples of all channels.
+  std::size_t frame_;
+  std::size_t heldBack_;
   std::vector<std::int16_t> input_;
   std::array<std::uint8_t, kLargestAccessUnit> output_{};
 };

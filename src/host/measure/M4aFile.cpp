@@ -80,7 +80,7 @@ struct M4aFile::Muxer {
     // The muxer takes its own copy: the bytes are not counted by reference.
     packet->data = const_cast<std::uint8_t*>(unit.bytes.data());
     packet->size = static_cast<int>(unit.bytes.size());
-    // A run-up that is no whole number of track units is cut one sample short: nothing is lost.
+    // The source may end amid a unit of the track.
     packet->pts = packet->dts = inTrack(unit.position, AV_ROUND_UP);
     packet->duration = inTrack(end, AV_ROUND_UP) - packet->pts;
     packet->flags = AV_PKT_FLAG_KEY;
@@ -101,8 +101,8 @@ struct M4aFile::Muxer {
   std::unique_ptr<AVPacket, FreePacket> packet;
 };
 
-M4aFile::M4aFile(std::unique_ptr<AtomicFile> file, std::int64_t frames)
-    : target_(std::move(file)), frames_(frames) {}
+M4aFile::M4aFile(std::unique_ptr<AtomicFile> file, std::int64_t frames, std::uint32_t sampleRate)
+    : target_(std::move(file)), sourceFrames_(frames), sourceRate_(sampleRate) {}
 
 M4aFile::~M4aFile() = default;
 
@@ -111,6 +111,7 @@ void M4aFile::streamBegan(const converter::BitStream& stream) noexcept {
   configuration_.assign(stream.configuration.begin(), stream.configuration.end());
   stream_ = stream;
   stream_.configuration = configuration_;
+  frames_ = av_rescale_rnd(sourceFrames_, std::lround(stream.sampleRate), sourceRate_, AV_ROUND_UP);
 }
 
 void M4aFile::accessUnitMade(const converter::AccessUnit& unit) noexcept {
@@ -133,8 +134,8 @@ void M4aFile::fail(const std::string& why) noexcept {
 }
 
 void M4aFile::finish() {
-  if (error_.empty() && next_ < frames_) fail("the encoder ended before the source");
-  if (error_.empty() && muxer_) {
+  if (error_.empty() && (!muxer_ || next_ < frames_)) fail("the encoder ended before the source");
+  if (error_.empty()) {
     const int error = muxer_->close();
     if (error < 0) fail(reason(error));
   }
