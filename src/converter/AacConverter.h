@@ -29,6 +29,7 @@ class AacConverter final : public ConverterUnit {
     renderer_.render(input, output, frames);
   }
   void reset() override { renderer_.reset(); }
+  void waitForCodec() override { renderer_.waitForCodec(); }
   void finish() override { renderer_.finish(); }
   void setBitStreamSink(BitStreamSink* sink) override { renderer_.setBitStreamSink(sink); }
 

@@ -11,7 +11,8 @@ namespace converter {
 struct BitStream {
   /// AudioSpecificConfig (ISO/IEC 14496-3). Valid during the call.
   std::span<const std::uint8_t> configuration;
-  /// Of the signal that the encoder was given and that a decoder gives, Hz.
+  /// Of the signal that the encoder was given and that a decoder gives, Hz: the unit's, or half of
+  /// it above 96 kHz.
   double sampleRate;
   UInt32 channels;
   /// Samples per channel that every access unit holds: 1024 or 2048.

@@ -82,6 +82,10 @@ class ConverterUnit : public audio_unit::Unit {
   /// around the last samples counts too. Not while `render` runs.
   virtual void finish() {}
 
+  /// Waits until the codec has done all that it was given: the bit rate, the failures and what a
+  /// bit-stream sink has been shown are then those of all audio so far. Not while `render` runs.
+  virtual void waitForCodec() {}
+
   /// Shows the access units to `sink` from now on, which has to outlive the unit or be taken away
   /// again with null; there is none at first. Does what `reset` does, so that the first unit shown
   /// is the first of the audio. Not while `render` runs. A unit that has no bit stream ignores it.

@@ -81,6 +81,10 @@ void Renderer::reset() {
   worker_.start();
 }
 
+void Renderer::waitForCodec() {
+  worker_.waitUntil([this] { return worker_.source().empty(); });
+}
+
 void Renderer::setBitStreamSink(BitStreamSink* sink) {
   worker_.stop();
   worker_.setBitStreamSink(sink);

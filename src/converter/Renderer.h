@@ -24,6 +24,7 @@ class Renderer {
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
   void reset();
   void finish() { meters_.finish(); }
+  void waitForCodec();
   void setBitStreamSink(BitStreamSink* sink);
 
   UInt32 latency() const { return latency_; }

@@ -99,6 +99,38 @@ TEST(BitStream, GivesTheUnitsInOrderWithoutAGap) {
   }
 }
 
+class BitStreamAt : public testing::TestWithParam<double> {};
+
+TEST_P(BitStreamAt, IsCompleteOnceTheCodecWasWaitedFor) {
+  Recorder recorder;
+  Rig rig({.sampleRate = GetParam(), .channels = 2, .maximumFrames = 4096});
+  rig.setOffline(false);
+  rig.unit().setBitStreamSink(&recorder);
+  rig.render(music(2, 20480, GetParam()));
+  rig.unit().waitForCodec();
+  const auto units = recorder.streams.at(0).units.size();
+  EXPECT_GT(recorder.streams[0].units.back().position, 0);
+  const auto rate = rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
+  // Nothing was left to be done.
+  rig.unit().waitForCodec();
+  rig.unit().setBitStreamSink(nullptr);
+  EXPECT_EQ(recorder.streams.at(0).units.size(), units);
+
+  Rig patient({.sampleRate = GetParam(), .channels = 2, .maximumFrames = 4096});
+  Recorder whole;
+  patient.unit().setBitStreamSink(&whole);
+  patient.render(music(2, 20480, GetParam()));
+  patient.unit().waitForCodec();
+  EXPECT_EQ(whole.streams.at(0).units.size(), units);
+  EXPECT_EQ(patient.property<converter::BitRate>(converter::kConverterProperty_BitRate).averageKbps,
+            rate.averageKbps);
+}
+
+INSTANTIATE_TEST_SUITE_P(EitherWay, BitStreamAt, testing::Values(44100.0, 192000.0),
+                         [](const auto& test) {
+                           return test.param > 96000 ? "Resampled" : "AtTheUnitsRate";
+                         });
+
 TEST(BitStream, ComesOnTheWorkersThread) {
   Recorder recorder;
   Rig rig;
