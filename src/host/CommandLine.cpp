@@ -16,8 +16,8 @@ aac-audition opens a window with the converter's view: the encoder's setting, th
 monitored signal, peaks and overs of the source and of the encoded signal, and the
 blind listening test. Without FILE it waits for one to be opened or dropped.
 WAV, AIFF, FLAC, Ogg Vorbis, Opus and MP3 files are played: mono, stereo, or two
-channels of more (--channels); sample rates other than 32, 44.1, 48, 88.2 and 96 kHz
-are converted.)";
+channels of more (--channels); sample rates other than 32, 44.1, 48, 88.2, 96, 176.4 and
+192 kHz are converted.)";
 
 constexpr const char* footer = R"(
 With --headless the same window is made off screen and FILE is run through the

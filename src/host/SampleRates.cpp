@@ -10,16 +10,17 @@ std::uint32_t unitSampleRateFor(std::uint32_t sampleRate) {
     return found == unitSampleRates.end() ? 0 : *found;
   };
   if (sampleRate > unitSampleRates.back()) {
-    // Half, a quarter or an eighth keeps 176.4 and 352.8 kHz in their own family.
-    for (const auto rate : {96000U, 88200U}) {
-      if (sampleRate % rate == 0) return rate;
-    }
-    return unitSampleRates.back();
+    // A half or a quarter keeps 352.8 and 705.6 kHz in their own family.
+    const auto part =
+        first([=](std::uint32_t rate) { return rate > 96000 && sampleRate % rate == 0; });
+    return part != 0 ? part : unitSampleRates.back();
   }
-  const auto multiple = first([=](std::uint32_t rate) { return rate % sampleRate == 0; });
-  if (multiple != 0) return multiple;
+  // Half as many again before twice as many: 64 kHz goes to 96 rather than to 192.
+  if (first([=](std::uint32_t rate) { return rate == sampleRate; }) != 0) return sampleRate;
   const auto half = first([=](std::uint32_t rate) { return rate * 2 == sampleRate * 3; });
   if (half != 0) return half;
+  const auto multiple = first([=](std::uint32_t rate) { return rate % sampleRate == 0; });
+  if (multiple != 0) return multiple;
   return first([=](std::uint32_t rate) { return rate >= sampleRate; });
 }
 

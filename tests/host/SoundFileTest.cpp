@@ -332,9 +332,10 @@ TEST(ChannelChoice, IsOneNumberOrTwo) {
 TEST(SoundFile, TellsARateOfWhichTheUnitIsCapableFromOneToBeConverted) {
   const TemporaryFolder folder;
   const std::pair<std::uint32_t, std::uint32_t> rates[] = {
-      {8000, 32000},   {11025, 44100},  {16000, 32000}, {22050, 44100}, {32000, 32000},
-      {44100, 44100},  {48000, 48000},  {88200, 88200}, {96000, 96000}, {176400, 88200},
-      {192000, 96000}, {352800, 88200}, {384000, 96000}};
+      {8000, 32000},    {11025, 44100},   {16000, 32000},   {22050, 44100},   {32000, 32000},
+      {44100, 44100},   {48000, 48000},   {88200, 88200},   {96000, 96000},   {24000, 48000},
+      {64000, 96000},   {117600, 176400}, {176400, 176400}, {192000, 192000}, {250000, 192000},
+      {352800, 176400}, {384000, 192000}, {705600, 176400}, {768000, 192000}};
   for (const auto& [file, unit] : rates) {
     writeSound(folder / "sound.wav", noise(file, 2, file / 10));
     const auto opened = host::openedForPlaying(folder / "sound.wav");

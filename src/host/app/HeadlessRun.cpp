@@ -22,7 +22,6 @@ constexpr int blocksPerTurn = 20;
 constexpr int settlingMilliseconds = 250;
 constexpr int refreshMilliseconds = 50;
 constexpr int restingMilliseconds = 10;
-constexpr int restingTurns = 4;
 
 /// Renders block after block while the event loop turns.
 class Pump {
@@ -67,20 +66,6 @@ void turnWhile(const std::function<bool()>& work, const bool& interrupted, int m
   if (error) std::rethrow_exception(error);
 }
 
-/// The encoder may be ahead of what was heard: its bit rate counts when it has come to rest, so
-/// that equal runs give equal readings.
-void waitForEncoder(Session& session, const bool& interrupted) {
-  double rate = -1;
-  int turns = 0;
-  const auto goesOn = [&] {
-    const auto now = readingsOf(session.unit(), session.format()).bitRateKbps;
-    turns = now == rate ? turns + 1 : 0;
-    rate = now;
-    return turns < restingTurns;
-  };
-  turnWhile(goesOn, interrupted, restingMilliseconds);
-}
-
 void settle(const bool& interrupted) {
   if (interrupted) return;
   QTimer::singleShot(settlingMilliseconds, [] { QApplication::exit(); });
@@ -115,7 +100,9 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   Pump pump(*audition.session(), audition.recorder());
   audition.session()->player().play();
   turnWhile([&] { return pump.turn(); }, interrupted);
-  if (!interrupted) waitForEncoder(*audition.session(), interrupted);
+  // The encoder is ahead of what was heard: its bit rate counts when it has come to rest, so that
+  // equal runs give equal readings.
+  audition.session()->unit().waitForCodec();
   if (files.screenshot) {
     const auto goesOn = [&] {
       audition.refresh();

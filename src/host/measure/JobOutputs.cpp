@@ -33,7 +33,8 @@ JobOutputs::JobOutputs(const Job& job, const Options& options, const AudioSource
   };
   if (options.pictures) picture_ = claimed(*options.pictures, ".png");
   if (options.bitStreams) {
-    bitStream_.emplace(claimed(*options.bitStreams, ".m4a"), source.frames());
+    bitStream_.emplace(claimed(*options.bitStreams, ".m4a"), source.frames(),
+                       source.format().sampleRate);
   }
 }
 

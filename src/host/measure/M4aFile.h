@@ -15,8 +15,8 @@ namespace host::measure {
 /// last.
 class M4aFile final : public converter::BitStreamSink {
  public:
-  /// Takes over the file. `frames` is the source's length.
-  M4aFile(std::unique_ptr<AtomicFile> file, std::int64_t frames);
+  /// Takes over the file. `frames` is the source's length at `sampleRate` Hz.
+  M4aFile(std::unique_ptr<AtomicFile> file, std::int64_t frames, std::uint32_t sampleRate);
   /// Without `finish` nothing is left behind.
   ~M4aFile() override;
 
@@ -33,9 +33,12 @@ class M4aFile final : public converter::BitStreamSink {
   void fail(const std::string& why) noexcept;
 
   std::unique_ptr<AtomicFile> target_;
-  const std::int64_t frames_;
+  const std::int64_t sourceFrames_;
+  const std::uint32_t sourceRate_;
   std::vector<std::uint8_t> configuration_;
   converter::BitStream stream_{};
+  /// The source's length at the stream's rate.
+  std::int64_t frames_ = 0;
   /// Made for the first access unit, whose place tells how long the run-up is.
   std::unique_ptr<Muxer> muxer_;
   /// Where the next access unit has to begin.

@@ -2,20 +2,29 @@
 
 #include <algorithm>
 
-#include "converter/Latency.h"
 #include "host/Failure.h"
 
 namespace host::measure {
+namespace {
+
+UInt64 count(converter::ConverterUnit& unit, AudioUnitPropertyID what) {
+  UInt64 value = 0;
+  UInt32 size = sizeof value;
+  unit.getProperty(what, kAudioUnitScope_Global, 0, &value, size);
+  return value;
+}
+
+}  // namespace
 
 Pass::Pass(AudioSource& source, const EncoderChoice& choice, float gain,
            converter::BitStreamSink* sink)
-    : source_(source), format_(source.format()), gain_(gain), bits_(sink) {
+    : source_(source), format_(source.format()), gain_(gain) {
   unit_ = unitFor(format_);
   const UInt32 offline = 1;
   unit_->setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &offline,
                      sizeof offline);
   apply(choice, unit_.get());
-  unit_->setBitStreamSink(&bits_);
+  unit_->setBitStreamSink(sink);
   interleaved_.resize(std::size_t{unitBlockFrames} * format_.channels);
   for (std::uint32_t channel = 0; channel < format_.channels; ++channel) {
     planes_[channel].resize(unitBlockFrames);
@@ -63,16 +72,12 @@ velk::PeakStatistics Pass::peaks() const {
 }
 
 Readings Pass::finish() {
-  const auto blocks = rendered_ / converter::kBlockFrames;
-  const auto made = blocks * converter::kBlockFrames - converter::kEncodedBehindSource;
-  UInt64 missed = 0;
-  UInt32 size = sizeof missed;
-  unit_->getProperty(converter::kConverterProperty_MissedFrames, kAudioUnitScope_Global, 0, &missed,
-                     size);
-  if (!bits_.waitUntil(made) || missed > 0)
+  unit_->waitForCodec();
+  if (count(*unit_, converter::kConverterProperty_MissedFrames) > 0 ||
+      count(*unit_, converter::kConverterProperty_CodecFailures) > 0) {
     throw Failure("the encoder failed in the middle; try another setting");
+  }
   auto readings = finalReadingsOf(*unit_, format_);
-  readings.bitRateKbps = bits_.averageKbps();
   readings.seconds = static_cast<double>(taken_) / format_.sampleRate;
   return readings;
 }

@@ -10,7 +10,6 @@
 #include "host/AudioSource.h"
 #include "host/ConverterSetup.h"
 #include "host/Readings.h"
-#include "host/measure/BitCounter.h"
 #include "host/measure/EncoderChoice.h"
 
 namespace host::measure {
@@ -19,8 +18,9 @@ namespace host::measure {
 /// decoder, as fast as it goes. One thread at a time.
 class Pass {
  public:
-  /// The encoder is given the source times `gain`. `sink` is shown the access units; it may be
-  /// null. Throws `Failure` when the encoder cannot do what was chosen.
+  /// The encoder is given the source times `gain`. `sink` is shown the access units, all of them
+  /// before `finish` returns; it may be null. Throws `Failure` when the encoder cannot do what was
+  /// chosen.
   Pass(AudioSource& source, const EncoderChoice& choice, float gain,
        converter::BitStreamSink* sink);
 
@@ -51,7 +51,6 @@ class Pass {
   AudioSource& source_;
   AudioFormat format_;
   float gain_;
-  BitCounter bits_;
   std::unique_ptr<converter::ConverterUnit> unit_;
   std::vector<float> interleaved_;
   std::array<std::vector<float>, 2> planes_;

@@ -41,6 +41,8 @@ TEST_F(Agreement, IsExactForSettingsRatesAndChannels) {
   writeSound(folder_ / "mix.wav", noise(192000, 4, 4096 * 16, 0.9F),
              SF_FORMAT_FLAC | SF_FORMAT_PCM_24);
   expectTheSame({"--set", "aac,abr,320", "--channels", "4,1"});
+  writeSound(folder_ / "mix.wav", noise(176400, 2, 176400 + 1, 1.1F));
+  expectTheSame({"--preset", "streaming"});
 }
 
 TEST_F(Agreement, IsExactForSilenceAndASingleSample) {

@@ -5,7 +5,9 @@
 #include <memory>
 
 #include "Measured.h"
+#include "MemorySource.h"
 #include "Sound.h"
+#include "host/ResampledSource.h"
 #include "ui/TemporaryFolder.h"
 
 using nlohmann::json;
@@ -31,7 +33,28 @@ struct Case {
   const char* setting;
   std::uint32_t sampleRate;
   std::size_t channels;
+
+  bool isHighEfficiency() const { return std::string(name).starts_with("he"); }
+  /// AAC knows no rate above 96 kHz.
+  std::uint32_t codecRate() const { return sampleRate > 96000 ? sampleRate / 2 : sampleRate; }
+  /// The source's length at that rate.
+  std::size_t codecFrames(std::size_t frames) const {
+    return sampleRate > 96000 ? (frames + 1) / 2 : frames;
+  }
 };
+
+/// As long as the sound says, which may be less than it holds.
+Sound resampled(Sound sound, std::uint32_t sampleRate, std::size_t frames) {
+  const auto source =
+      host::atSampleRate(std::make_unique<MemorySource>(std::move(sound)), sampleRate);
+  auto result = silence(sampleRate, source->format().channels, frames);
+  std::vector<float> interleaved(frames * result.channels());
+  EXPECT_EQ(source->read(interleaved.data(), frames), frames);
+  for (std::size_t i = 0; i < interleaved.size(); ++i) {
+    result.planes[i % result.channels()][i / result.channels()] = interleaved[i];
+  }
+  return result;
+}
 
 class BitStream : public testing::TestWithParam<Case> {
  protected:
@@ -48,17 +71,17 @@ class BitStream : public testing::TestWithParam<Case> {
     EXPECT_EQ(outcome.err, "");
     return rows(outcome).at(0);
   }
-  /// Decoded by ffmpeg, from where the edit list says to the end of the source.
+  /// Decoded by ffmpeg, from where the edit list says to the end of the source, at its rate.
   Sound decoded(std::size_t frames) {
     const auto wave = (folder_ / "decoded.wav").string();
     EXPECT_EQ(outputOf("ffmpeg -nostdin -v error -y -i '" + file() + "' -c:a pcm_f32le '" + wave +
                        "' 2>&1"),
               "");
     auto sound = readSound(wave);
-    EXPECT_GE(sound.frames(), frames);
-    EXPECT_LT(sound.frames(), frames + 2049);
-    for (auto& plane : sound.planes) plane.resize(frames);
-    return sound;
+    EXPECT_EQ(sound.sampleRate, GetParam().codecRate());
+    EXPECT_GE(sound.frames(), GetParam().codecFrames(frames));
+    EXPECT_LT(sound.frames(), GetParam().codecFrames(frames) + 2049);
+    return resampled(std::move(sound), GetParam().sampleRate, frames);
   }
 
   TemporaryFolder folder_;
@@ -73,15 +96,15 @@ TEST_P(BitStream, IsFoundGoodByAProbe) {
   ASSERT_TRUE(probe.is_object());
   const auto& stream = probe["streams"][0];
   EXPECT_EQ(stream["codec_name"], "aac");
-  EXPECT_EQ(stream["sample_rate"], std::to_string(rate));
+  EXPECT_EQ(stream["sample_rate"], std::to_string(GetParam().codecRate()));
   // A decoder of band replication allows for stereo that a later unit may bring.
-  EXPECT_EQ(stream["channels"], std::string(name).starts_with("he") ? 2U : channels);
+  const bool isHighEfficiency = GetParam().isHighEfficiency();
+  EXPECT_EQ(stream["channels"], isHighEfficiency ? 2U : channels);
   EXPECT_EQ(stream["start_pts"], 0);
-  const bool isHighEfficiency = std::string(name).starts_with("he");
   EXPECT_THAT(stream["profile"].get<std::string>(), HasSubstr(isHighEfficiency ? "HE-AAC" : "LC"));
   // To the sample of the track, which counts every other one where band replication is used.
   EXPECT_NEAR(std::stod(stream["duration"].get<std::string>()), (rate * 2 + 123.0) / rate,
-              2.0 / rate);
+              2.0 / GetParam().codecRate());
 }
 
 TEST_P(BitStream, DecodesToThePeaksThatAreReported) {
@@ -98,7 +121,9 @@ TEST_P(BitStream, DecodesToThePeaksThatAreReported) {
       clips += std::abs(sample) > 1.0F ? 1 : 0;
     }
     EXPECT_NEAR(row["encoded"][channel]["sample_peak_dbfs"], 20 * std::log10(peak), 0.001);
-    EXPECT_EQ(row["encoded"][channel]["sample_clips"], clips);
+    // The unit's filter and the test's need not agree about a sample at full scale.
+    EXPECT_LE(std::abs(row["encoded"][channel]["sample_clips"].get<std::int64_t>() - clips),
+              rate > 96000 ? 2 : 0);
     EXPECT_GT(clips, 0);
   }
 }
@@ -107,13 +132,16 @@ TEST_P(BitStream, PlaysFromTheFirstFrameOn) {
   const auto [name, setting, rate, channels] = GetParam();
   const auto sound = noise(rate, channels, rate * 2, 0.5F);
   measure(sound);
-  // Half a track unit is a sample where band replication is used.
-  EXPECT_LE(std::abs(bestLag(sound, decoded(sound.frames()), 300)), 1);
+  const auto lag = bestLag(sound, decoded(sound.frames()), 300);
+  // Parametric stereo lies half a sample before the source, however it is aligned.
+  EXPECT_LE(lag, 0);
+  EXPECT_GE(lag, std::string(name).starts_with("hev2") ? -1 : 0);
 }
 
 TEST_P(BitStream, HoldsTheBitsThatAreReported) {
   const auto [name, setting, rate, channels] = GetParam();
-  const auto row = measure(noise(rate, channels, rate * 20, 0.5F));
+  const std::size_t seconds = rate > 96000 ? 10 : 20;
+  const auto row = measure(noise(rate, channels, rate * seconds, 0.5F));
   const auto sizes =
       outputOf("ffprobe -v error -show_entries packet=size -of csv=p=0 '" + file() + "' 2>&1");
   std::istringstream lines(sizes);
@@ -123,7 +151,8 @@ TEST_P(BitStream, HoldsTheBitsThatAreReported) {
     bits += 8 * std::strtod(line.c_str(), nullptr);
   }
   // The reported rate includes the silence of the latency.
-  EXPECT_NEAR(bits / 20 / 1000 / row["bit_rate_kbps"].get<double>(), 1.0, 0.03);
+  EXPECT_NEAR(bits / static_cast<double>(seconds) / 1000 / row["bit_rate_kbps"].get<double>(), 1.0,
+              0.03);
 }
 
 INSTANTIATE_TEST_SUITE_P(M4a, BitStream,
@@ -131,9 +160,12 @@ INSTANTIATE_TEST_SUITE_P(M4a, BitStream,
                                          Case{"aac-abr-64", "aac,abr,64", 48000, 1},
                                          Case{"he-abr-64", "he,abr,64", 44100, 2},
                                          Case{"he-vbr-60", "he,vbr,60", 48000, 1},
-                                         Case{"hev2-abr-48", "hev2,abr,48", 44100, 2}),
+                                         Case{"hev2-abr-48", "hev2,abr,48", 44100, 2},
+                                         Case{"aac-vbrc-256", "aac,vbrc,256", 192000, 2},
+                                         Case{"he-abr-64", "he,abr,64", 176400, 2}),
                          [](const auto& test) {
-                           std::string name = test.param.name;
+                           auto name = test.param.name + std::string("-at-") +
+                                       std::to_string(test.param.sampleRate);
                            std::replace(name.begin(), name.end(), '-', '_');
                            return name;
                          });
