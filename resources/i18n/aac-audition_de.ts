@@ -25,6 +25,205 @@
     </message>
 </context>
 <context>
+    <name>host::Message</name>
+    <message>
+        <source>cannot write &apos;%1&apos;: it is a folder; give the path of a file</source>
+        <translation>„%1“ kann nicht geschrieben werden: Das ist ein Ordner; geben Sie den Pfad einer Datei an</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; choose another place</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2; wählen Sie einen anderen Ort</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: it is not an ordinary file; choose another name</source>
+        <translation>„%1“ kann nicht geschrieben werden: Das ist keine gewöhnliche Datei; wählen Sie einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; choose another name</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2; wählen Sie einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; choose a folder that can be written to</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2; wählen Sie einen Ordner, in den Sie schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>cannot make the converter: %1</source>
+        <translation>Der Konverter lässt sich nicht anlegen: %1</translation>
+    </message>
+    <message>
+        <source>there is no device &apos;%1&apos;; give one of: %2</source>
+        <translation>Es gibt kein Gerät „%1“; geben Sie eines von diesen an: %2</translation>
+    </message>
+    <message>
+        <source>the converter refused the encoder setting (status %1); choose another one</source>
+        <translation>Der Konverter hat die Encoder-Einstellung abgelehnt (Status %1); wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its encoder setting (status %1)</source>
+        <translation>Der Konverter nennt seine Encoder-Einstellung nicht (Status %1)</translation>
+    </message>
+    <message>
+        <source>the converter does not do %1 for this file; choose the format he or aac</source>
+        <translation>Der Konverter kann %1 für diese Datei nicht; wählen Sie das Format he oder aac</translation>
+    </message>
+    <message>
+        <source>the converter does not do %1 for this file; choose the format aac</source>
+        <translation>Der Konverter kann %1 für diese Datei nicht; wählen Sie das Format aac</translation>
+    </message>
+    <message>
+        <source>the converter refused the preset (status %1); choose another one</source>
+        <translation>Der Konverter hat die Voreinstellung abgelehnt (Status %1); wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its bit rate (status %1)</source>
+        <translation>Der Konverter nennt seine Bitrate nicht (Status %1)</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its monitored signal (status %1)</source>
+        <translation>Der Konverter nennt das abgehörte Signal nicht (Status %1)</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its peak statistics (status %1)</source>
+        <translation>Der Konverter nennt seine Spitzenwerte nicht (Status %1)</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; nothing was kept</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2; nichts wurde behalten</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: the disk may be full; nothing was kept</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Datenträger ist vielleicht voll; nichts wurde behalten</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: the disk was too slow for %2 frames; record to a faster disk</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Datenträger war für %2 Abtastwerte zu langsam; nehmen Sie auf einem schnelleren auf</translation>
+    </message>
+    <message>
+        <source>cannot resample from %1 to %2 Hz: %3; convert the file to 44100 or 48000 Hz first</source>
+        <translation>Umrechnen von %1 auf %2 Hz geht nicht: %3; wandeln Sie die Datei zuerst in 44100 oder 48000 Hz um</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>unbekannter Fehler</translation>
+    </message>
+    <message>
+        <source>cannot play to &apos;%1&apos;: %2; choose another device</source>
+        <translation>Auf „%1“ kann nicht gespielt werden: %2; wählen Sie ein anderes Gerät</translation>
+    </message>
+    <message>
+        <source>it is mono</source>
+        <translation>Es ist einkanalig</translation>
+    </message>
+    <message>
+        <source>it does not do %1 Hz</source>
+        <translation>Es kann %1 Hz nicht</translation>
+    </message>
+    <message>
+        <source>it has stopped</source>
+        <translation>Es ist stehen geblieben</translation>
+    </message>
+    <message>
+        <source>the device &apos;%1&apos; has failed: %2</source>
+        <translation>Das Gerät „%1“ ist ausgefallen: %2</translation>
+    </message>
+    <message>
+        <source>cannot read &apos;%1&apos;: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file; give the path of a sound file</source>
+        <translation>Es gibt keine solche Datei; geben Sie den Pfad einer Tondatei an</translation>
+    </message>
+    <message>
+        <source>%1; check the path and its permissions</source>
+        <translation>%1; prüfen Sie den Pfad und seine Rechte</translation>
+    </message>
+    <message>
+        <source>it is a folder; give the path of a sound file</source>
+        <translation>Das ist ein Ordner; geben Sie den Pfad einer Tondatei an</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file; give the path of a sound file</source>
+        <translation>Das ist keine gewöhnliche Datei; geben Sie den Pfad einer Tondatei an</translation>
+    </message>
+    <message>
+        <source>the file is empty; give a file that holds audio</source>
+        <translation>Die Datei ist leer; geben Sie eine an, die Ton enthält</translation>
+    </message>
+    <message>
+        <source>it holds no audio; give a file with at least one sample</source>
+        <translation>Sie enthält keinen Ton; geben Sie eine Datei mit mindestens einem Abtastwert an</translation>
+    </message>
+    <message>
+        <source>%1; give a WAV, AIFF, FLAC, Ogg or MP3 file</source>
+        <translation>%1; geben Sie eine WAV-, AIFF-, FLAC-, Ogg- oder MP3-Datei an</translation>
+    </message>
+    <message>
+        <source>its sample rate is %1 Hz; give a file from 2 to 768 kHz</source>
+        <translation>Ihre Abtastrate ist %1 Hz; geben Sie eine Datei von 2 bis 768 kHz an</translation>
+    </message>
+    <message>
+        <source>cannot read &apos;%1&apos;: it has %2 channels; give a mono or stereo file, or choose two of them with --channels, such as 1,2</source>
+        <translation>„%1“ kann nicht gelesen werden: Sie hat %2 Kanäle; geben Sie eine Mono- oder Stereodatei an, oder wählen Sie mit --channels zwei davon, etwa 1,2</translation>
+    </message>
+    <message>
+        <source>it has no channel %1; give channels from 1 to %2</source>
+        <translation>Sie hat keinen Kanal %1; geben Sie Kanäle von 1 bis %2 an</translation>
+    </message>
+    <message>
+        <source>cannot show the converter&apos;s view: %1; build or install &apos;%2&apos; again</source>
+        <translation>Die Ansicht des Konverters lässt sich nicht zeigen: %1; bauen oder installieren Sie „%2“ erneut</translation>
+    </message>
+    <message>
+        <source>its bundle is missing</source>
+        <translation>Ihr Bundle fehlt</translation>
+    </message>
+    <message>
+        <source>its bundle cannot be loaded (%1)</source>
+        <translation>Ihr Bundle lässt sich nicht laden (%1)</translation>
+    </message>
+    <message>
+        <source>its bundle has no entry</source>
+        <translation>Ihr Bundle hat keinen Einstiegspunkt</translation>
+    </message>
+    <message>
+        <source>its bundle has no factory</source>
+        <translation>Ihr Bundle hat keine Factory</translation>
+    </message>
+    <message>
+        <source>its bundle gave none</source>
+        <translation>Ihr Bundle hat keine geliefert</translation>
+    </message>
+    <message>
+        <source>the converter refused the monitored signal</source>
+        <translation>Der Konverter hat das abzuhörende Signal abgelehnt</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; add --headless FILE</source>
+        <translation>Es gibt keinen Bildschirm für ein Fenster; fügen Sie --headless DATEI hinzu</translation>
+    </message>
+    <message>
+        <source>cannot show the converter&apos;s view: it is made for another toolkit</source>
+        <translation>Die Ansicht des Konverters lässt sich nicht zeigen: Sie ist für ein anderes Toolkit gemacht</translation>
+    </message>
+    <message>
+        <source>cannot write to standard output</source>
+        <translation>In die Standardausgabe kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>interrupted; nothing was written</source>
+        <translation>unterbrochen; nichts wurde geschrieben</translation>
+    </message>
+</context>
+<context>
     <name>host::app::AnalysisIndicator</name>
     <message>
         <source>Reading: %1 %</source>
@@ -76,10 +275,6 @@
     <message>
         <source>No device</source>
         <translation>Kein Gerät</translation>
-    </message>
-    <message>
-        <source>Silent: the device %1</source>
-        <translation>Stumm: Gerät %1</translation>
     </message>
     <message>
         <source>The file cannot be read fast enough</source>

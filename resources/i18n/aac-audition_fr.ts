@@ -25,6 +25,205 @@
     </message>
 </context>
 <context>
+    <name>host::Message</name>
+    <message>
+        <source>cannot write &apos;%1&apos;: it is a folder; give the path of a file</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: c’est un dossier&#xa0;; indiquez le chemin d’un fichier</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; choose another place</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2&#xa0;; choisissez un autre emplacement</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: it is not an ordinary file; choose another name</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: ce n’est pas un fichier ordinaire&#xa0;; choisissez un autre nom</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; choose another name</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2&#xa0;; choisissez un autre nom</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; choose a folder that can be written to</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2&#xa0;; choisissez un dossier accessible en écriture</translation>
+    </message>
+    <message>
+        <source>cannot make the converter: %1</source>
+        <translation>impossible de créer le convertisseur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>there is no device &apos;%1&apos;; give one of: %2</source>
+        <translation>l’appareil «&#xa0;%1&#xa0;» n’existe pas&#xa0;; indiquez l’un de ceux-ci&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the converter refused the encoder setting (status %1); choose another one</source>
+        <translation>le convertisseur a refusé le réglage de l’encodeur (état %1)&#xa0;; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its encoder setting (status %1)</source>
+        <translation>le convertisseur n’indique pas le réglage de son encodeur (état %1)</translation>
+    </message>
+    <message>
+        <source>the converter does not do %1 for this file; choose the format he or aac</source>
+        <translation>le convertisseur ne prend pas en charge %1 pour ce fichier&#xa0;; choisissez le format he ou aac</translation>
+    </message>
+    <message>
+        <source>the converter does not do %1 for this file; choose the format aac</source>
+        <translation>le convertisseur ne prend pas en charge %1 pour ce fichier&#xa0;; choisissez le format aac</translation>
+    </message>
+    <message>
+        <source>the converter refused the preset (status %1); choose another one</source>
+        <translation>le convertisseur a refusé le préréglage (état %1)&#xa0;; choisissez-en un autre</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its bit rate (status %1)</source>
+        <translation>le convertisseur n’indique pas son débit (état %1)</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its monitored signal (status %1)</source>
+        <translation>le convertisseur n’indique pas le signal écouté (état %1)</translation>
+    </message>
+    <message>
+        <source>the converter does not tell its peak statistics (status %1)</source>
+        <translation>le convertisseur n’indique pas ses statistiques de crête (état %1)</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: %2; nothing was kept</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: %2&#xa0;; rien n’a été conservé</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: the disk may be full; nothing was kept</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: le disque est peut-être plein&#xa0;; rien n’a été conservé</translation>
+    </message>
+    <message>
+        <source>cannot write &apos;%1&apos;: the disk was too slow for %2 frames; record to a faster disk</source>
+        <translation>impossible d’écrire «&#xa0;%1&#xa0;»&#xa0;: le disque a été trop lent pour %2 échantillons&#xa0;; enregistrez sur un disque plus rapide</translation>
+    </message>
+    <message>
+        <source>cannot resample from %1 to %2 Hz: %3; convert the file to 44100 or 48000 Hz first</source>
+        <translation>impossible de rééchantillonner de %1 à %2 Hz&#xa0;: %3&#xa0;; convertissez d’abord le fichier en 44100 ou 48000 Hz</translation>
+    </message>
+    <message>
+        <source>unknown error</source>
+        <translation>erreur inconnue</translation>
+    </message>
+    <message>
+        <source>cannot play to &apos;%1&apos;: %2; choose another device</source>
+        <translation>impossible de lire sur «&#xa0;%1&#xa0;»&#xa0;: %2&#xa0;; choisissez un autre appareil</translation>
+    </message>
+    <message>
+        <source>it is mono</source>
+        <translation>il est mono</translation>
+    </message>
+    <message>
+        <source>it does not do %1 Hz</source>
+        <translation>il ne prend pas en charge %1 Hz</translation>
+    </message>
+    <message>
+        <source>it has stopped</source>
+        <translation>il s’est arrêté</translation>
+    </message>
+    <message>
+        <source>the device &apos;%1&apos; has failed: %2</source>
+        <translation>l’appareil «&#xa0;%1&#xa0;» est en panne&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>cannot read &apos;%1&apos;: %2</source>
+        <translation>impossible de lire «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file; give the path of a sound file</source>
+        <translation>ce fichier n’existe pas&#xa0;; indiquez le chemin d’un fichier audio</translation>
+    </message>
+    <message>
+        <source>%1; check the path and its permissions</source>
+        <translation>%1&#xa0;; vérifiez le chemin et ses droits d’accès</translation>
+    </message>
+    <message>
+        <source>it is a folder; give the path of a sound file</source>
+        <translation>c’est un dossier&#xa0;; indiquez le chemin d’un fichier audio</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file; give the path of a sound file</source>
+        <translation>ce n’est pas un fichier ordinaire&#xa0;; indiquez le chemin d’un fichier audio</translation>
+    </message>
+    <message>
+        <source>the file is empty; give a file that holds audio</source>
+        <translation>le fichier est vide&#xa0;; indiquez un fichier qui contient du son</translation>
+    </message>
+    <message>
+        <source>it holds no audio; give a file with at least one sample</source>
+        <translation>il ne contient pas de son&#xa0;; indiquez un fichier d’au moins un échantillon</translation>
+    </message>
+    <message>
+        <source>%1; give a WAV, AIFF, FLAC, Ogg or MP3 file</source>
+        <translation>%1&#xa0;; indiquez un fichier WAV, AIFF, FLAC, Ogg ou MP3</translation>
+    </message>
+    <message>
+        <source>its sample rate is %1 Hz; give a file from 2 to 768 kHz</source>
+        <translation>sa fréquence d’échantillonnage est de %1 Hz&#xa0;; indiquez un fichier de 2 à 768 kHz</translation>
+    </message>
+    <message>
+        <source>cannot read &apos;%1&apos;: it has %2 channels; give a mono or stereo file, or choose two of them with --channels, such as 1,2</source>
+        <translation>impossible de lire «&#xa0;%1&#xa0;»&#xa0;: il comporte %2 canaux&#xa0;; indiquez un fichier mono ou stéréo, ou choisissez deux canaux avec --channels, par exemple 1,2</translation>
+    </message>
+    <message>
+        <source>it has no channel %1; give channels from 1 to %2</source>
+        <translation>il n’a pas de canal %1&#xa0;; indiquez des canaux de 1 à %2</translation>
+    </message>
+    <message>
+        <source>cannot show the converter&apos;s view: %1; build or install &apos;%2&apos; again</source>
+        <translation>impossible d’afficher la vue du convertisseur&#xa0;: %1&#xa0;; recompilez ou réinstallez «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>its bundle is missing</source>
+        <translation>son bundle est absent</translation>
+    </message>
+    <message>
+        <source>its bundle cannot be loaded (%1)</source>
+        <translation>son bundle ne peut pas être chargé (%1)</translation>
+    </message>
+    <message>
+        <source>its bundle has no entry</source>
+        <translation>son bundle n’a pas de point d’entrée</translation>
+    </message>
+    <message>
+        <source>its bundle has no factory</source>
+        <translation>son bundle n’a pas de fabrique</translation>
+    </message>
+    <message>
+        <source>its bundle gave none</source>
+        <translation>son bundle n’en a fourni aucune</translation>
+    </message>
+    <message>
+        <source>the converter refused the monitored signal</source>
+        <translation>le convertisseur a refusé le signal à écouter</translation>
+    </message>
+    <message>
+        <source>there is no display to open a window on; add --headless FILE</source>
+        <translation>il n’y a pas d’écran où ouvrir une fenêtre&#xa0;; ajoutez --headless FICHIER</translation>
+    </message>
+    <message>
+        <source>cannot show the converter&apos;s view: it is made for another toolkit</source>
+        <translation>impossible d’afficher la vue du convertisseur&#xa0;: elle est faite pour une autre boîte à outils</translation>
+    </message>
+    <message>
+        <source>cannot write to standard output</source>
+        <translation>impossible d’écrire sur la sortie standard</translation>
+    </message>
+    <message>
+        <source>interrupted; nothing was written</source>
+        <translation>interrompu ; rien n’a été écrit</translation>
+    </message>
+</context>
+<context>
     <name>host::app::AnalysisIndicator</name>
     <message>
         <source>Reading: %1 %</source>
@@ -76,10 +275,6 @@
     <message>
         <source>No device</source>
         <translation>Aucun appareil</translation>
-    </message>
-    <message>
-        <source>Silent: the device %1</source>
-        <translation>Muet : appareil %1</translation>
     </message>
     <message>
         <source>The file cannot be read fast enough</source>

@@ -95,7 +95,7 @@ void Analysis::cancel() {
 
 void Analysis::restart() {
   if (step_ != Step::Cancelled && step_ != Step::Failed) return;
-  failure_.clear();
+  failure_ = {};
   if (!waveformIsKnown_) {
     startWaveform();
   } else {

@@ -5,12 +5,12 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "contract/ConverterInterface.h"
 #include "host/AudioSource.h"
 #include "host/BackgroundWork.h"
 #include "host/EncoderSetting.h"
+#include "host/Message.h"
 #include "host/SharedOverview.h"
 
 namespace host {
@@ -32,7 +32,7 @@ class Analysis {
     /// Of the step.
     double share = 0;
     /// Why it failed.
-    std::string failure;
+    Message failure;
     /// Inter-sample overs of all channels in the whole encoded file, once it is done.
     std::int64_t encodedOvers = 0;
   };
@@ -72,7 +72,7 @@ class Analysis {
   bool testRuns_ = false;
   Step step_ = Step::Waveform;
   bool waveformIsKnown_ = false;
-  std::string failure_;
+  Message failure_;
   std::shared_ptr<velk::PeakStatistics> result_;
   std::int64_t encodedOvers_ = 0;
   velk::PeakStatistics heard_{};

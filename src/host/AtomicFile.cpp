@@ -12,8 +12,14 @@
 namespace host {
 namespace {
 
-[[noreturn]] void refuse(const std::filesystem::path& path, const std::string& why) {
-  throw Failure("cannot write '" + path.string() + "': " + why);
+[[noreturn]] void refuseFolder(const std::filesystem::path& path) {
+  throw Failure(Message::words("cannot write '%1': it is a folder; give the path of a file"),
+                {path.string()});
+}
+
+[[noreturn]] void refusePlace(const std::filesystem::path& path, const std::string& why) {
+  throw Failure(Message::words("cannot write '%1': %2; choose another place"),
+                {path.string(), why});
 }
 
 std::string reason(int error) {
@@ -24,27 +30,33 @@ void requireReplaceable(const std::filesystem::path& path) {
   std::error_code error;
   const auto status = std::filesystem::status(path, error);
   if (status.type() == std::filesystem::file_type::not_found) return;
-  if (error) refuse(path, error.message() + "; choose another place");
-  if (status.type() == std::filesystem::file_type::directory) {
-    refuse(path, "it is a folder; give the path of a file");
-  }
+  if (error) refusePlace(path, error.message());
+  if (status.type() == std::filesystem::file_type::directory) refuseFolder(path);
   if (status.type() != std::filesystem::file_type::regular) {
-    refuse(path, "it is not an ordinary file; choose another name");
+    throw Failure(
+        Message::words("cannot write '%1': it is not an ordinary file; choose another name"),
+        {path.string()});
   }
-  if (::access(path.c_str(), W_OK) != 0) refuse(path, reason(errno) + "; choose another name");
+  if (::access(path.c_str(), W_OK) != 0) {
+    throw Failure(Message::words("cannot write '%1': %2; choose another name"),
+                  {path.string(), reason(errno)});
+  }
 }
 
 }  // namespace
 
 AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path) {
-  if (!path.has_filename()) refuse(path, "it is a folder; give the path of a file");
+  if (!path.has_filename()) refuseFolder(path);
   requireReplaceable(path);
   // A link keeps pointing to where it does: the file behind it is replaced.
   std::error_code error;
   if (std::filesystem::is_symlink(path, error)) path_ = std::filesystem::weakly_canonical(path);
   std::string name = path_.string() + ".part-XXXXXX";
   const int descriptor = ::mkostemp(name.data(), O_CLOEXEC);
-  if (descriptor < 0) refuse(path, reason(errno) + "; choose a folder that can be written to");
+  if (descriptor < 0) {
+    throw Failure(Message::words("cannot write '%1': %2; choose a folder that can be written to"),
+                  {path.string(), reason(errno)});
+  }
   const auto mask = ::umask(0);
   ::umask(mask);
   ::fchmod(descriptor, 0666 & ~mask);
@@ -58,7 +70,7 @@ AtomicFile::~AtomicFile() {
 
 void AtomicFile::commit() {
   if (::rename(temporary_.c_str(), path_.c_str()) != 0) {
-    refuse(path_, reason(errno) + "; choose another place");
+    refusePlace(path_, reason(errno));
   }
   committed_ = true;
 }

@@ -6,6 +6,8 @@
 #include <exception>
 #include <utility>
 
+#include "host/Failure.h"
+
 namespace host {
 namespace {
 
@@ -31,6 +33,8 @@ void BackgroundWork::run(const std::function<void(Progress&)>& work) noexcept {
   stepBehind();
   try {
     work(progress_);
+  } catch (const Failure& failure) {
+    failure_ = failure.message();
   } catch (const std::exception& error) {
     failure_ = error.what();
   }

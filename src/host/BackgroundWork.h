@@ -2,9 +2,9 @@
 
 #include <atomic>
 #include <functional>
-#include <string>
 #include <thread>
 
+#include "host/Message.h"
 #include "host/Progress.h"
 
 namespace host {
@@ -24,13 +24,13 @@ class BackgroundWork {
   /// Whether it has ended, however that came.
   bool hasEnded() const { return ended_.load(std::memory_order_acquire); }
   /// Once it has ended: what went wrong, or nothing.
-  const std::string& failure() const { return failure_; }
+  const Message& failure() const { return failure_; }
 
  private:
   void run(const std::function<void(Progress&)>& work) noexcept;
 
   Progress progress_;
-  std::string failure_;
+  Message failure_;
   std::atomic<bool> ended_{false};
   std::thread thread_;
 };

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "host/Failure.h"
@@ -18,8 +19,8 @@ ChannelChoice parsedChannelChoice(std::string_view text);
 /// A file has more than two channels, and nobody has said which of them to take.
 class TooManyChannels : public Failure {
  public:
-  TooManyChannels(const std::string& what, std::uint32_t channels)
-      : Failure(what), channels_(channels) {}
+  TooManyChannels(Message message, std::uint32_t channels)
+      : Failure(std::move(message)), channels_(channels) {}
 
   std::uint32_t channels() const { return channels_; }
 

@@ -1,7 +1,6 @@
 #include "host/ConverterSetup.h"
 
 #include <exception>
-#include <string>
 
 #include "host/Failure.h"
 
@@ -15,7 +14,7 @@ std::unique_ptr<converter::ConverterUnit> unitFor(AudioFormat format) {
   try {
     return converter::ConverterUnit::make(unitFormat);
   } catch (const std::exception& error) {
-    throw Failure(std::string("cannot make the converter: ") + error.what());
+    throw Failure(Message::words("cannot make the converter: %1"), {error.what()});
   }
 }
 

@@ -73,7 +73,8 @@ Device requiredDevice(const std::vector<Device>& devices, std::string_view name)
   if (device) return *std::move(device);
   std::string names = "none";
   for (const auto& each : devices) names += ", '" + each.name + "'";
-  throw Failure("there is no device '" + std::string(name) + "'; give one of: " + names);
+  throw Failure(Message::words("there is no device '%1'; give one of: %2"),
+                {std::string(name), names});
 }
 
 std::vector<Device> inOrderOfPreference(std::vector<Device> devices) {

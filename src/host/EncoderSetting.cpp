@@ -54,8 +54,9 @@ void setParameter(AudioUnit unit, AudioUnitParameterID id, std::uint32_t value) 
   const auto status =
       AUParameterSet(nullptr, nullptr, &parameter, static_cast<AudioUnitParameterValue>(value), 0);
   if (status != noErr) {
-    throw Failure("the converter refused the encoder setting (status " + std::to_string(status) +
-                  "); choose another one");
+    throw Failure(
+        Message::words("the converter refused the encoder setting (status %1); choose another one"),
+        {status});
   }
 }
 
@@ -63,8 +64,9 @@ std::uint32_t parameter(AudioUnit unit, AudioUnitParameterID id) {
   AudioUnitParameterValue value = 0;
   const auto status = AudioUnitGetParameter(unit, id, kAudioUnitScope_Global, 0, &value);
   if (status != noErr) {
-    throw Failure("the converter does not tell its encoder setting (status " +
-                  std::to_string(status) + ")");
+    throw Failure(
+        host::Message::words("the converter does not tell its encoder setting (status %1)"),
+        {status});
   }
   return static_cast<std::uint32_t>(std::max(value, 0.0F));
 }
@@ -143,9 +145,11 @@ void applyEncoderSetting(AudioUnit unit, const EncoderSetting& setting) {
       AudioUnitGetProperty(unit, kAudioUnitProperty_ParameterInfo, kAudioUnitScope_Global,
                            velk::kConverterParam_Format, &info, &size);
   if (status == noErr && static_cast<float>(setting.format) > info.maxValue) {
-    throw Failure("the converter does not do " + formatName(setting.format) +
-                  " for this file; choose the format " +
-                  (info.maxValue >= 1 ? "he or aac" : "aac"));
+    throw Failure(info.maxValue >= 1 ? Message::words("the converter does not do %1 for this file; "
+                                                      "choose the format he or aac")
+                                     : Message::words("the converter does not do %1 for this file; "
+                                                      "choose the format aac"),
+                  {formatName(setting.format)});
   }
   setParameter(unit, velk::kConverterParam_Format, setting.format);
   setParameter(unit, velk::kConverterParam_Strategy, setting.strategy);
@@ -169,8 +173,9 @@ void applyPreset(AudioUnit unit, std::uint32_t index) {
     CFRelease(presets);
   }
   if (status != noErr) {
-    throw Failure("the converter refused the preset (status " + std::to_string(status) +
-                  "); choose another one");
+    throw Failure(
+        Message::words("the converter refused the preset (status %1); choose another one"),
+        {status});
   }
 }
 

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "host/Message.h"
+
 namespace host {
 
 /// Something that keeps asking a renderer for blocks, from its making until it is destroyed.
@@ -19,7 +21,7 @@ class Output {
   /// Frames from the renderer to the ear, as far as the device tells.
   virtual std::uint32_t latency() const = 0;
   /// Why it does not run any more; empty while it does. Main thread; to be asked now and then.
-  virtual std::string failure() = 0;
+  virtual Message failure() = 0;
 };
 
 }  // namespace host

@@ -7,14 +7,11 @@ namespace host {
 namespace {
 
 template <class Data>
-Data property(AudioUnit unit, AudioUnitPropertyID id, const char* what) {
+Data property(AudioUnit unit, AudioUnitPropertyID id, Message::Words complaint) {
   Data data{};
   UInt32 size = sizeof data;
   const auto status = AudioUnitGetProperty(unit, id, kAudioUnitScope_Global, 0, &data, &size);
-  if (status != noErr) {
-    throw Failure(std::string("the converter does not tell its ") + what + " (status " +
-                  std::to_string(status) + ")");
-  }
+  if (status != noErr) throw Failure(complaint, {status});
   return data;
 }
 
@@ -40,11 +37,15 @@ Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format) {
   readings.format = format;
   readings.setting = encoderSettingOf(&unit);
   readings.bitRateKbps = static_cast<double>(
-      property<converter::BitRate>(&unit, converter::kConverterProperty_BitRate, "bit rate")
+      property<converter::BitRate>(
+          &unit, converter::kConverterProperty_BitRate,
+          Message::words("the converter does not tell its bit rate (status %1)"))
           .averageKbps);
   readings.latencySamples = unit.latency();
   readings.monitorsSource =
-      property<UInt32>(&unit, velk::kConverterProperty_MonitorSource, "monitored signal") != 0;
+      property<UInt32>(
+          &unit, velk::kConverterProperty_MonitorSource,
+          Message::words("the converter does not tell its monitored signal (status %1)")) != 0;
   readPeaks(unit, readings);
   return readings;
 }
@@ -55,8 +56,9 @@ Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format) {
 }
 
 velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit) {
-  return property<velk::PeakStatistics>(&unit, velk::kConverterProperty_PeakStats,
-                                        "peak statistics");
+  return property<velk::PeakStatistics>(
+      &unit, velk::kConverterProperty_PeakStats,
+      host::Message::words("the converter does not tell its peak statistics (status %1)"));
 }
 
 }  // namespace host

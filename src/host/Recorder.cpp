@@ -38,7 +38,8 @@ Recorder::Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format)
   info.format = SF_FORMAT_RF64 | SF_FORMAT_FLOAT;
   file_.reset(sf_open(target_->temporaryPath().c_str(), SFM_WRITE, &info));
   if (!file_) {
-    throw Failure("cannot write '" + target_->path().string() + "': " + sf_strerror(nullptr));
+    throw Failure(Message::words("cannot write '%1': %2"),
+                  {target_->path().string(), sf_strerror(nullptr)});
   }
   sf_command(handle(file_.get()), SFC_RF64_AUTO_DOWNGRADE, nullptr, SF_TRUE);
   writer_ = std::thread([this] { write(); });
@@ -68,7 +69,7 @@ void Recorder::hear(const float* const* planes, std::uint32_t frames) noexcept {
   }
 }
 
-std::string Recorder::failure() const {
+Message Recorder::failure() const {
   const std::lock_guard lock(mutex_);
   return error_;
 }
@@ -92,7 +93,8 @@ void Recorder::writeReadable(std::unique_lock<std::mutex>& lock) {
     const bool failed = written != static_cast<sf_count_t>(samples);
     const std::string error = failed ? sf_strerror(handle(file_.get())) : "";
     lock.lock();
-    if (failed && error_.empty()) error_ = error.empty() ? "the disk is full" : error;
+    if (failed && error_.empty())
+      error_ = error.empty() ? Message::words("the disk is full") : Message(error);
     madeRoom_.notify_all();
   }
 }
@@ -119,13 +121,17 @@ void Recorder::finish() {
   stop();
   const auto path = target_->path().string();
   const bool closed = sf_close(handle(file_.release())) == 0;
-  if (!error_.empty() || !closed) {
-    throw Failure("cannot write '" + path + "': " +
-                  (error_.empty() ? "the disk may be full" : error_) + "; nothing was kept");
+  if (!error_.empty()) {
+    throw Failure(Message::words("cannot write '%1': %2; nothing was kept"), {path, error_});
+  }
+  if (!closed) {
+    throw Failure(Message::words("cannot write '%1': the disk may be full; nothing was kept"),
+                  {path});
   }
   if (lostFrames_ > 0) {
-    throw Failure("cannot write '" + path + "': the disk was too slow for " +
-                  std::to_string(lostFrames_) + " frames; record to a faster disk");
+    throw Failure(Message::words("cannot write '%1': the disk was too slow for %2 frames; "
+                                 "record to a faster disk"),
+                  {path, lostFrames_.load()});
   }
   target_->commit();
 }

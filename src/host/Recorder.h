@@ -5,13 +5,13 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
-#include <string>
 #include <thread>
 #include <vector>
 
 #include "host/AtomicFile.h"
 #include "host/AudioSource.h"
 #include "host/BlockRenderer.h"
+#include "host/Message.h"
 #include "host/SampleRing.h"
 
 namespace host {
@@ -26,7 +26,7 @@ class Recorder : public AudioTap {
 
   void hear(const float* const* planes, std::uint32_t frames) noexcept override;
   /// What went wrong so far, or nothing. Any thread but the audio thread.
-  std::string failure() const;
+  Message failure() const;
   /// Waits until a block of `frames` frames fits. For rendering faster than real time.
   void waitForRoom(std::uint32_t frames);
   /// Writes what is left and gives the file its name. Throws `Failure` when anything was lost on
@@ -54,7 +54,7 @@ class Recorder : public AudioTap {
   std::condition_variable wakeWriter_;
   std::condition_variable madeRoom_;
   bool stop_ = false;
-  std::string error_;
+  Message error_;
   std::thread writer_;
 };
 

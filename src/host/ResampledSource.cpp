@@ -52,10 +52,11 @@ void ResampledSource::restart() {
   resampler_.reset(soxr_create(original_->format().sampleRate, format_.sampleRate, format_.channels,
                                &error, &samples, &quality, &threads));
   if (!resampler_) {
-    throw Failure("cannot resample from " + std::to_string(original_->format().sampleRate) +
-                  " to " + std::to_string(format_.sampleRate) +
-                  " Hz: " + (error != nullptr ? error : "unknown error") +
-                  "; convert the file to 44100 or 48000 Hz first");
+    throw Failure(
+        Message::words("cannot resample from %1 to %2 Hz: %3; convert the file to 44100 or "
+                       "48000 Hz first"),
+        {original_->format().sampleRate, format_.sampleRate,
+         error != nullptr ? Message(error) : Message::words("unknown error")});
   }
   inputBegin_ = inputEnd_ = 0;
   inputEnded_ = false;

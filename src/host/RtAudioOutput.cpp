@@ -26,7 +26,7 @@ class RtAudioOutput : public Output {
   std::string name() const override { return name_; }
   bool isSilent() const override { return false; }
   std::uint32_t latency() const override { return latency_; }
-  std::string failure() override;
+  Message failure() override;
 
   void hearOfError(RtAudioError::Type type, const std::string& text);
 
@@ -53,8 +53,9 @@ class RtAudioOutput : public Output {
 /// RtAudio tells its error function nothing of the stream, and the program opens one at a time.
 std::atomic<RtAudioOutput*> openOutput{nullptr};
 
-Failure cannotPlay(const Device& device, const std::string& why) {
-  return Failure("cannot play to '" + device.name + "': " + why + "; choose another device");
+Failure cannotPlay(const Device& device, const Message& why) {
+  return Failure(Message::words("cannot play to '%1': %2; choose another device"),
+                 {device.name, why});
 }
 
 RtAudioOutput::RtAudioOutput(const Device& device, AudioFormat format, BlockRenderer& renderer)
@@ -64,10 +65,10 @@ RtAudioOutput::RtAudioOutput(const Device& device, AudioFormat format, BlockRend
       audio_(static_cast<RtAudio::Api>(device.system)),
       deviceChannels_(std::min(device.channels, 2U)),
       lastBlockSeen_(std::chrono::steady_clock::now()) {
-  if (deviceChannels_ < format.channels) throw cannotPlay(device, "it is mono");
+  if (deviceChannels_ < format.channels) throw cannotPlay(device, Message::words("it is mono"));
   const auto& rates = device.sampleRates;
   if (!rates.empty() && std::find(rates.begin(), rates.end(), format.sampleRate) == rates.end()) {
-    throw cannotPlay(device, "it does not do " + std::to_string(format.sampleRate) + " Hz");
+    throw cannotPlay(device, {Message::words("it does not do %1 Hz"), {format.sampleRate}});
   }
   audio_.showWarnings(false);
   openOutput = this;
@@ -133,7 +134,7 @@ void RtAudioOutput::hearOfError(RtAudioError::Type type, const std::string& text
   failed_ = true;
 }
 
-std::string RtAudioOutput::failure() {
+Message RtAudioOutput::failure() {
   const auto now = std::chrono::steady_clock::now();
   const auto blocks = blocks_.load(std::memory_order_relaxed);
   if (blocks != blocksSeen_) {
@@ -142,7 +143,7 @@ std::string RtAudioOutput::failure() {
   }
   if (!failed_ && now - lastBlockSeen_ < longestPause) return {};
   const std::lock_guard lock(mutex_);
-  return error_.empty() ? "the device stopped" : error_;
+  return error_.empty() ? Message::words("it has stopped") : Message(error_);
 }
 
 }  // namespace

@@ -52,15 +52,15 @@ void Session::setDevice(const std::optional<Device>& device) {
   }
 }
 
-std::string Session::setFirstWorkingDevice(const std::vector<Device>& devices) {
+Message Session::setFirstWorkingDevice(const std::vector<Device>& devices) {
   stop();
-  std::string why;
+  Message why;
   for (const auto& device : devices) {
     try {
       startOutput(device);
       return {};
     } catch (const Failure& failure) {
-      if (why.empty()) why = failure.what();
+      if (why.empty()) why = failure.message();
     }
   }
   startOutput(std::nullopt);
@@ -83,13 +83,13 @@ void Session::stop() {
   player_->setDeviceRuns(false);
 }
 
-std::string Session::checkOutput() {
+Message Session::checkOutput() {
   if (!output_) return {};
   auto why = output_->failure();
   if (why.empty()) return {};
   const auto name = output_->name();
   setDevice(std::nullopt);
-  return "'" + name + "' failed: " + why;
+  return {Message::words("the device '%1' has failed: %2"), {name, why}};
 }
 
 void Session::setTap(AudioTap* tap) {

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "audio_unit/Framework.h"
 #include "host/ConverterSetup.h"
@@ -42,7 +41,7 @@ class Session {
   void setDevice(const std::optional<Device>& device);
   /// Plays to the first of the devices that works, or to nobody. Gives why there was no playing to
   /// the first of them when none works, else nothing.
-  std::string setFirstWorkingDevice(const std::vector<Device>& devices);
+  Message setFirstWorkingDevice(const std::vector<Device>& devices);
   /// The device that plays; nothing while nobody listens.
   const std::optional<Device>& device() const { return device_; }
   /// Ends the output.
@@ -50,7 +49,7 @@ class Session {
   /// Null before a device was set.
   Output* output() { return output_.get(); }
   /// Looks after the output: when it has failed, goes on without a device. Gives why, once.
-  std::string checkOutput();
+  Message checkOutput();
   /// What is heard of the output's playing; null for nothing.
   void setTap(AudioTap* tap);
 

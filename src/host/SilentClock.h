@@ -18,7 +18,7 @@ class SilentClock : public Output {
   std::string name() const override { return "none"; }
   bool isSilent() const override { return true; }
   std::uint32_t latency() const override { return 0; }
-  std::string failure() override { return {}; }
+  Message failure() override { return {}; }
 
  private:
   void run();

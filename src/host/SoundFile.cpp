@@ -24,25 +24,30 @@ SNDFILE* handle(void* file) {
   return static_cast<SNDFILE*>(file);
 }
 
-[[noreturn]] void refuse(const std::filesystem::path& path, const std::string& why) {
-  throw Failure("cannot read '" + path.string() + "': " + why);
+[[noreturn]] void refuse(const std::filesystem::path& path, Message::Words why,
+                         std::vector<Message> values = {}) {
+  throw Failure(Message::words("cannot read '%1': %2"), {path.string(), {why, std::move(values)}});
 }
 
 void requireOrdinaryFile(const std::filesystem::path& path) {
   std::error_code error;
   const auto status = std::filesystem::status(path, error);
   if (status.type() == std::filesystem::file_type::not_found) {
-    refuse(path, "there is no such file; give the path of a sound file");
+    refuse(path, Message::words("there is no such file; give the path of a sound file"));
   }
-  if (error) refuse(path, error.message() + "; check the path and its permissions");
+  if (error) {
+    refuse(path, Message::words("%1; check the path and its permissions"), {error.message()});
+  }
   if (status.type() == std::filesystem::file_type::directory) {
-    refuse(path, "it is a folder; give the path of a sound file");
+    refuse(path, Message::words("it is a folder; give the path of a sound file"));
   }
   if (status.type() != std::filesystem::file_type::regular) {
-    refuse(path, "it is not an ordinary file; give the path of a sound file");
+    refuse(path, Message::words("it is not an ordinary file; give the path of a sound file"));
   }
   const auto size = std::filesystem::file_size(path, error);
-  if (!error && size == 0) refuse(path, "the file is empty; give a file that holds audio");
+  if (!error && size == 0) {
+    refuse(path, Message::words("the file is empty; give a file that holds audio"));
+  }
 }
 
 }  // namespace
@@ -92,7 +97,9 @@ SoundFile::SoundFile(const std::filesystem::path& path, ChannelChoice choice)
     open();
     frames_ = held;
   }
-  if (frames_ <= 0) refuse(path, "it holds no audio; give a file with at least one sample");
+  if (frames_ <= 0) {
+    refuse(path, Message::words("it holds no audio; give a file with at least one sample"));
+  }
 }
 
 SoundFile::~SoundFile() = default;
@@ -107,15 +114,15 @@ void SoundFile::open() {
     std::string why = sf_strerror(nullptr);
     while (!why.empty() && (why.back() == '.' || why.back() == '\n')) why.pop_back();
     std::replace(why.begin(), why.end(), '\n', ' ');
-    refuse(path_, why + "; give a WAV, AIFF, FLAC, Ogg or MP3 file");
+    refuse(path_, Message::words("%1; give a WAV, AIFF, FLAC, Ogg or MP3 file"), {why});
   }
   fileChannels_ = static_cast<std::size_t>(info.channels);
   format_ = {static_cast<std::uint32_t>(info.samplerate),
              static_cast<std::uint32_t>(info.channels)};
   if (fileChannels_ > mostChannels) chooseChannels();
   if (format_.sampleRate < lowestSampleRate || format_.sampleRate > highestSampleRate) {
-    refuse(path_, "its sample rate is " + std::to_string(info.samplerate) +
-                      " Hz; give a file from 2 to 768 kHz");
+    refuse(path_, Message::words("its sample rate is %1 Hz; give a file from 2 to 768 kHz"),
+           {info.samplerate});
   }
   frames_ = info.frames;
   isOgg_ = (info.format & SF_FORMAT_TYPEMASK) == SF_FORMAT_OGG;
@@ -123,16 +130,16 @@ void SoundFile::open() {
 
 void SoundFile::chooseChannels() {
   if (choice_.empty()) {
-    throw TooManyChannels("cannot read '" + path_.string() + "': it has " +
-                              std::to_string(fileChannels_) +
-                              " channels; give a mono or stereo file, or choose two "
-                              "of them with --channels, such as 1,2",
-                          static_cast<std::uint32_t>(fileChannels_));
+    throw TooManyChannels(
+        {Message::words("cannot read '%1': it has %2 channels; give a mono or stereo file, or "
+                        "choose two of them with --channels, such as 1,2"),
+         {path_.string(), fileChannels_}},
+        static_cast<std::uint32_t>(fileChannels_));
   }
   for (const auto channel : choice_) {
     if (channel > fileChannels_) {
-      refuse(path_, "it has no channel " + std::to_string(channel) + "; give channels from 1 to " +
-                        std::to_string(fileChannels_));
+      refuse(path_, Message::words("it has no channel %1; give channels from 1 to %2"),
+             {channel, fileChannels_});
     }
   }
   format_.channels = static_cast<std::uint32_t>(choice_.size());

@@ -16,9 +16,9 @@ namespace {
 constexpr const char* factoryClass = "Velk_AUAACConverterFactory";
 constexpr ui::Size wantedSize = {560, 195};
 
-[[noreturn]] void refuse(const std::filesystem::path& bundle, const std::string& why) {
-  throw Failure("cannot show the converter's view: " + why + "; build or install '" +
-                bundle.string() + "' again");
+[[noreturn]] void refuse(const std::filesystem::path& bundle, const Message& why) {
+  throw Failure(Message::words("cannot show the converter's view: %1; build or install '%2' again"),
+                {why, bundle.string()});
 }
 
 std::string lastError() {
@@ -57,15 +57,17 @@ class HeldLog {
 ViewBundle::ViewBundle(const std::filesystem::path& bundle) : bundle_(bundle) {
   const auto program = bundle / bundle.stem();
   std::error_code error;
-  if (!std::filesystem::exists(program, error)) refuse(bundle, "its bundle is missing");
+  if (!std::filesystem::exists(program, error))
+    refuse(bundle, Message::words("its bundle is missing"));
   // Never closed: see the class.
   void* const library = ::dlopen(program.c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (library == nullptr) refuse(bundle, "its bundle cannot be loaded (" + lastError() + ")");
+  if (library == nullptr)
+    refuse(bundle, {Message::words("its bundle cannot be loaded (%1)"), {lastError()}});
   const auto instantiate =
       reinterpret_cast<VelkInstantiateClassFunction>(::dlsym(library, kVelkInstantiateClassSymbol));
-  if (instantiate == nullptr) refuse(bundle, "its bundle has no entry");
+  if (instantiate == nullptr) refuse(bundle, Message::words("its bundle has no entry"));
   factory_.reset(instantiate(factoryClass));
-  if (!factory_) refuse(bundle, "its bundle has no factory");
+  if (!factory_) refuse(bundle, Message::words("its bundle has no factory"));
 }
 
 ViewBundle::~ViewBundle() = default;
@@ -75,7 +77,7 @@ std::unique_ptr<ui::NativeView> ViewBundle::viewForUnit(AudioUnit unit) {
   auto view = factory_->uiViewForAudioUnit(unit, wantedSize);
   if (!view) {
     const auto why = log.taken();
-    refuse(bundle_, why.empty() ? "its bundle gave none" : why);
+    refuse(bundle_, why.empty() ? Message::words("its bundle gave none") : Message(why));
   }
   return view;
 }

@@ -261,7 +261,7 @@ TEST_F(Analysing, SaysWhyItFailed) {
   missing_ = true;
   start();
   wait(Step::Failed);
-  EXPECT_EQ(analysis_->state().failure, "gone");
+  EXPECT_EQ(analysis_->state().failure.english(), "gone");
   missing_ = false;
   analysis_->restart();
   wait(Step::Done);

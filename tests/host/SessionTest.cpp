@@ -47,7 +47,7 @@ TEST_F(SessionOfAFile, PlaysToNobodyInRealTime) {
   EXPECT_EQ(session_->player().position(), 9600);
   // A fifth of a second, but for what is rendered ahead of its time.
   EXPECT_GT(lasted, std::chrono::milliseconds(150));
-  EXPECT_EQ(session_->checkOutput(), "");
+  EXPECT_EQ(session_->checkOutput().english(), "");
 }
 
 TEST_F(SessionOfAFile, GoesOnWithoutADeviceThatCannotBeOpened) {
@@ -61,9 +61,9 @@ TEST_F(SessionOfAFile, GoesOnWithoutADeviceThatCannotBeOpened) {
 
 TEST_F(SessionOfAFile, TellsWhyNoDeviceWorks) {
   const auto why = session_->setFirstWorkingDevice({ghost(), ghost()});
-  EXPECT_THAT(why, HasSubstr("'Ghost'"));
+  EXPECT_THAT(why.english(), HasSubstr("'Ghost'"));
   EXPECT_TRUE(session_->output()->isSilent());
-  EXPECT_EQ(session_->setFirstWorkingDevice({}), "");
+  EXPECT_EQ(session_->setFirstWorkingDevice({}).english(), "");
   EXPECT_TRUE(session_->output()->isSilent());
 }
 

@@ -4,6 +4,8 @@
 #include <QLocale>
 #include <cmath>
 
+#include "host/app/Languages.h"
+
 namespace host::app {
 namespace {
 
@@ -64,7 +66,7 @@ void AnalysisIndicator::showNothing() {
 
 void AnalysisIndicator::showState(const Analysis::State& state) {
   label_->setFullText(analysisText(state));
-  if (state.step == Step::Failed) label_->setToolTip(QString::fromStdString(state.failure));
+  if (state.step == Step::Failed) label_->setToolTip(inUsersLanguage(state.failure));
   restarts_ = state.step == Step::Cancelled || state.step == Step::Failed;
   if (restarts_) {
     showButton(QStringLiteral("↻"), tr("Analyse again"));

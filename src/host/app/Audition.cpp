@@ -7,6 +7,7 @@
 #include "contract/ConverterInterface.h"
 #include "converter/ConverterUnit.h"
 #include "host/Failure.h"
+#include "host/app/Languages.h"
 #include "host/app/StatusText.h"
 #include "host/app/Words.h"
 
@@ -24,7 +25,7 @@ UInt32 monitorsSource(AudioUnit unit) {
 void monitorSource(AudioUnit unit, UInt32 value) {
   const auto status = AudioUnitSetProperty(unit, velk::kConverterProperty_MonitorSource,
                                            kAudioUnitScope_Global, 0, &value, sizeof value);
-  if (status != noErr) throw Failure("the converter refused the monitored signal");
+  if (status != noErr) throw Failure(Message::words("the converter refused the monitored signal"));
 }
 
 void applyOptions(const AuditionOptions& options, AudioUnit unit) {
@@ -135,8 +136,8 @@ void Audition::startFirstDevice() {
   if (options_.device && !devices_->empty()) return session_->setDevice(devices_->front());
   const auto why = session_->setFirstWorkingDevice(*devices_);
   if (why.empty()) return;
-  warn(why + "; playing to nobody");
-  setNotice(tr("Silent: %1").arg(QString::fromStdString(why)));
+  warn(why.english() + "; playing to nobody");
+  setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
 }
 
 void Audition::recordFrom(Session& session) {
@@ -205,7 +206,7 @@ void Audition::setDevice(const std::optional<Device>& device) {
     session_->setDevice(device);
   } catch (const Failure& failure) {
     warn(failure.what());
-    setNotice(tr("Silent: %1").arg(QString::fromStdString(failure.what())));
+    setNotice(tr("Silent: %1").arg(inUsersLanguage(failure.message())));
   }
   refresh();
 }
@@ -243,8 +244,8 @@ void Audition::refreshTransport() {
 void Audition::refreshOutput() {
   const auto why = session_->checkOutput();
   if (!why.empty()) {
-    warn("the device " + why + "; playing to nobody");
-    setNotice(tr("Silent: the device %1").arg(QString::fromStdString(why)));
+    warn(why.english() + "; playing to nobody");
+    setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
   }
   // Silence would give the encoded signal of a listening test away, a word of it even more.
   if (listeningTestRuns(&session_->unit())) return;

@@ -7,6 +7,7 @@
 
 #include "host/Failure.h"
 #include "host/app/ChannelDialog.h"
+#include "host/app/Languages.h"
 
 namespace host::app {
 
@@ -48,7 +49,7 @@ void FileOpening::openChannels(const QString& path, const ChannelChoice& channel
   } catch (const TooManyChannels& many) {
     askForChannels(path, many.channels());
   } catch (const Failure& failure) {
-    complainOf(path, failure.what());
+    complainOf(path, failure.message());
   }
 }
 
@@ -60,12 +61,12 @@ void FileOpening::askForChannels(const QString& path, std::uint32_t channels) {
   dialog->open();
 }
 
-void FileOpening::complainOf(const QString& path, const std::string& why) {
+void FileOpening::complainOf(const QString& path, const Message& why) {
   if (recent_ && !QFileInfo::exists(path)) recent_->remove(path);
   auto* const message =
       new QMessageBox(QMessageBox::Warning, tr("AAC Audition"), tr("The file cannot be played."),
                       QMessageBox::Ok, &window_);
-  message->setInformativeText(QString::fromStdString(why));
+  message->setInformativeText(inUsersLanguage(why));
   message->setTextFormat(Qt::PlainText);
   message->setAttribute(Qt::WA_DeleteOnClose);
   message->open();

@@ -32,7 +32,7 @@ class FileOpening : public QObject {
  private:
   void openChannels(const QString& path, const ChannelChoice& channels);
   void askForChannels(const QString& path, std::uint32_t channels);
-  void complainOf(const QString& path, const std::string& why);
+  void complainOf(const QString& path, const Message& why);
   void fillRecentMenu();
 
   MainWindow& window_;

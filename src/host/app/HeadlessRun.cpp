@@ -111,7 +111,7 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
     turnWhile(goesOn, interrupted, restingMilliseconds);
     settle(interrupted);
   }
-  if (interrupted) throw Failure("interrupted; nothing was written");
+  if (interrupted) throw Failure(Message::words("interrupted; nothing was written"));
 
   refresh.stop();
   audition.refresh();

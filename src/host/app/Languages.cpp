@@ -26,4 +26,10 @@ void speakLanguageOf(const QLocale& locale, QCoreApplication& application) {
   install(locale, QStringLiteral("aac-audition"), QStringLiteral(":/i18n"), application);
 }
 
+QString inUsersLanguage(const Message& message) {
+  return QString::fromStdString(message.translated([](const char* english) {
+    return QCoreApplication::translate("host::Message", english).toStdString();
+  }));
+}
+
 }  // namespace host::app

@@ -75,7 +75,8 @@ MainWindow::~MainWindow() {
 void MainWindow::setView(std::unique_ptr<ui::NativeView> view) {
   auto* const widget = dynamic_cast<QWidget*>(view.get());
   if (view && widget == nullptr) {
-    throw Failure("cannot show the converter's view: it is made for another toolkit");
+    throw Failure(
+        Message::words("cannot show the converter's view: it is made for another toolkit"));
   }
   removeView();
   invitation_->setVisible(widget == nullptr);

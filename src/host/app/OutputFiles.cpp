@@ -21,7 +21,8 @@ OutputFiles claimedOutputFiles(const AuditionOptions& options) {
 void writeScreenshot(QWidget& window, AtomicFile& file) {
   const auto picture = window.grab();
   if (!picture.save(QString::fromStdString(file.temporaryPath().string()), "PNG")) {
-    throw Failure("cannot write '" + file.path().string() + "': the disk may be full");
+    throw Failure(Message::words("cannot write '%1': the disk may be full; nothing was kept"),
+                  {file.path().string()});
   }
   file.commit();
 }

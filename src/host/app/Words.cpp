@@ -26,7 +26,7 @@ void complain(const std::string& text) {
 
 void say(const std::string& text) {
   if (std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0) {
-    throw Failure("cannot write to standard output");
+    throw Failure(Message::words("cannot write to standard output"));
   }
 }
 

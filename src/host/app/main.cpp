@@ -24,7 +24,8 @@ void choosePlatform(bool headless) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
   if (!hasDisplay()) {
-    throw host::Failure("there is no display to open a window on; add --headless FILE");
+    throw host::Failure(
+        host::Message::words("there is no display to open a window on; add --headless FILE"));
   }
 }
 

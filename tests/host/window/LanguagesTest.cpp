@@ -1,8 +1,12 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
@@ -12,6 +16,8 @@
 #include <string>
 #include <utility>
 
+#include "host/Failure.h"
+#include "host/OpenedFile.h"
 #include "host/app/ChannelDialog.h"
 #include "host/app/Languages.h"
 #include "host/app/MainWindow.h"
@@ -68,16 +74,27 @@ class Language : public testing::TestWithParam<const char*> {
   }
 };
 
+/// What the window's program is made of, without the programs beside it.
+QStringList sources() {
+  QStringList paths;
+  for (const char* const folder : {VELK_SOURCES "/src/host", VELK_SOURCES "/src/host/app"}) {
+    QDirIterator files(folder, {"*.cpp", "*.h"}, QDir::Files);
+    while (files.hasNext()) paths << files.next();
+  }
+  return paths;
+}
+
 TEST_P(Language, HasEveryTextOfTheSourcesAndNoOther) {
   const QTemporaryDir folder;
   const auto found = folder.filePath("found.ts");
   QProcess lupdate;
-  lupdate.start(VELK_LUPDATE, {"-I", VELK_SOURCES "/src", "-locations", "none",
-                               VELK_SOURCES "/src/host/app", "-ts", found});
+  lupdate.start(VELK_LUPDATE, QStringList{"-I", VELK_SOURCES "/src", "-tr-function-alias",
+                                          "tr+=words", "-locations", "none"}
+                                  << sources() << "-ts" << found);
   ASSERT_TRUE(lupdate.waitForFinished(60000));
   ASSERT_EQ(lupdate.exitCode(), 0);
   const auto wanted = texts(translations(found));
-  EXPECT_GT(wanted.size(), 60U);
+  EXPECT_GT(wanted.size(), 110U);
   EXPECT_THAT(texts(translations(path())), testing::ContainerEq(wanted));
 }
 
@@ -94,6 +111,24 @@ TEST_P(Language, GivesEveryMenuItsOwnLetters) {
     const auto has = [](const std::string& words) { return words.find('&') != std::string::npos; };
     EXPECT_EQ(has(translation.words), has(text.second)) << text.second;
   }
+}
+
+TEST(Failures, AreAllThrownInWordsThatCanBeTranslated) {
+  static const QRegularExpression statement(R"(\b(?:Failure|TooManyChannels|cannotPlay)\(.*?\);)",
+                                            QRegularExpression::DotMatchesEverythingOption);
+  static const QRegularExpression words(R"(words\(\s*(?:"(?:[^"\\]|\\.)*"\s*)+\))");
+  int count = 0;
+  for (const auto& path : sources()) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    auto text = QString::fromUtf8(file.readAll());
+    for (const auto& match : statement.globalMatch(text.remove(words))) {
+      EXPECT_FALSE(match.captured().contains('"'))
+          << path.toStdString() << ": " << match.captured().toStdString();
+      ++count;
+    }
+  }
+  EXPECT_GE(count, 30);
 }
 
 /// Speaks a language while it lives.
@@ -122,6 +157,33 @@ TEST_P(Language, IsThatOfTheWindow) {
   EXPECT_LE(window.transport().minimumSizeHint().width(), 560);
   window.show();
   EXPECT_EQ(window.width(), 560);
+}
+
+TEST_P(Language, IsThatOfWhatCannotBeDone) {
+  const Speaking speaking{QLocale(QString(GetParam()))};
+  const bool german = std::string(GetParam()) == "de";
+  try {
+    host::openedForPlaying("/no/such/100 %1.wav", {});
+    FAIL();
+  } catch (const host::Failure& failure) {
+    EXPECT_STREQ(failure.what(),
+                 "cannot read '/no/such/100 %1.wav': there is no such file; give the path of a "
+                 "sound file");
+    EXPECT_EQ(host::app::inUsersLanguage(failure.message()),
+              german ? QStringLiteral("„/no/such/100 %1.wav“ kann nicht gelesen werden: Es gibt "
+                                      "keine solche Datei; geben Sie den Pfad einer Tondatei an")
+                     : QStringLiteral("impossible de lire «\u00a0/no/such/100 %1.wav\u00a0»\u00a0: "
+                                      "ce fichier n’existe pas\u00a0; indiquez le chemin d’un "
+                                      "fichier audio"));
+  }
+}
+
+TEST_P(Language, IsThatOfTheToolkitsOwnDialogs) {
+  const Speaking speaking{QLocale(QString(GetParam()))};
+  const bool german = std::string(GetParam()) == "de";
+  const QDialogButtonBox box(QDialogButtonBox::Cancel);
+  auto cancel = box.button(QDialogButtonBox::Cancel)->text();
+  EXPECT_EQ(cancel.remove('&'), german ? "Abbrechen" : "Annuler");
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, Language, testing::Values("de", "fr"),
