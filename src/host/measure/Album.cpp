@@ -72,7 +72,7 @@ class Account {
     if (options_.json) {
       console_.say(asJson(row) + "\n");
     } else {
-      console_.say((rows_ == 0 ? table_.head() : "") + table_.line(row));
+      console_.say((rows_ == 0 ? table_.head() : "") + table_.lines(row));
     }
     ++rows_;
     const bool needsTrim = row.trim && row.trim->reduction > 0;

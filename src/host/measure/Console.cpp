@@ -4,6 +4,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -19,8 +20,12 @@ constexpr std::size_t usualWidth = 80;
 std::size_t widthOf(int descriptor) {
   if (::isatty(descriptor) == 0) return 0;
   winsize size{};
-  if (::ioctl(descriptor, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return usualWidth;
-  return size.ws_col;
+  if (::ioctl(descriptor, TIOCGWINSZ, &size) == 0 && size.ws_col > 0) return size.ws_col;
+  // A terminal on a serial line does not know its own size.
+  const char* const columns = std::getenv("COLUMNS");
+  std::size_t width = 0;
+  if (columns != nullptr) std::from_chars(columns, columns + std::strlen(columns), width);
+  return width > 0 ? width : usualWidth;
 }
 
 bool isDumb() {

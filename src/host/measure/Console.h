@@ -28,7 +28,8 @@ class Console {
   void setProgress(const std::string& line);
   void clearProgress();
 
-  /// Columns of the terminal that standard output goes to, or 0 where it goes elsewhere.
+  /// Columns of the terminal that standard output goes to, or 0 where it goes elsewhere. Of a
+  /// terminal that does not know them, what the variable COLUMNS says.
   static std::size_t outputWidth();
   static std::size_t errorWidth();
   /// Whether standard output may be coloured: a terminal whose user has not set NO_COLOR.

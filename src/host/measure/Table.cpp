@@ -17,6 +17,7 @@ constexpr std::size_t countWidth = 7;
 constexpr std::size_t trimWidth = 7;
 constexpr std::size_t verdictWidth = 6;
 constexpr std::size_t signalWidth = 2 * (peakWidth + countWidth);
+constexpr std::size_t figuresWidth = 2 * signalWidth + verdictWidth;
 
 struct Summary {
   double samplePeak;
@@ -63,33 +64,39 @@ Table::Table(const std::vector<std::string>& files, std::size_t width, bool with
       interSample_(interSample),
       colored_(colored) {
   for (const auto& file : files) fileWidth_ = std::max(fileWidth_, textWidth(file));
-  const auto others =
-      2 + settingWidth + rateWidth + 2 * signalWidth + (withTrim ? trimWidth : 0) + verdictWidth;
-  auto room = widestFile;
-  if (width > 0) room = std::max(width > others ? width - others : 0, narrowestFile);
-  fileWidth_ = std::min(fileWidth_, room);
+  const auto others = 2 + settingWidth + rateWidth + (withTrim ? trimWidth : 0);
+  if (width == 0) {
+    fileWidth_ = std::min(fileWidth_, widestFile);
+  } else if (std::min(fileWidth_, narrowestFile) + others + figuresWidth <= width) {
+    fileWidth_ = std::min(fileWidth_, width - others - figuresWidth);
+  } else {
+    fileWidth_ = std::min(fileWidth_, std::max(width, others + narrowestFile) - others);
+    lineBreak_ = "\n  ";
+  }
 }
 
 std::string Table::head() const {
-  const auto begin = padded("", fileWidth_ + 2) + padded("", settingWidth);
   const auto trim = [&](const char* text) {
     return withTrim_ ? right(text, trimWidth) : std::string();
   };
+  const auto above = padded("", fileWidth_ + 2) + padded("", settingWidth) +
+                     right("Rate", rateWidth) + trim("Trim");
+  const auto names = padded("File", fileWidth_ + 2) + padded("Encoder", settingWidth) +
+                     right("kbit/s", rateWidth) + trim("dB");
   const auto columns = right("dBFS", peakWidth) + right("clips", countWidth) +
                        right("dBTP", peakWidth) + right("overs", countWidth);
   const auto signals = right("Source", signalWidth) + right("Encoded", signalWidth);
-  return begin + right("Rate", rateWidth) + trim("Trim") + signals + "\n" +
-         padded("File", fileWidth_ + 2) + padded("Encoder", settingWidth) +
-         right("kbit/s", rateWidth) + trim("dB") + columns + columns + "\n";
+  if (lineBreak_.empty()) return above + signals + "\n" + names + columns + columns + "\n";
+  return above + "\n" + names + lineBreak_ + signals + lineBreak_ + columns + columns + "\n";
 }
 
-std::string Table::line(const Row& row) const {
+std::string Table::lines(const Row& row) const {
   const auto& readings = row.readings;
   auto text = padded(elidedPath(readings.file, fileWidth_), fileWidth_ + 2) +
               padded(settingName(readings.setting), settingWidth) +
               right(decimal(readings.bitRateKbps, 1), rateWidth);
   if (withTrim_) text += right(row.trim ? trimText(*row.trim) : "", trimWidth);
-  text += cells(summary(readings.source)) + cells(summary(readings.encoded));
+  text += lineBreak_ + cells(summary(readings.source)) + cells(summary(readings.encoded));
   if (hasOvers(readings, interSample_)) {
     text += colored_ ? "  \x1b[1;31mOVER\x1b[0m" : "  OVER";
   }
