@@ -123,10 +123,6 @@
         <translation>Es ist einkanalig</translation>
     </message>
     <message>
-        <source>it does not do %1 Hz</source>
-        <translation>Es kann %1 Hz nicht</translation>
-    </message>
-    <message>
         <source>it has stopped</source>
         <translation>Es ist stehen geblieben</translation>
     </message>
@@ -267,6 +263,10 @@
     <message>
         <source>%1 – AAC Audition</source>
         <translation>%1 – AAC Audition</translation>
+    </message>
+    <message>
+        <source>Converted to the device&apos;s %1 kHz</source>
+        <translation>Umgerechnet auf die %1 kHz des Geräts</translation>
     </message>
     <message>
         <source>Silent: %1</source>

@@ -123,10 +123,6 @@
         <translation>il est mono</translation>
     </message>
     <message>
-        <source>it does not do %1 Hz</source>
-        <translation>il ne prend pas en charge %1 Hz</translation>
-    </message>
-    <message>
         <source>it has stopped</source>
         <translation>il s’est arrêté</translation>
     </message>
@@ -267,6 +263,10 @@
     <message>
         <source>%1 – AAC Audition</source>
         <translation>%1 – AAC Audition</translation>
+    </message>
+    <message>
+        <source>Converted to the device&apos;s %1 kHz</source>
+        <translation>Converti aux %1 kHz de l’appareil</translation>
     </message>
     <message>
         <source>Silent: %1</source>

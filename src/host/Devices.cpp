@@ -34,7 +34,7 @@ void appendDevices(RtAudio::Api system, std::vector<Device>& devices) {
     if (!info.probed || info.outputChannels == 0) continue;
     devices.push_back({RtAudio::getApiDisplayName(system) + ": " + info.name,
                        static_cast<int>(system), index, info.isDefaultOutput, info.sampleRates,
-                       info.outputChannels});
+                       info.outputChannels, info.preferredSampleRate});
   }
 }
 
@@ -77,9 +77,32 @@ Device requiredDevice(const std::vector<Device>& devices, std::string_view name)
                 {std::string(name), names});
 }
 
-std::vector<Device> inOrderOfPreference(std::vector<Device> devices) {
-  std::stable_partition(devices.begin(), devices.end(),
-                        [](const Device& device) { return device.isDefault; });
+bool doesRate(const Device& device, std::uint32_t sampleRate) {
+  const auto& rates = device.sampleRates;
+  return rates.empty() || std::find(rates.begin(), rates.end(), sampleRate) != rates.end();
+}
+
+std::uint32_t playingRate(const Device& device, std::uint32_t sampleRate) {
+  if (doesRate(device, sampleRate)) return sampleRate;
+  if (device.preferredRate >= sampleRate) return device.preferredRate;
+  std::uint32_t nearest = 0;
+  for (const auto rate : device.sampleRates) {
+    const bool isLowest = rate >= sampleRate && (nearest < sampleRate || rate < nearest);
+    const bool isHighest = rate < sampleRate && rate > nearest;
+    if (isLowest || isHighest) nearest = rate;
+  }
+  return nearest;
+}
+
+std::vector<Device> inOrderOfPreference(std::vector<Device> devices, std::uint32_t sampleRate,
+                                        std::string_view chosen) {
+  const auto place = [=](const Device& device) {
+    if (!chosen.empty() && device.name == chosen) return 0;
+    return (doesRate(device, sampleRate) ? 1 : 3) + (device.isDefault ? 0 : 1);
+  };
+  std::stable_sort(devices.begin(), devices.end(), [&](const Device& one, const Device& other) {
+    return place(one) < place(other);
+  });
   return devices;
 }
 

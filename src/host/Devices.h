@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -20,8 +22,11 @@ struct Device {
   int system = 0;
   unsigned index = 0;
   bool isDefault = false;
+  /// Hz; none where the device does not tell.
   std::vector<unsigned> sampleRates;
   unsigned channels = 0;
+  /// Of its rates, the one that it runs at now or likes best; 0 where it does not tell.
+  unsigned preferredRate = 0;
 };
 
 /// Every device of JACK, PulseAudio and ALSA, in this order. Takes a moment. Main thread.
@@ -34,10 +39,23 @@ std::optional<Device> deviceNamed(const std::vector<Device>& devices, std::strin
 /// The same; throws `Failure` when there is none.
 Device requiredDevice(const std::vector<Device>& devices, std::string_view name);
 
-/// The order in which to try devices when the user has not chosen one: each system's default first.
-std::vector<Device> inOrderOfPreference(std::vector<Device> devices);
+/// Whether the device plays this sample rate as it is, as far as it tells.
+bool doesRate(const Device& device, std::uint32_t sampleRate);
 
-/// Opens and starts the device. Throws `Failure`.
+/// The rate at which the device plays audio of `sampleRate`: that, if it does it; otherwise one
+/// that keeps the whole band, the preferred one or else the lowest; otherwise its highest.
+std::uint32_t playingRate(const Device& device, std::uint32_t sampleRate);
+
+/// The order in which to try devices for audio of `sampleRate`: the one called `chosen` first, if
+/// any, then those that play it as it is; each system's default before its others.
+std::vector<Device> inOrderOfPreference(std::vector<Device> devices, std::uint32_t sampleRate,
+                                        std::string_view chosen);
+
+/// Opens and starts a device at the format's sample rate. Throws `Failure`.
+using OpenDevice = std::function<std::unique_ptr<Output>(const Device& device, AudioFormat format,
+                                                         BlockRenderer& renderer)>;
+
+/// The one that does.
 std::unique_ptr<Output> openDevice(const Device& device, AudioFormat format,
                                    BlockRenderer& renderer);
 

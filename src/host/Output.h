@@ -18,7 +18,9 @@ class Output {
   /// What the user knows it by.
   virtual std::string name() const = 0;
   virtual bool isSilent() const = 0;
-  /// Frames from the renderer to the ear, as far as the device tells.
+  /// At which it plays, Hz: another one than the renderer's where it converts.
+  virtual std::uint32_t sampleRate() const = 0;
+  /// Frames from the renderer to the ear, at the renderer's rate, as far as the device tells.
   virtual std::uint32_t latency() const = 0;
   /// Why it does not run any more; empty while it does. Main thread; to be asked now and then.
   virtual Message failure() = 0;

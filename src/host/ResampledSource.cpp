@@ -4,10 +4,7 @@
 
 #include <algorithm>
 #include <numeric>
-#include <string>
 #include <utility>
-
-#include "host/Failure.h"
 
 namespace host {
 namespace {
@@ -18,10 +15,6 @@ constexpr std::size_t inputBlock = 4096;
 constexpr std::int64_t preRoll = 16384;
 
 }  // namespace
-
-void ResampledSource::Delete::operator()(void* resampler) const {
-  soxr_delete(static_cast<soxr_t>(resampler));
-}
 
 ResampledSource::ResampledSource(std::unique_ptr<AudioSource> original, std::uint32_t sampleRate)
     : original_(std::move(original)),
@@ -45,19 +38,7 @@ ResampledSource::ResampledSource(std::unique_ptr<AudioSource> original, std::uin
 ResampledSource::~ResampledSource() = default;
 
 void ResampledSource::restart() {
-  soxr_error_t error = nullptr;
-  const auto samples = soxr_io_spec(SOXR_FLOAT32_I, SOXR_FLOAT32_I);
-  const auto quality = soxr_quality_spec(SOXR_VHQ, SOXR_ROLLOFF_NONE | SOXR_HI_PREC_CLOCK);
-  const auto threads = soxr_runtime_spec(1);
-  resampler_.reset(soxr_create(original_->format().sampleRate, format_.sampleRate, format_.channels,
-                               &error, &samples, &quality, &threads));
-  if (!resampler_) {
-    throw Failure(
-        Message::words("cannot resample from %1 to %2 Hz: %3; convert the file to 44100 or "
-                       "48000 Hz first"),
-        {original_->format().sampleRate, format_.sampleRate,
-         error != nullptr ? Message(error) : Message::words("unknown error")});
-  }
+  resampler_ = makeResampler(original_->format(), format_.sampleRate, SampleLayout::Interleaved);
   inputBegin_ = inputEnd_ = 0;
   inputEnded_ = false;
 }

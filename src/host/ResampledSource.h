@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "host/AudioSource.h"
+#include "host/Resampler.h"
 
 namespace host {
 
@@ -21,10 +22,6 @@ class ResampledSource : public AudioSource {
   void seek(std::int64_t frame) override;
 
  private:
-  struct Delete {
-    void operator()(void* resampler) const;
-  };
-
   void restart();
   void fill();
 
@@ -34,7 +31,7 @@ class ResampledSource : public AudioSource {
   /// `inputStep_` original frames last exactly as long as `outputStep_` of this source.
   std::int64_t inputStep_;
   std::int64_t outputStep_;
-  std::unique_ptr<void, Delete> resampler_;
+  Resampler resampler_;
   std::vector<float> input_;
   std::size_t inputBegin_ = 0;
   std::size_t inputEnd_ = 0;

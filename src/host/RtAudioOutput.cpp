@@ -25,6 +25,7 @@ class RtAudioOutput : public Output {
 
   std::string name() const override { return name_; }
   bool isSilent() const override { return false; }
+  std::uint32_t sampleRate() const override { return format_.sampleRate; }
   std::uint32_t latency() const override { return latency_; }
   Message failure() override;
 
@@ -66,10 +67,6 @@ RtAudioOutput::RtAudioOutput(const Device& device, AudioFormat format, BlockRend
       deviceChannels_(std::min(device.channels, 2U)),
       lastBlockSeen_(std::chrono::steady_clock::now()) {
   if (deviceChannels_ < format.channels) throw cannotPlay(device, Message::words("it is mono"));
-  const auto& rates = device.sampleRates;
-  if (!rates.empty() && std::find(rates.begin(), rates.end(), format.sampleRate) == rates.end()) {
-    throw cannotPlay(device, {Message::words("it does not do %1 Hz"), {format.sampleRate}});
-  }
   audio_.showWarnings(false);
   openOutput = this;
   try {

@@ -4,13 +4,15 @@
 
 #include "contract/ConverterInterface.h"
 #include "converter/ConverterUnit.h"
+#include "host/ConvertedOutput.h"
 #include "host/ConverterSetup.h"
 #include "host/Failure.h"
 #include "host/SilentClock.h"
 
 namespace host {
-Session::Session(OpenedFile file)
-    : path_(std::move(file.path)),
+Session::Session(OpenedFile file, OpenDevice open)
+    : open_(std::move(open)),
+      path_(std::move(file.path)),
       channels_(std::move(file.channels)),
       format_(file.source->format()),
       original_(file.original),
@@ -71,7 +73,7 @@ void Session::startOutput(const std::optional<Device>& device) {
   player_->setDeviceRuns(true);
   device_.reset();
   if (device) {
-    output_ = openDevice(*device, format_, *player_);
+    output_ = openAtItsRate(*device, format_, *player_, open_);
   } else {
     output_ = std::make_unique<SilentClock>(format_, *player_);
   }

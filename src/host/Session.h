@@ -20,7 +20,7 @@ class Session {
   static constexpr std::uint32_t maximumFrames = unitBlockFrames;
 
   /// Makes the unit for the file's format. Throws `Failure`.
-  explicit Session(OpenedFile file);
+  explicit Session(OpenedFile file, OpenDevice open = openDevice);
   ~Session();
 
   /// Whether `load` takes the file; another format needs a session of its own.
@@ -36,8 +36,8 @@ class Session {
   AudioFormat originalFormat() const { return original_; }
   bool fileIsTruncated() const { return *truncated_; }
 
-  /// Plays to the device, or to nobody without one. Throws `Failure` and plays to nobody when the
-  /// device cannot be opened.
+  /// Plays to the device, at another sample rate where it lacks the file's, or to nobody without
+  /// one. Throws `Failure` and plays to nobody when the device cannot be opened.
   void setDevice(const std::optional<Device>& device);
   /// Plays to the first of the devices that works, or to nobody. Gives why there was no playing to
   /// the first of them when none works, else nothing.
@@ -56,6 +56,7 @@ class Session {
  private:
   void startOutput(const std::optional<Device>& device);
 
+  OpenDevice open_;
   std::filesystem::path path_;
   ChannelChoice channels_;
   AudioFormat format_;

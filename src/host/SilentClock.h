@@ -17,6 +17,7 @@ class SilentClock : public Output {
 
   std::string name() const override { return "none"; }
   bool isSilent() const override { return true; }
+  std::uint32_t sampleRate() const override { return format_.sampleRate; }
   std::uint32_t latency() const override { return 0; }
   Message failure() override { return {}; }
 

@@ -67,18 +67,6 @@ TEST_F(SessionOfAFile, TellsWhyNoDeviceWorks) {
   EXPECT_TRUE(session_->output()->isSilent());
 }
 
-TEST_F(SessionOfAFile, NamesTheRateThatADeviceDoesNotDo) {
-  auto device = ghost();
-  device.sampleRates = {96000};
-  try {
-    session_->setDevice(device);
-    FAIL();
-  } catch (const host::Failure& failure) {
-    EXPECT_THAT(failure.what(), HasSubstr("'Ghost'"));
-    EXPECT_THAT(failure.what(), HasSubstr("48000 Hz"));
-  }
-}
-
 TEST_F(SessionOfAFile, TakesOnlyFilesOfItsOwnFormat) {
   writeSound(folder_ / "mono.wav", noise(48000, 1, 480));
   writeSound(folder_ / "slow.wav", noise(44100, 2, 480));

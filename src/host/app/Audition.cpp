@@ -1,6 +1,7 @@
 #include "host/app/Audition.h"
 
 #include <QLocale>
+#include <QStringList>
 #include <algorithm>
 #include <utility>
 
@@ -46,11 +47,12 @@ QString kiloHertz(std::uint32_t hertz) {
 }  // namespace
 
 Audition::Audition(const AuditionOptions& options, std::unique_ptr<AtomicFile> record,
-                   std::optional<std::vector<Device>> devices)
+                   std::optional<std::vector<Device>> devices, OpenDevice open)
     : options_(options),
       bundle_(viewBundlePath()),
       record_(std::move(record)),
       devices_(std::move(devices)),
+      openDevice_(std::move(open)),
       opening_(window_, options.channels,
                [this](OpenedFile file) { takeAndPlay(std::move(file)); }),
       overview_(window_.transport()),
@@ -82,21 +84,17 @@ void Audition::connectWindow() {
           [this] { changeLoop([this] { loop_.beginAt(heardPosition()); }); });
   connect(&window_, &MainWindow::loopEndRequested, this,
           [this] { changeLoop([this] { loop_.endAt(heardPosition()); }); });
-  connect(&deviceMenu_, &DeviceMenu::chosen, this, &Audition::chooseDevice);
+  connect(&deviceMenu_, &DeviceMenu::chosen, this, &Audition::setDevice);
 }
 
 void Audition::open(OpenedFile file) {
   const auto name = QString::fromStdString(file.path.filename().string());
-  const auto original = file.original.sampleRate;
-  const auto rate = file.source->format().sampleRate;
-  setNotice(original == rate
-                ? QString()
-                : tr("%1 kHz, played as %2 kHz").arg(kiloHertz(original), kiloHertz(rate)));
   if (session_ && session_->suits(file)) {
     loop_.setPlayer(nullptr);
     session_->load(std::move(file));
+    noticeRates();
   } else {
-    auto session = std::make_unique<Session>(std::move(file));
+    auto session = std::make_unique<Session>(std::move(file), openDevice_);
     if (session_) {
       copySettings(&session_->unit(), &session->unit());
     } else {
@@ -123,6 +121,7 @@ void Audition::takeSession(std::unique_ptr<Session> session) {
   const auto device = isFirst ? std::nullopt : session_->device();
   session_ = std::move(session);
   recordFrom(*session_);
+  noticeRates();
   if (!devices_) return;
   if (isFirst) {
     startFirstDevice();
@@ -133,8 +132,13 @@ void Audition::takeSession(std::unique_ptr<Session> session) {
 
 void Audition::startFirstDevice() {
   // A device that the user named has to work.
-  if (options_.device && !devices_->empty()) return session_->setDevice(devices_->front());
-  const auto why = session_->setFirstWorkingDevice(*devices_);
+  if (options_.device && !devices_->empty()) {
+    session_->setDevice(devices_->front());
+    return noticeRates();
+  }
+  const auto why = session_->setFirstWorkingDevice(
+      inOrderOfPreference(*devices_, session_->format().sampleRate, chosenDevice_));
+  noticeRates();
   if (why.empty()) return;
   warn(why.english() + "; playing to nobody");
   setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
@@ -195,15 +199,11 @@ std::int64_t Audition::heardPosition() {
   return session_->player().audiblePosition(output != nullptr ? output->latency() : 0);
 }
 
-void Audition::chooseDevice(const std::optional<Device>& device) {
-  setNotice({});
-  setDevice(device);
-}
-
 void Audition::setDevice(const std::optional<Device>& device) {
   if (!session_) return;
   try {
     session_->setDevice(device);
+    noticeRates();
   } catch (const Failure& failure) {
     warn(failure.what());
     setNotice(tr("Silent: %1").arg(inUsersLanguage(failure.message())));
@@ -273,6 +273,20 @@ void Audition::warnOfRecording() {
   if (warnedOfRecording_ || !recorder_ || recorder_->failure().empty()) return;
   warnedOfRecording_ = true;
   setNotice(tr("The recording has failed"));
+}
+
+void Audition::noticeRates() {
+  const auto original = session_->originalFormat().sampleRate;
+  const auto rate = session_->format().sampleRate;
+  const auto* const output = session_->output();
+  QStringList parts;
+  if (original != rate) {
+    parts << tr("%1 kHz, played as %2 kHz").arg(kiloHertz(original), kiloHertz(rate));
+  }
+  if (output != nullptr && output->sampleRate() != rate) {
+    parts << tr("Converted to the device's %1 kHz").arg(kiloHertz(output->sampleRate()));
+  }
+  setNotice(parts.join(QStringLiteral("  ·  ")));
 }
 
 void Audition::setNotice(const QString& notice) {

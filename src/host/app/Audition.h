@@ -26,7 +26,7 @@ class Audition : public QObject {
   /// `record` may be null. Without a list of devices nothing renders by itself; with one, the first
   /// that works plays, or nobody. Throws `Failure` when the view's bundle cannot be loaded.
   Audition(const AuditionOptions& options, std::unique_ptr<AtomicFile> record,
-           std::optional<std::vector<Device>> devices);
+           std::optional<std::vector<Device>> devices, OpenDevice open = openDevice);
   ~Audition() override;
 
   MainWindow& window() { return window_; }
@@ -67,18 +67,22 @@ class Audition : public QObject {
   void togglePlaying();
   void moveTo(std::int64_t frame);
   void changeLoop(const std::function<void()>& change);
-  void chooseDevice(const std::optional<Device>& device);
   std::int64_t heardPosition();
   void refreshTransport();
   void refreshOutput();
   void warnOfTruncation();
   void warnOfRecording();
+  /// Says which sample rates were converted, if any.
+  void noticeRates();
   void setNotice(const QString& notice);
 
   const AuditionOptions options_;
   ViewBundle bundle_;
   std::unique_ptr<AtomicFile> record_;
   const std::optional<std::vector<Device>> devices_;
+  const OpenDevice openDevice_;
+  /// The name of the one that the user chose in an earlier session.
+  std::string chosenDevice_;
   std::unique_ptr<Recorder> recorder_;
   AudioFormat recordedFormat_;
   std::unique_ptr<Session> session_;

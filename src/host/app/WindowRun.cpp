@@ -16,18 +16,13 @@ namespace {
 
 constexpr int refreshMilliseconds = 40;
 
-/// The devices to play to: the one that the user named, or all in order of preference, that of the
-/// last session first.
+/// The devices to play to: the one that the user named, or all.
 std::vector<Device> wantedDevices(const std::optional<std::string>& name,
                                   const SavedSession* last) {
-  if (name && *name == "none") return {};
+  const bool wasSilent = last != nullptr && last->device.empty();
+  if (name ? *name == "none" : wasSilent) return {};
   auto devices = outputDevices();
   if (name) return {requiredDevice(devices, *name)};
-  devices = inOrderOfPreference(std::move(devices));
-  if (last == nullptr) return devices;
-  if (last->device.empty()) return {};
-  std::stable_partition(devices.begin(), devices.end(),
-                        [&](const Device& device) { return device.name == last->device; });
   return devices;
 }
 

@@ -10,6 +10,7 @@
 #include <thread>
 #include <vector>
 
+#include "FakeDevices.h"
 #include "Sound.h"
 #include "contract/ConverterInterface.h"
 #include "converter/ConverterUnit.h"
@@ -60,6 +61,11 @@ class Auditioning : public testing::Test {
     audition_->window().show();
     return *audition_;
   }
+  void startWith(const std::vector<host::Device>& devices) {
+    audition_ =
+        std::make_unique<Audition>(host::AuditionOptions(), nullptr, devices, devices_.open());
+    audition_->window().show();
+  }
   void open(const std::string& name) {
     audition_->open(host::openedForPlaying(path(name)));
     QCoreApplication::processEvents();
@@ -93,6 +99,7 @@ class Auditioning : public testing::Test {
   }
 
   TemporaryFolder folder_;
+  FakeDevices devices_;
   std::unique_ptr<Audition> audition_;
 };
 
@@ -179,6 +186,52 @@ TEST_F(Auditioning, TellsThatTheSampleRateWasConverted) {
   EXPECT_TRUE(shows("384 kHz, played as 192 kHz"));
   open("stereo.wav");
   EXPECT_FALSE(shows("played as"));
+}
+
+TEST_F(Auditioning, TellsThatTheDeviceHasAnotherSampleRate) {
+  startWith({FakeDevices::device("Server", {44100})});
+  open("stereo.wav");
+  EXPECT_TRUE(shows("Converted to the device's 44.1 kHz"));
+  EXPECT_NE(button("Server"), nullptr);
+  audition_->setDevice(FakeDevices::device("Card", {44100, 48000}));
+  EXPECT_FALSE(shows("Converted"));
+  EXPECT_NE(button("Card"), nullptr);
+  audition_->setDevice(FakeDevices::device("Server", {44100}));
+  EXPECT_TRUE(shows("Converted to the device's 44.1 kHz"));
+  audition_->setDevice(std::nullopt);
+  EXPECT_FALSE(shows("Converted"));
+}
+
+TEST_F(Auditioning, TellsOfBothConversions) {
+  write("fast.wav", noise(384000, 2, 38400));
+  startWith({FakeDevices::device("Server", {48000})});
+  open("fast.wav");
+  EXPECT_TRUE(shows("384 kHz, played as 192 kHz"));
+  EXPECT_TRUE(shows("Converted to the device's 48 kHz"));
+  open("stereo.wav");
+  EXPECT_FALSE(shows("played as"));
+  EXPECT_FALSE(shows("Converted"));
+}
+
+TEST_F(Auditioning, PrefersADeviceThatDoesTheRate) {
+  startWith({FakeDevices::device("Server", {44100}), FakeDevices::device("Card", {48000})});
+  open("stereo.wav");
+  EXPECT_NE(button("Card"), nullptr);
+}
+
+TEST_F(Auditioning, RestoresTheDeviceOfTheLastSessionWhateverItsRate) {
+  startWith({FakeDevices::device("Card", {48000}), FakeDevices::device("Server", {44100})});
+  host::app::SavedSession saved;
+  saved.file = path("stereo.wav").string();
+  saved.device = "Server";
+  audition_->restore(saved);
+  EXPECT_NE(button("Server"), nullptr);
+}
+
+TEST_F(Auditioning, SaysThatADeviceCannotBeOpened) {
+  startWith({FakeDevices::device("Broken", {44100})});
+  open("stereo.wav");
+  EXPECT_TRUE(shows("Silent: 'Broken' is broken"));
 }
 
 TEST_F(Auditioning, GivesNothingAwayAndOpensNothingWhileAListeningTestRuns) {
