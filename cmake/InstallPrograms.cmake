@@ -20,6 +20,8 @@ if(TARGET aac-audition AND TARGET Velk_NordaAACConverter)
   set(resources ${CMAKE_SOURCE_DIR}/resources)
   install(FILES ${resources}/desktop/aac-audition.desktop
     DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  install(FILES ${resources}/metainfo/aac-audition.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
   install(FILES ${resources}/icons/aac-audition.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
   install(FILES ${resources}/man/aac-audition.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -31,6 +31,8 @@ class Program {
   void setStandardOutput(std::filesystem::path path) { out_ = std::move(path); }
   void setStandardError(std::filesystem::path path) { err_ = std::move(path); }
   void withoutDisplay() { hasDisplay_ = false; }
+  /// The user's languages in order of preference, as gettext has them: "fr:de".
+  void setLanguages(std::string languages) { languages_ = std::move(languages); }
 
   /// The program that this test is about.
   static std::filesystem::path executableUnderTest();
@@ -47,6 +49,7 @@ class Program {
   std::filesystem::path out_;
   std::filesystem::path err_;
   bool hasDisplay_ = true;
+  std::string languages_;
 };
 
 /// A copy of the program with its bundle, as they lie together, to be broken. Gives the program.

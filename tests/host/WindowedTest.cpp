@@ -140,29 +140,72 @@ TEST_F(Windowed, TakesLittleMemoryForAFileOfHours) {
 #endif
 }
 
-TEST(Installed, RunsFromAnywhere) {
-  const TemporaryFolder folder;
-  const auto prefix = folder.path() / "prefix";
-  const auto install = std::string(VELK_INSTALL) + " --prefix '" + prefix.string() + "' > '" +
-                       (folder / "install.log").string() + "'";
-  ASSERT_EQ(std::system(install.c_str()), 0);
-  std::filesystem::create_directory(folder.path() / "work");
-  writeSound(folder.path() / "work" / "mix.wav", noise(48000, 2, 4800));
-  Program program(folder.path() / "work");
-  program.setExecutable(prefix / "bin" / "aac-audition");
-  const auto outcome =
-      program.run({"--headless", "--json", (folder.path() / "work" / "mix.wav").string()});
+/// Everything, installed below a folder of its own.
+class Installed : public testing::Test {
+ protected:
+  Installed() {
+    const auto install = std::string(VELK_INSTALL) + " --prefix '" + prefix_.string() + "' > '" +
+                         (folder_ / "install.log").string() + "'";
+    isInstalled_ = std::system(install.c_str()) == 0;
+    std::filesystem::create_directory(work_);
+    writeSound(work_ / "mix.wav", noise(48000, 2, 4800));
+  }
+  void SetUp() override { ASSERT_TRUE(isInstalled_); }
+
+  Outcome run(const char* program, const std::vector<std::string>& arguments) {
+    program_.setExecutable(prefix_ / "bin" / program);
+    return program_.run(arguments);
+  }
+  /// The window, in the language.
+  QImage picture(const std::string& language) {
+    program_.setLanguages(language);
+    const auto path = work_ / (language + ".png");
+    const auto outcome =
+        run("aac-audition", {"--headless", "mix.wav", "--screenshot", path.string()});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    return QImage(QString::fromStdString(path.string()));
+  }
+
+  TemporaryFolder folder_;
+  const std::filesystem::path prefix_ = folder_.path() / "prefix";
+  const std::filesystem::path work_ = folder_.path() / "work";
+  Program program_{work_};
+  bool isInstalled_ = false;
+};
+
+TEST_F(Installed, RunsFromAnywhere) {
+  const auto outcome = run("aac-audition", {"--headless", "--json", "mix.wav"});
   EXPECT_EQ(outcome.status, 0) << outcome.err;
   EXPECT_THAT(outcome.out, HasSubstr("\"latency_samples\""));
-  program.setExecutable(prefix / "bin" / "aac-measure");
-  const auto measured = program.run({(folder.path() / "work" / "mix.wav").string()});
+  const auto measured = run("aac-measure", {"mix.wav"});
   EXPECT_EQ(measured.status, 0) << measured.err;
   for (const char* const each :
        {"share/applications/aac-audition.desktop",
         "share/icons/hicolor/scalable/apps/aac-audition.svg", "share/man/man1/aac-audition.1",
-        "share/man/man1/aac-measure.1", "share/bash-completion/completions/aac-audition"}) {
-    EXPECT_TRUE(std::filesystem::exists(prefix / each)) << each;
+        "share/man/man1/aac-measure.1", "share/bash-completion/completions/aac-audition",
+        "share/metainfo/aac-audition.metainfo.xml"}) {
+    EXPECT_TRUE(std::filesystem::exists(prefix_ / each)) << each;
   }
+}
+
+TEST_F(Installed, FindsTheBundleInItsOwnPlaceOnly) {
+  std::filesystem::remove_all(prefix_ / "lib/aac-audition/Velk_NordaAACConverter.bundle");
+  const auto outcome = run("aac-audition", {"--headless", "mix.wav"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("its bundle is missing"));
+}
+
+TEST_F(Installed, SpeaksTheUsersLanguageInTheViewAndAroundIt) {
+  // Numbers are as they were: they do not follow the language of words.
+  const auto english = picture("en");
+  const auto german = picture("de");
+  ASSERT_EQ(english.size(), german.size());
+  // The lowest line is the program's own, above it is the view.
+  const QRect status(0, english.height() - 24, english.width(), 24);
+  const QRect view(0, english.height() - 225, english.width(), 190);
+  EXPECT_NE(english.copy(status), german.copy(status));
+  EXPECT_NE(english.copy(view), german.copy(view));
+  EXPECT_EQ(english, picture("en"));
 }
 
 }  // namespace

@@ -5,12 +5,14 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QMimeDatabase>
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -188,6 +190,28 @@ TEST_P(Language, IsThatOfTheToolkitsOwnDialogs) {
 
 INSTANTIATE_TEST_SUITE_P(Of, Language, testing::Values("de", "fr"),
                          [](const auto& parameter) { return std::string(parameter.param); });
+
+TEST(DesktopEntry, TakesWhatTheOpenDialogOffers) {
+  QFile entry(VELK_SOURCES "/resources/desktop/aac-audition.desktop");
+  ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+  const auto text = QString::fromUtf8(entry.readAll());
+  static const QRegularExpression line(QStringLiteral("MimeType=(.*)"));
+  const auto types = line.match(text).captured(1).split(';', Qt::SkipEmptyParts);
+  const QMimeDatabase known;
+  int count = 0;
+  for (const char* const ending :
+       {"wav", "aif", "aiff", "aifc", "flac", "ogg", "oga", "opus", "mp3", "au"}) {
+    for (const auto& type : known.mimeTypesForFileName(QStringLiteral("mix.") + ending)) {
+      if (!type.name().startsWith("audio/") || type.name().contains("speex")) continue;
+      const auto names = type.aliases() << type.name();
+      EXPECT_TRUE(std::any_of(names.begin(), names.end(), [&](const auto& name) {
+        return types.contains(name);
+      })) << type.name().toStdString();
+      ++count;
+    }
+  }
+  EXPECT_GE(count, 10);
+}
 
 TEST(English, IsSpokenToWhoeverReadsItOrALanguageThatIsMissing) {
   for (const char* const name : {"en_US", "en_GB", "fi_FI"}) {
