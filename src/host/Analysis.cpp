@@ -44,7 +44,7 @@ void Analysis::update(const EncoderSetting& setting, bool testRuns, Clock::time_
 
 void Analysis::takeUp(const EncoderSetting& setting, Clock::time_point now) {
   // At first there is nothing that would have to settle.
-  settledAt_ = setting_ ? now + settling : now;
+  settledAt_ = setting_ ? now + kSettling : now;
   setting_ = setting;
   if (!waveformIsKnown_) return;
   work_.reset();

@@ -38,7 +38,7 @@ class Analysis {
   };
 
   /// A setting has to stay for so long before the encoded signal is analysed.
-  static constexpr auto settling = std::chrono::milliseconds(400);
+  static constexpr auto kSettling = std::chrono::milliseconds(400);
 
   Analysis(Open open, AudioFormat format);
   ~Analysis();

@@ -7,12 +7,12 @@
 namespace host {
 namespace {
 
-constexpr const char* version = "0.1.0";
+constexpr const char* kVersion = "0.1.0";
 
 }  // namespace
 
 std::optional<HelpText> parseArguments(CLI::App& app, int argc, const char* const* argv) {
-  app.set_version_flag("--version", app.get_name() + " " + version, "Print the version and exit");
+  app.set_version_flag("--version", app.get_name() + " " + kVersion, "Print the version and exit");
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

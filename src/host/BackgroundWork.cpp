@@ -12,11 +12,11 @@ namespace host {
 namespace {
 
 /// Half way down; threads that the work makes begin there, too.
-constexpr int niceness = 10;
+constexpr int kNiceness = 10;
 
 void stepBehind() {
   // A system that refuses runs the work like any other.
-  static_cast<void>(::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceness));
+  static_cast<void>(::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), kNiceness));
 }
 
 }  // namespace

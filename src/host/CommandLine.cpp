@@ -9,7 +9,7 @@
 namespace host {
 namespace {
 
-constexpr const char* description =
+constexpr const char* kDescription =
     R"(Plays a mix through an AAC encoder and decoder and shows what they do to it.
 
 aac-audition opens a window with the converter's view: the encoder's setting, the
@@ -19,7 +19,7 @@ WAV, AIFF, FLAC, Ogg Vorbis, Opus and MP3 files are played: mono, stereo, or two
 channels of more (--channels); sample rates other than 32, 44.1, 48, 88.2, 96, 176.4 and
 192 kHz are converted.)";
 
-constexpr const char* footer = R"(
+constexpr const char* kFooter = R"(
 With --headless the same window is made off screen and FILE is run through the
 converter as fast as it goes. After the last sample has left the converter the
 screenshot is written and the readings are printed: as text, or with --json as one
@@ -100,8 +100,8 @@ void check(const AuditionOptions& options) {
 }  // namespace
 
 std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const char* const* argv) {
-  CLI::App app(description, "aac-audition");
-  app.footer(footer);
+  CLI::App app(kDescription, "aac-audition");
+  app.footer(kFooter);
   AuditionOptions options;
   std::optional<std::string> monitor;
   std::optional<std::string> preset;

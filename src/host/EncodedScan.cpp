@@ -10,8 +10,8 @@ namespace host {
 namespace {
 
 /// Some blocks per column of a window, and blocks that are worth their overhead.
-constexpr std::int64_t blocksPerFile = 4000;
-constexpr std::int64_t shortestBlock = 256;
+constexpr std::int64_t kBlocksPerFile = 4000;
+constexpr std::int64_t kShortestBlock = 256;
 
 class EncodedScan {
  public:
@@ -21,7 +21,7 @@ class EncodedScan {
         format_(source.format()),
         unit_(unitFor(format_)),
         blockFrames_(static_cast<std::uint32_t>(std::clamp<std::int64_t>(
-            source.frames() / blocksPerFile, shortestBlock, std::int64_t{unitBlockFrames}))),
+            source.frames() / kBlocksPerFile, kShortestBlock, std::int64_t{unitBlockFrames}))),
         interleaved_(std::size_t{blockFrames_} * format_.channels) {
     for (auto& plane : planes_) plane.resize(blockFrames_);
     const UInt32 offline = 1;

@@ -11,12 +11,12 @@
 namespace host {
 namespace {
 
-constexpr std::uint32_t vbr = 2;
-constexpr std::uint32_t highestQuality = 127;
+constexpr std::uint32_t kVbr = 2;
+constexpr std::uint32_t kHighestQuality = 127;
 
-constexpr std::array<std::string_view, 3> formatWords = {"aac", "he", "hev2"};
-constexpr std::array<std::string_view, 3> strategyWords = {"abr", "vbrc", "vbr"};
-constexpr std::array<std::string_view, 4> presetWords = {"plus", "128k", "streaming", "high"};
+constexpr std::array<std::string_view, 3> kFormatWords = {"aac", "he", "hev2"};
+constexpr std::array<std::string_view, 3> kStrategyWords = {"abr", "vbrc", "vbr"};
+constexpr std::array<std::string_view, 4> kPresetWords = {"plus", "128k", "streaming", "high"};
 
 template <std::size_t Count>
 std::optional<std::uint32_t> indexOf(const std::array<std::string_view, Count>& words,
@@ -74,7 +74,7 @@ std::uint32_t parameter(AudioUnit unit, AudioUnitParameterID id) {
 }  // namespace
 
 bool EncoderSetting::hasQuality() const {
-  return strategy == vbr;
+  return strategy == kVbr;
 }
 
 std::optional<std::uint32_t> EncoderSetting::rateKbps() const {
@@ -95,16 +95,16 @@ std::string strategyName(std::uint32_t strategy) {
 EncoderSetting parsedEncoderSetting(std::string_view text) {
   const auto parts = fields(text);
   if (parts.size() != 3) refuse(text, "give FORMAT,STRATEGY,RATE such as aac,vbrc,256");
-  const auto format = indexOf(formatWords, parts[0]);
+  const auto format = indexOf(kFormatWords, parts[0]);
   if (!format) refuse(text, "the format is aac, he or hev2");
-  const auto strategy = indexOf(strategyWords, parts[1]);
+  const auto strategy = indexOf(kStrategyWords, parts[1]);
   if (!strategy) refuse(text, "the strategy is abr, vbrc or vbr");
   std::uint32_t number = 0;
   const auto* const end = parts[2].data() + parts[2].size();
   const auto [rest, error] = std::from_chars(parts[2].data(), end, number);
   const bool isNumber = error == std::errc() && rest == end;
-  if (*strategy == vbr) {
-    if (!isNumber || number > highestQuality) {
+  if (*strategy == kVbr) {
+    if (!isNumber || number > kHighestQuality) {
       refuse(text, "for vbr the last value is a quality from 0 to 127");
     }
     return {*format, *strategy, number};
@@ -117,8 +117,8 @@ EncoderSetting parsedEncoderSetting(std::string_view text) {
 }
 
 std::string settingWords(const EncoderSetting& setting) {
-  return std::string(formatWords.at(setting.format)) + "," +
-         std::string(strategyWords.at(setting.strategy)) + "," +
+  return std::string(kFormatWords.at(setting.format)) + "," +
+         std::string(kStrategyWords.at(setting.strategy)) + "," +
          std::to_string(setting.rateKbps().value_or(setting.rateOrQuality));
 }
 
@@ -130,7 +130,7 @@ std::string settingName(const EncoderSetting& setting) {
 }
 
 std::uint32_t presetIndex(std::string_view name) {
-  const auto index = indexOf(presetWords, name);
+  const auto index = indexOf(kPresetWords, name);
   if (!index) {
     throw UsageError("unknown preset '" + std::string(name) +
                      "': the presets are plus, 128k, streaming and high");

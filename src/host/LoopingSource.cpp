@@ -8,7 +8,7 @@ namespace {
 
 /// Loops up to this length are kept in memory: seeking in a file for each of their rounds would
 /// cost more than reading them.
-constexpr std::int64_t longestRemembered = 65536;
+constexpr std::int64_t kLongestRemembered = 65536;
 
 /// The share of what comes in the `i`th of `count` frames of a fade, between 0 and 1.
 float shareAt(std::int64_t i, std::int64_t count) {
@@ -26,13 +26,13 @@ void LoopingSource::setLoop(const std::optional<LoopRange>& loop) {
   round_.clear();
   headFrames_ = 0;
   if (!loop_) return;
-  const auto count = std::min(fadeFrames, loop_->length());
+  const auto count = std::min(kFadeFrames, loop_->length());
   if (loop_->begin >= count) {
     makeCrossFade(count);
   } else {
     makeDip(count / 2);
   }
-  if (loop_->length() <= longestRemembered) rememberRound();
+  if (loop_->length() <= kLongestRemembered) rememberRound();
 }
 
 std::vector<float> LoopingSource::framesAt(std::int64_t begin, std::int64_t count) {

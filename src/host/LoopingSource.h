@@ -16,7 +16,7 @@ namespace host {
 class LoopingSource : public AudioSource {
  public:
   /// Frames of the fade, or the length of a shorter loop. 12 ms at 44.1 kHz.
-  static constexpr std::int64_t fadeFrames = 512;
+  static constexpr std::int64_t kFadeFrames = 512;
 
   explicit LoopingSource(std::unique_ptr<AudioSource> source);
 

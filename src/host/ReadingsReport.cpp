@@ -11,11 +11,11 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr int levelDigits = 3;
+constexpr int kLevelDigits = 3;
 
 Json level(double value) {
   // JSON has no infinity: a level of nothing at all is null.
-  return std::isfinite(value) ? Json(rounded(value, levelDigits)) : Json(nullptr);
+  return std::isfinite(value) ? Json(rounded(value, kLevelDigits)) : Json(nullptr);
 }
 
 Json channels(const std::vector<ChannelReading>& readings) {

@@ -11,10 +11,10 @@
 namespace host {
 namespace {
 
-constexpr std::size_t secondsOfRoom = 4;
-constexpr std::size_t blockFrames = 4096;
+constexpr std::size_t kSecondsOfRoom = 4;
+constexpr std::size_t kBlockFrames = 4096;
 /// The audio thread wakes nobody; the writer looks this often.
-constexpr auto lookAgain = std::chrono::milliseconds(20);
+constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
 SNDFILE* handle(void* file) {
   return static_cast<SNDFILE*>(file);
@@ -29,9 +29,9 @@ void Recorder::Close::operator()(void* file) const {
 Recorder::Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format)
     : target_(std::move(file)),
       format_(format),
-      ring_(secondsOfRoom * format.sampleRate * format.channels),
-      incoming_(blockFrames * format.channels),
-      outgoing_(blockFrames * format.channels) {
+      ring_(kSecondsOfRoom * format.sampleRate * format.channels),
+      incoming_(kBlockFrames * format.channels),
+      outgoing_(kBlockFrames * format.channels) {
   SF_INFO info{};
   info.samplerate = static_cast<int>(format.sampleRate);
   info.channels = static_cast<int>(format.channels);
@@ -54,7 +54,7 @@ Recorder::~Recorder() {
 void Recorder::hear(const float* const* planes, std::uint32_t frames) noexcept {
   const auto channels = format_.channels;
   for (std::uint32_t begin = 0; begin < frames;) {
-    const auto count = std::min<std::uint32_t>(frames - begin, blockFrames);
+    const auto count = std::min<std::uint32_t>(frames - begin, kBlockFrames);
     if (ring_.writable() < std::size_t{count} * channels) {
       lostFrames_ += frames - begin;
       return;
@@ -103,7 +103,7 @@ void Recorder::write() {
   std::unique_lock lock(mutex_);
   while (!stop_) {
     writeReadable(lock);
-    if (!stop_) wakeWriter_.wait_for(lock, lookAgain);
+    if (!stop_) wakeWriter_.wait_for(lock, kLookAgain);
   }
   writeReadable(lock);
 }

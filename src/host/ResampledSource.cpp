@@ -9,10 +9,10 @@
 namespace host {
 namespace {
 
-constexpr std::size_t inputBlock = 4096;
+constexpr std::size_t kInputBlock = 4096;
 /// Original audio that goes through the filter before the place that was asked for, so that the
 /// filter knows its past: longer than its impulse response at any ratio that occurs.
-constexpr std::int64_t preRoll = 16384;
+constexpr std::int64_t kPreRoll = 16384;
 
 }  // namespace
 
@@ -22,7 +22,7 @@ ResampledSource::ResampledSource(std::unique_ptr<AudioSource> original, std::uin
       frames_(0),
       inputStep_(0),
       outputStep_(0),
-      input_(inputBlock * format_.channels) {
+      input_(kInputBlock * format_.channels) {
   const std::int64_t from = original_->format().sampleRate;
   const std::int64_t to = sampleRate;
   const auto divisor = std::gcd(from, to);
@@ -45,8 +45,8 @@ void ResampledSource::restart() {
 
 void ResampledSource::fill() {
   inputBegin_ = 0;
-  inputEnd_ = original_->read(input_.data(), inputBlock);
-  inputEnded_ = inputEnd_ < inputBlock;
+  inputEnd_ = original_->read(input_.data(), kInputBlock);
+  inputEnded_ = inputEnd_ < kInputBlock;
 }
 
 std::size_t ResampledSource::read(float* interleaved, std::size_t frames) {
@@ -73,14 +73,14 @@ std::size_t ResampledSource::read(float* interleaved, std::size_t frames) {
 void ResampledSource::seek(std::int64_t frame) {
   frame = std::clamp<std::int64_t>(frame, 0, frames_);
   // Both grids meet every `outputStep_` frames; only from there does the resampler hit this one.
-  const auto preRollSteps = (preRoll + inputStep_ - 1) / inputStep_;
+  const auto preRollSteps = (kPreRoll + inputStep_ - 1) / inputStep_;
   const auto step = std::max<std::int64_t>(frame / outputStep_ - preRollSteps, 0);
   original_->seek(step * inputStep_);
   restart();
   position_ = step * outputStep_;
-  std::vector<float> dropped(inputBlock * format_.channels);
+  std::vector<float> dropped(kInputBlock * format_.channels);
   while (position_ < frame) {
-    const auto count = std::min<std::int64_t>(frame - position_, inputBlock);
+    const auto count = std::min<std::int64_t>(frame - position_, kInputBlock);
     if (read(dropped.data(), static_cast<std::size_t>(count)) == 0) break;
   }
   position_ = frame;

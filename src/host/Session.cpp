@@ -18,7 +18,7 @@ Session::Session(OpenedFile file, OpenDevice open)
       original_(file.original),
       truncated_(std::move(file.truncated)),
       unit_(unitFor(format_)),
-      player_(std::make_unique<Player>(*unit_, maximumFrames, std::move(file.source))) {}
+      player_(std::make_unique<Player>(*unit_, kMaximumFrames, std::move(file.source))) {}
 
 Session::~Session() {
   stop();
@@ -35,7 +35,7 @@ void Session::load(OpenedFile file) {
   channels_ = std::move(file.channels);
   original_ = file.original;
   truncated_ = std::move(file.truncated);
-  player_ = std::make_unique<Player>(*unit_, maximumFrames, std::move(file.source));
+  player_ = std::make_unique<Player>(*unit_, kMaximumFrames, std::move(file.source));
   player_->setTap(tap_);
   // What was read of the other file says nothing about this one.
   const UInt32 reset = 1;

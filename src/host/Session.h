@@ -17,7 +17,7 @@ namespace host {
 class Session {
  public:
   /// Blocks that the unit is made for.
-  static constexpr std::uint32_t maximumFrames = unitBlockFrames;
+  static constexpr std::uint32_t kMaximumFrames = unitBlockFrames;
 
   /// Makes the unit for the file's format. Throws `Failure`.
   explicit Session(OpenedFile file, OpenDevice open = openDevice);

@@ -15,10 +15,10 @@
 namespace host {
 namespace {
 
-constexpr std::uint32_t lowestSampleRate = 2000;
-constexpr std::uint32_t highestSampleRate = 768000;
-constexpr std::size_t mostChannels = 2;
-constexpr std::size_t wideFrames = 1024;
+constexpr std::uint32_t kLowestSampleRate = 2000;
+constexpr std::uint32_t kHighestSampleRate = 768000;
+constexpr std::size_t kMostChannels = 2;
+constexpr std::size_t kWideFrames = 1024;
 
 SNDFILE* handle(void* file) {
   return static_cast<SNDFILE*>(file);
@@ -119,8 +119,8 @@ void SoundFile::open() {
   fileChannels_ = static_cast<std::size_t>(info.channels);
   format_ = {static_cast<std::uint32_t>(info.samplerate),
              static_cast<std::uint32_t>(info.channels)};
-  if (fileChannels_ > mostChannels) chooseChannels();
-  if (format_.sampleRate < lowestSampleRate || format_.sampleRate > highestSampleRate) {
+  if (fileChannels_ > kMostChannels) chooseChannels();
+  if (format_.sampleRate < kLowestSampleRate || format_.sampleRate > kHighestSampleRate) {
     refuse(path_, Message::words("its sample rate is %1 Hz; give a file from 2 to 768 kHz"),
            {info.samplerate});
   }
@@ -143,7 +143,7 @@ void SoundFile::chooseChannels() {
     }
   }
   format_.channels = static_cast<std::uint32_t>(choice_.size());
-  wide_.resize(wideFrames * fileChannels_);
+  wide_.resize(kWideFrames * fileChannels_);
 }
 
 std::int64_t SoundFile::countFrames() {
@@ -161,7 +161,7 @@ std::int64_t SoundFile::countFrames() {
 std::int64_t SoundFile::readFrames(float* interleaved, std::int64_t frames) {
   if (wide_.empty()) return sf_readf_float(handle(file_.get()), interleaved, frames);
   const auto got = sf_readf_float(handle(file_.get()), wide_.data(),
-                                  std::min(frames, static_cast<std::int64_t>(wideFrames)));
+                                  std::min(frames, static_cast<std::int64_t>(kWideFrames)));
   for (std::int64_t frame = 0; frame < got; ++frame) {
     const float* const samples = wide_.data() + static_cast<std::size_t>(frame) * fileChannels_;
     for (const auto channel : choice_) *interleaved++ = samples[channel - 1];

@@ -8,9 +8,9 @@
 namespace host {
 namespace {
 
-constexpr std::size_t blockFrames = 4096;
+constexpr std::size_t kBlockFrames = 4096;
 /// Overs are found to within this many frames, which is less than a column of any usual window.
-constexpr std::size_t meteredFrames = 128;
+constexpr std::size_t kMeteredFrames = 128;
 
 /// Finds the overs of one channel.
 class OverFinder {
@@ -19,9 +19,9 @@ class OverFinder {
       : channel_(channel), overview_(overview) {}
 
   void process(const float* interleaved, std::size_t stride, std::size_t frames) {
-    std::array<float, meteredFrames> samples;
-    for (std::size_t done = 0; done < frames; done += meteredFrames) {
-      const auto count = std::min(meteredFrames, frames - done);
+    std::array<float, kMeteredFrames> samples;
+    for (std::size_t done = 0; done < frames; done += kMeteredFrames) {
+      const auto count = std::min(kMeteredFrames, frames - done);
       for (std::size_t i = 0; i < count; ++i) {
         samples[i] = interleaved[(done + i) * stride + channel_];
       }
@@ -63,15 +63,15 @@ void scanSource(AudioSource& source, SharedOverview& overview, Progress& progres
   for (std::uint32_t channel = 0; channel < channels; ++channel) {
     finders.emplace_back(channel, overview);
   }
-  std::vector<float> block(blockFrames * channels);
+  std::vector<float> block(kBlockFrames * channels);
   std::int64_t read = 0;
   while (progress.goesOn()) {
-    const auto got = source.read(block.data(), blockFrames);
+    const auto got = source.read(block.data(), kBlockFrames);
     overview.append(block.data(), got);
     for (auto& finder : finders) finder.process(block.data(), channels, got);
     read += static_cast<std::int64_t>(got);
     progress.set(std::min(static_cast<double>(read) / length, 1.0));
-    if (got < blockFrames) break;
+    if (got < kBlockFrames) break;
   }
   for (auto& finder : finders) finder.finish();
 }

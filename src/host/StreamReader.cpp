@@ -7,10 +7,10 @@
 namespace host {
 namespace {
 
-constexpr std::size_t blockFrames = 4096;
-constexpr std::size_t secondsAhead = 2;
+constexpr std::size_t kBlockFrames = 4096;
+constexpr std::size_t kSecondsAhead = 2;
 /// The audio thread tells nobody that it made room; the decoder looks this often.
-constexpr auto lookAgain = std::chrono::milliseconds(20);
+constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
 }  // namespace
 
@@ -18,8 +18,8 @@ StreamReader::StreamReader(std::unique_ptr<AudioSource> source)
     : source_(std::move(source)),
       format_(source_.format()),
       frames_(source_.frames()),
-      ring_((secondsAhead * format_.sampleRate + blockFrames) * format_.channels),
-      block_(blockFrames * format_.channels),
+      ring_((kSecondsAhead * format_.sampleRate + kBlockFrames) * format_.channels),
+      block_(kBlockFrames * format_.channels),
       decoder_([this] { decode(); }) {}
 
 StreamReader::~StreamReader() {
@@ -42,14 +42,14 @@ void StreamReader::decode() {
       if (ended_) {
         wakeDecoder_.wait(lock);
       } else {
-        wakeDecoder_.wait_for(lock, lookAgain);
+        wakeDecoder_.wait_for(lock, kLookAgain);
       }
       continue;
     }
     // The source belongs to whoever holds the mutex, so a seek waits for at most one block.
-    const auto got = source_.read(block_.data(), blockFrames);
+    const auto got = source_.read(block_.data(), kBlockFrames);
     ring_.write(block_.data(), got * format_.channels);
-    if (got < blockFrames) ended_.store(true, std::memory_order_release);
+    if (got < kBlockFrames) ended_.store(true, std::memory_order_release);
     madeProgress_.notify_all();
     // Gives a waiting seek its turn.
     lock.unlock();

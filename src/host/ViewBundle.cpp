@@ -13,8 +13,8 @@
 namespace host {
 namespace {
 
-constexpr const char* factoryClass = "Velk_AUAACConverterFactory";
-constexpr ui::Size wantedSize = {560, 195};
+constexpr const char* kFactoryClass = "Velk_AUAACConverterFactory";
+constexpr ui::Size kWantedSize = {560, 195};
 
 [[noreturn]] void refuse(const std::filesystem::path& bundle, const Message& why) {
   throw Failure(Message::words("cannot show the converter's view: %1; build or install '%2' again"),
@@ -66,7 +66,7 @@ ViewBundle::ViewBundle(const std::filesystem::path& bundle) : bundle_(bundle) {
   const auto instantiate =
       reinterpret_cast<VelkInstantiateClassFunction>(::dlsym(library, kVelkInstantiateClassSymbol));
   if (instantiate == nullptr) refuse(bundle, Message::words("its bundle has no entry"));
-  factory_.reset(instantiate(factoryClass));
+  factory_.reset(instantiate(kFactoryClass));
   if (!factory_) refuse(bundle, Message::words("its bundle has no factory"));
 }
 
@@ -74,7 +74,7 @@ ViewBundle::~ViewBundle() = default;
 
 std::unique_ptr<ui::NativeView> ViewBundle::viewForUnit(AudioUnit unit) {
   HeldLog log;
-  auto view = factory_->uiViewForAudioUnit(unit, wantedSize);
+  auto view = factory_->uiViewForAudioUnit(unit, kWantedSize);
   if (!view) {
     const auto why = log.taken();
     refuse(bundle_, why.empty() ? Message::words("its bundle gave none") : Message(why));

@@ -5,7 +5,7 @@
 namespace host {
 namespace {
 
-constexpr std::size_t fanOut = 16;
+constexpr std::size_t kFanOut = 16;
 
 std::uint32_t saturatingSum(std::uint32_t one, std::uint32_t other) {
   return one > UINT32_MAX - other ? UINT32_MAX : one + other;
@@ -23,7 +23,7 @@ void merge(WaveformColumn& into, const WaveformColumn& column) {
 WaveformOverview::WaveformOverview(std::uint32_t channels, std::size_t maximumBuckets)
     : maximumBuckets_(maximumBuckets), pyramids_(channels) {
   for (auto& pyramid : pyramids_) {
-    for (auto buckets = maximumBuckets; buckets > 0; buckets /= fanOut) {
+    for (auto buckets = maximumBuckets; buckets > 0; buckets /= kFanOut) {
       pyramid.emplace_back().reserve(buckets);
     }
   }
@@ -83,7 +83,7 @@ void WaveformOverview::add(Pyramid& pyramid, std::size_t bucket, const WaveformC
   for (auto& level : pyramid) {
     if (level.size() <= bucket) level.resize(bucket + 1);
     merge(level[bucket], column);
-    bucket /= fanOut;
+    bucket /= kFanOut;
   }
 }
 
@@ -107,11 +107,11 @@ WaveformColumn WaveformOverview::sum(const Pyramid& pyramid, std::size_t begin, 
     end = std::min(end, level.size());
     const bool isTop = &level == &pyramid.back();
     // What fills whole buckets of the next level is left to it.
-    while (begin < end && (isTop || begin % fanOut != 0)) merge(result, level[begin++]);
-    while (begin < end && end % fanOut != 0) merge(result, level[--end]);
+    while (begin < end && (isTop || begin % kFanOut != 0)) merge(result, level[begin++]);
+    while (begin < end && end % kFanOut != 0) merge(result, level[--end]);
     if (begin >= end) break;
-    begin /= fanOut;
-    end /= fanOut;
+    begin /= kFanOut;
+    end /= kFanOut;
   }
   return result;
 }

@@ -29,10 +29,10 @@ struct WaveformColumn {
 class WaveformOverview {
  public:
   /// 9 MiB for two channels. Ten minutes at 48 kHz have buckets of 128 frames, ten hours of 8192.
-  static constexpr std::size_t defaultBuckets = std::size_t{1} << 18U;
+  static constexpr std::size_t kDefaultBuckets = std::size_t{1} << 18U;
 
   /// `maximumBuckets` per channel, a power of two from 2 on.
-  explicit WaveformOverview(std::uint32_t channels, std::size_t maximumBuckets = defaultBuckets);
+  explicit WaveformOverview(std::uint32_t channels, std::size_t maximumBuckets = kDefaultBuckets);
 
   std::uint32_t channels() const { return static_cast<std::uint32_t>(pyramids_.size()); }
   /// Frames taken so far.

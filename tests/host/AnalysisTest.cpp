@@ -24,8 +24,8 @@ namespace {
 using namespace std::chrono_literals;
 using Step = Analysis::Step;
 
-constexpr EncoderSetting low = {0, 0, 5};
-constexpr EncoderSetting high = {0, 0, 16};
+constexpr EncoderSetting kLow = {0, 0, 5};
+constexpr EncoderSetting kHigh = {0, 0, 16};
 
 std::uint32_t overs(const host::SharedOverview& overview, Signal signal, std::int64_t begin,
                     std::int64_t end, std::uint32_t channel = 0) {
@@ -86,7 +86,7 @@ TEST(EncodedScan, MarksTheEncodedOversAndNothingElse) {
   MemorySource source(sound);
   host::SharedOverview overview(2);
   host::Progress progress;
-  const auto peaks = host::scanEncoded(source, low, overview, progress);
+  const auto peaks = host::scanEncoded(source, kLow, overview, progress);
   const auto counted = peaks[velk::kPeakStatsSlot_EncodedLeft].mInterSampleClipCount;
   EXPECT_THAT(counted, Gt(0));
   // Blocks are up to 256 frames long here.
@@ -102,7 +102,7 @@ TEST(EncodedScan, ReadsTheSameWhateverTheLength) {
     MemorySource source(loud(frames, 1));
     host::SharedOverview overview(1);
     host::Progress progress;
-    const auto peaks = host::scanEncoded(source, high, overview, progress);
+    const auto peaks = host::scanEncoded(source, kHigh, overview, progress);
     EXPECT_EQ(overs(overview, Signal::Encoded, 0, static_cast<std::int64_t>(frames)),
               peaks[velk::kPeakStatsSlot_EncodedLeft].mInterSampleClipCount)
         << frames;
@@ -124,11 +124,11 @@ class Analysing : public testing::Test {
         host::AudioFormat{48000, 2});
     return *analysis_;
   }
-  void update(const EncoderSetting& setting = low, bool testRuns = false) {
+  void update(const EncoderSetting& setting = kLow, bool testRuns = false) {
     analysis_->update(setting, testRuns, now_);
   }
   /// Lets the work in the background come to that step.
-  void wait(Step step, const EncoderSetting& setting = low) {
+  void wait(Step step, const EncoderSetting& setting = kLow) {
     const auto givenUp = std::chrono::steady_clock::now() + 30s;
     while (analysis_->state().step != step) {
       ASSERT_LT(std::chrono::steady_clock::now(), givenUp);
@@ -167,14 +167,14 @@ TEST_F(Analysing, StartsAgainOnceAnotherSettingHasSettled) {
   start();
   wait(Step::Done);
   const auto before = encoded();
-  update(high);
+  update(kHigh);
   EXPECT_EQ(analysis_->state().step, Step::Encoded);
   EXPECT_EQ(encoded(), 0U);
-  now_ += Analysis::settling - 1ms;
-  update(high);
+  now_ += Analysis::kSettling - 1ms;
+  update(kHigh);
   EXPECT_EQ(opened_, 2);
   now_ += 1ms;
-  wait(Step::Done, high);
+  wait(Step::Done, kHigh);
   EXPECT_EQ(opened_, 3);
   EXPECT_NE(encoded(), before);
 }
@@ -183,8 +183,8 @@ TEST_F(Analysing, WaitsWhileTheSettingKeepsChanging) {
   start();
   wait(Step::Done);
   for (int i = 0; i < 10; ++i) {
-    now_ += Analysis::settling / 2;
-    update(i % 2 == 0 ? high : low);
+    now_ += Analysis::kSettling / 2;
+    update(i % 2 == 0 ? kHigh : kLow);
   }
   EXPECT_EQ(opened_, 2);
 }
@@ -192,22 +192,22 @@ TEST_F(Analysing, WaitsWhileTheSettingKeepsChanging) {
 TEST_F(Analysing, StandsStillWhileAListeningTestRuns) {
   start();
   wait(Step::Done);
-  update(high);
-  now_ += Analysis::settling;
-  update(high, true);
+  update(kHigh);
+  now_ += Analysis::kSettling;
+  update(kHigh, true);
   analysis_->follow(peaks(0), 100);
   analysis_->follow(peaks(7), 200);
   const auto revision = analysis_->overview()->revision();
   now_ += 10s;
-  update(high, true);
+  update(kHigh, true);
   analysis_->follow(peaks(9), 300);
   EXPECT_EQ(analysis_->overview()->revision(), revision);
   EXPECT_EQ(opened_, 2);
   // What was heard in the test stays untold.
-  update(high, false);
+  update(kHigh, false);
   analysis_->follow(peaks(9), 400);
   EXPECT_EQ(encoded(), 0U);
-  wait(Step::Done, high);
+  wait(Step::Done, kHigh);
   EXPECT_THAT(encoded(), Gt(0U));
 }
 
@@ -252,9 +252,9 @@ TEST_F(Analysing, GoesOnAfterACancelWhenTheSettingChanges) {
   start();
   wait(Step::Encoded);
   analysis_->cancel();
-  update(high);
-  now_ += Analysis::settling;
-  wait(Step::Done, high);
+  update(kHigh);
+  now_ += Analysis::kSettling;
+  wait(Step::Done, kHigh);
 }
 
 TEST_F(Analysing, SaysWhyItFailed) {

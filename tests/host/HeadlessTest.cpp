@@ -21,7 +21,7 @@ using testing::SizeIs;
 namespace {
 
 /// What the meters read where there is nothing.
-constexpr double floorDb = -144;
+constexpr double kFloorDb = -144;
 
 class Headless : public testing::Test {
  protected:
@@ -216,8 +216,8 @@ TEST_F(Headless, HasNoPeaksForSilence) {
   mix(silence(48000, 2, 48000));
   const auto json = measured();
   for (const auto& channel : json["source"]) {
-    EXPECT_EQ(channel["sample_peak_dbfs"], floorDb);
-    EXPECT_EQ(channel["inter_sample_peak_dbtp"], floorDb);
+    EXPECT_EQ(channel["sample_peak_dbfs"], kFloorDb);
+    EXPECT_EQ(channel["inter_sample_peak_dbtp"], kFloorDb);
     EXPECT_EQ(channel["sample_clips"], 0);
     EXPECT_EQ(channel["inter_sample_overs"], 0);
   }
@@ -229,7 +229,7 @@ TEST_F(Headless, MeasuresAFileOfOneSample) {
   mix(sound);
   const auto json = measured({"--record", "out.wav", "--monitor", "source"});
   EXPECT_NEAR(json["source"][0]["sample_peak_dbfs"], -6.02, 0.01);
-  EXPECT_EQ(json["source"][1]["sample_peak_dbfs"], floorDb);
+  EXPECT_EQ(json["source"][1]["sample_peak_dbfs"], kFloorDb);
   EXPECT_TRUE(readSound(path("out.wav")).planes == sound.planes);
 }
 

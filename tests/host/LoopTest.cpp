@@ -22,9 +22,9 @@ using host::Player;
 
 namespace {
 
-constexpr UInt32 latency = 1500;
-constexpr std::uint32_t maximumFrames = 512;
-constexpr auto fade = static_cast<std::size_t>(LoopingSource::fadeFrames);
+constexpr UInt32 kLatency = 1500;
+constexpr std::uint32_t kMaximumFrames = 512;
+constexpr auto kFade = static_cast<std::size_t>(LoopingSource::kFadeFrames);
 
 std::size_t size(std::int64_t frames) {
   return static_cast<std::size_t>(frames);
@@ -34,7 +34,7 @@ std::size_t size(std::int64_t frames) {
 class Looping : public testing::Test {
  protected:
   void make(Sound sound, std::int64_t missing = 0) {
-    unit_ = std::make_unique<DelayingUnit>(static_cast<UInt32>(sound.channels()), latency);
+    unit_ = std::make_unique<DelayingUnit>(static_cast<UInt32>(sound.channels()), kLatency);
     play(sound, missing);
   }
   void makeReal(Sound sound) {
@@ -63,7 +63,7 @@ class Looping : public testing::Test {
  private:
   void play(const Sound& sound, std::int64_t missing) {
     sound_ = sound;
-    player_ = std::make_unique<Player>(*unit_, maximumFrames,
+    player_ = std::make_unique<Player>(*unit_, kMaximumFrames,
                                        std::make_unique<MemorySource>(sound, missing));
     player_->setOffline(true);
   }
@@ -86,7 +86,7 @@ TEST_F(Looping, GivesTheVeryFramesOfTheLoopButForTheJoinForAHundredRounds) {
   const auto heard = listen(100 * n);
   for (std::size_t round = 0; round < 100; ++round) {
     // The first frames of the first round come out of silence.
-    for (std::size_t i = round == 0 ? 300 : 0; i < n - fade; ++i) {
+    for (std::size_t i = round == 0 ? 300 : 0; i < n - kFade; ++i) {
       ASSERT_EQ(heard[round * n + i], source()[3000 + i]) << round << " " << i;
     }
   }
@@ -102,9 +102,9 @@ TEST_F(Looping, FadesOverToWhatLiesBeforeTheLoopSoThatTheJoinIsNoStep) {
     player().play();
     const auto n = size(loop.length());
     const auto heard = listen(5 * n + 700);
-    const auto allowed = largestStep(source(), size(loop.begin) - fade, size(loop.end));
+    const auto allowed = largestStep(source(), size(loop.begin) - kFade, size(loop.end));
     for (std::size_t round = 1; round < 5; ++round) {
-      EXPECT_LE(largestStep(heard, round * n - fade - 1, round * n + 2), allowed) << n;
+      EXPECT_LE(largestStep(heard, round * n - kFade - 1, round * n + 2), allowed) << n;
       EXPECT_EQ(heard[round * n], source()[size(loop.begin)]);
     }
   }
@@ -120,9 +120,9 @@ TEST_F(Looping, FadesOutAndInAgainWhereNothingLiesBeforeTheLoop) {
     const auto heard = listen(4 * n);
     const auto allowed = largestStep(source(), size(loop.begin), size(loop.end));
     for (std::size_t round = 1; round < 4; ++round) {
-      EXPECT_LE(largestStep(heard, round * n - fade, round * n + fade), allowed);
+      EXPECT_LE(largestStep(heard, round * n - kFade, round * n + kFade), allowed);
       EXPECT_LT(std::abs(heard[round * n]), 0.01F);
-      for (std::size_t i = fade; i < n - fade; ++i) {
+      for (std::size_t i = kFade; i < n - kFade; ++i) {
         ASSERT_EQ(heard[round * n + i], source()[size(loop.begin) + i]);
       }
     }

@@ -14,17 +14,17 @@
 /// What the converter makes of a place that the player was sent to.
 namespace {
 
-constexpr std::uint32_t maximumFrames = 512;
-constexpr std::uint32_t rate = 48000;
+constexpr std::uint32_t kMaximumFrames = 512;
+constexpr std::uint32_t kRate = 48000;
 
 class Listening {
  public:
   explicit Listening(Sound sound, float format = 0)
-      : unit_(converter::ConverterUnit::make({.sampleRate = rate,
+      : unit_(converter::ConverterUnit::make({.sampleRate = kRate,
                                               .channels = static_cast<UInt32>(sound.channels()),
-                                              .maximumFrames = maximumFrames})) {
+                                              .maximumFrames = kMaximumFrames})) {
     set(velk::kConverterParam_Format, format);
-    player_ = std::make_unique<host::Player>(*unit_, maximumFrames,
+    player_ = std::make_unique<host::Player>(*unit_, kMaximumFrames,
                                              std::make_unique<MemorySource>(std::move(sound)));
     player_->setOffline(true);
   }
@@ -35,10 +35,10 @@ class Listening {
     player_->play();
     std::vector<float> first;
     while (first.size() < frames) {
-      std::array<std::vector<float>, 2> block{std::vector<float>(maximumFrames),
-                                              std::vector<float>(maximumFrames)};
+      std::array<std::vector<float>, 2> block{std::vector<float>(kMaximumFrames),
+                                              std::vector<float>(kMaximumFrames)};
       const std::array<float*, 2> planes{block[0].data(), block[1].data()};
-      player_->renderBlock(planes.data(), maximumFrames);
+      player_->renderBlock(planes.data(), kMaximumFrames);
       first.insert(first.end(), block[0].begin(), block[0].end());
     }
     return first;
@@ -67,7 +67,7 @@ double residual(const std::vector<float>& heard, const std::vector<float>& whole
                 std::size_t place) {
   double difference = 0;
   double signal = 0;
-  for (std::size_t i = maximumFrames; i < heard.size(); ++i) {
+  for (std::size_t i = kMaximumFrames; i < heard.size(); ++i) {
     const double expected = whole[place + i];
     difference += (heard[i] - expected) * (heard[i] - expected);
     signal += expected * expected;
@@ -76,7 +76,7 @@ double residual(const std::vector<float>& heard, const std::vector<float>& whole
 }
 
 TEST(Seeking, MakesNoOverOfALoudSignalThatIsCutAtThePlace) {
-  auto level = silence(rate, 1, 60000);
+  auto level = silence(kRate, 1, 60000);
   level.planes[0].assign(60000, 0.98F);
   Listening listening(std::move(level));
   for (const std::int64_t place : {20000, 31001, 24000}) {
@@ -91,11 +91,11 @@ TEST(Seeking, MakesNoOverOfALoudSignalThatIsCutAtThePlace) {
 }
 
 TEST(Seeking, CountsOnlyWhatIsPlayed) {
-  auto clicks = silence(rate, 1, 60000);
+  auto clicks = silence(kRate, 1, 60000);
   for (std::size_t i = 500; i < 60000; i += 1000) clicks.planes[0][i] = 1.5F;
   Listening listening(std::move(clicks));
   listening.player().seek(20000);
-  listening.play(std::size_t{8} * maximumFrames);
+  listening.play(std::size_t{8} * kMaximumFrames);
   // At 20500, 21500, 22500 and 23500.
   EXPECT_EQ(listening.statistics()[velk::kPeakStatsSlot_SourceLeft].mSampleClipCount, 4);
 }
@@ -110,7 +110,7 @@ struct Format {
 class SeekingOf : public testing::TestWithParam<Format> {};
 
 TEST_P(SeekingOf, LetsTheEncodedSignalBeginAsIfPlayedThrough) {
-  const auto music = noise(rate, 2, 90000);
+  const auto music = noise(kRate, 2, 90000);
   Listening whole(music, GetParam().code);
   const auto through = whole.play(80000);
   Listening listening(music, GetParam().code);

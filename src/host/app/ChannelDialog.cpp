@@ -9,8 +9,8 @@
 namespace host::app {
 namespace {
 
-constexpr int grid = 8;
-constexpr int messageWidth = 352;
+constexpr int kGrid = 8;
+constexpr int kMessageWidth = 352;
 
 }  // namespace
 
@@ -25,7 +25,7 @@ ChannelDialog::ChannelDialog(const QString& fileName, std::uint32_t channels, QW
                  this);
   message->setTextFormat(Qt::PlainText);
   message->setWordWrap(true);
-  message->setFixedWidth(messageWidth);
+  message->setFixedWidth(kMessageWidth);
   for (std::uint32_t channel = 1; channel <= channels; ++channel) {
     const auto name = tr("Channel %1").arg(QLocale().toString(channel));
     left_->addItem(name, channel);
@@ -44,8 +44,8 @@ ChannelDialog::ChannelDialog(const QString& fileName, std::uint32_t channels, QW
   form->addRow(tr("Left:"), left_);
   form->addRow(tr("Right:"), right_);
   auto* const rows = new QVBoxLayout(this);
-  rows->setContentsMargins(2 * grid, 2 * grid, 2 * grid, 2 * grid);
-  rows->setSpacing(2 * grid);
+  rows->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
+  rows->setSpacing(2 * kGrid);
   rows->addWidget(message);
   rows->addLayout(form);
   rows->addWidget(buttons);

@@ -6,7 +6,7 @@
 namespace host::app {
 namespace {
 
-constexpr int foundMilliseconds = 50;
+constexpr int kFoundMilliseconds = 50;
 
 bool sameNames(const std::vector<Device>& one, const std::vector<Device>& other) {
   return std::equal(one.begin(), one.end(), other.begin(), other.end(),
@@ -22,7 +22,7 @@ DeviceMenu::DeviceMenu(QMenu* menu, Look look, int milliseconds)
   connect(&lookAgain_, &QTimer::timeout, this, &DeviceMenu::startLooking);
   connect(&lookWhetherFound_, &QTimer::timeout, this, &DeviceMenu::takeFound);
   lookAgain_.setInterval(milliseconds);
-  lookWhetherFound_.setInterval(foundMilliseconds);
+  lookWhetherFound_.setInterval(kFoundMilliseconds);
 }
 
 DeviceMenu::~DeviceMenu() = default;

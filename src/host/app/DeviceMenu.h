@@ -21,9 +21,9 @@ class DeviceMenu : public QObject {
   using Look = std::function<std::vector<Device>()>;
 
   /// How often it looks while the menu is open, in milliseconds.
-  static constexpr int lookAgain = 2000;
+  static constexpr int kLookAgain = 2000;
 
-  explicit DeviceMenu(QMenu* menu, Look look = outputDevices, int milliseconds = lookAgain);
+  explicit DeviceMenu(QMenu* menu, Look look = outputDevices, int milliseconds = kLookAgain);
   ~DeviceMenu() override;
 
   /// The one that plays, or nothing while nobody listens.

@@ -15,13 +15,13 @@
 namespace host::app {
 namespace {
 
-constexpr std::uint32_t blockFrames = 1024;
+constexpr std::uint32_t kBlockFrames = 1024;
 /// Between two turns of the event loop: half a second of audio or so.
-constexpr int blocksPerTurn = 20;
+constexpr int kBlocksPerTurn = 20;
 /// The view polls its meters every 75 ms: long enough for the last readings to show.
-constexpr int settlingMilliseconds = 250;
-constexpr int refreshMilliseconds = 50;
-constexpr int restingMilliseconds = 10;
+constexpr int kSettlingMilliseconds = 250;
+constexpr int kRefreshMilliseconds = 50;
+constexpr int kRestingMilliseconds = 10;
 
 /// Renders block after block while the event loop turns.
 class Pump {
@@ -33,10 +33,10 @@ class Pump {
   /// False once everything has been rendered.
   bool turn() {
     auto& player = session_.player();
-    const std::array<float*, 2> planes = {samples_.data(), samples_.data() + blockFrames};
-    for (int block = 0; block < blocksPerTurn && !player.isFinished(); ++block) {
-      if (recorder_ != nullptr) recorder_->waitForRoom(blockFrames);
-      player.renderBlock(planes.data(), blockFrames);
+    const std::array<float*, 2> planes = {samples_.data(), samples_.data() + kBlockFrames};
+    for (int block = 0; block < kBlocksPerTurn && !player.isFinished(); ++block) {
+      if (recorder_ != nullptr) recorder_->waitForRoom(kBlockFrames);
+      player.renderBlock(planes.data(), kBlockFrames);
     }
     return !player.isFinished();
   }
@@ -44,7 +44,7 @@ class Pump {
  private:
   Session& session_;
   Recorder* recorder_;
-  std::vector<float> samples_ = std::vector<float>(std::size_t{blockFrames} * 2);
+  std::vector<float> samples_ = std::vector<float>(std::size_t{kBlockFrames} * 2);
 };
 
 /// Lets the application run, calling `work` every so many milliseconds, until it says that it is
@@ -68,7 +68,7 @@ void turnWhile(const std::function<bool()>& work, const bool& interrupted, int m
 
 void settle(const bool& interrupted) {
   if (interrupted) return;
-  QTimer::singleShot(settlingMilliseconds, [] { QApplication::exit(); });
+  QTimer::singleShot(kSettlingMilliseconds, [] { QApplication::exit(); });
   QApplication::exec();
 }
 
@@ -95,7 +95,7 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   audition.window().show();
   QTimer refresh;
   QObject::connect(&refresh, &QTimer::timeout, [&] { audition.refresh(); });
-  refresh.start(refreshMilliseconds);
+  refresh.start(kRefreshMilliseconds);
 
   Pump pump(*audition.session(), audition.recorder());
   audition.session()->player().play();
@@ -108,7 +108,7 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
       audition.refresh();
       return audition.isAnalysing();
     };
-    turnWhile(goesOn, interrupted, restingMilliseconds);
+    turnWhile(goesOn, interrupted, kRestingMilliseconds);
     settle(interrupted);
   }
   if (interrupted) throw Failure(Message::words("interrupted; nothing was written"));

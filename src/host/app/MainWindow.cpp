@@ -15,8 +15,8 @@
 namespace host::app {
 namespace {
 
-constexpr int viewWidth = 560;
-constexpr int emptyHeight = 195;
+constexpr int kViewWidth = 560;
+constexpr int kEmptyHeight = 195;
 
 QFrame* separator(QWidget* parent) {
   auto* const line = new QFrame(parent);
@@ -44,7 +44,7 @@ MainWindow::MainWindow()
   setAcceptDrops(true);
   static_cast<QLabel*>(invitation_)->setAlignment(Qt::AlignCenter);
   invitation_->setEnabled(false);
-  invitation_->setFixedSize(viewWidth, emptyHeight);
+  invitation_->setFixedSize(kViewWidth, kEmptyHeight);
 
   auto* const centre = new QWidget(this);
   centre->setLayout(rows_);
@@ -55,7 +55,7 @@ MainWindow::MainWindow()
   rows_->addWidget(invitation_);
   rows_->addWidget(separator(this));
   rows_->addWidget(status_);
-  centre->setFixedWidth(viewWidth);
+  centre->setFixedWidth(kViewWidth);
   setCentralWidget(centre);
   // The window is as large as its contents ask for, always.
   rows_->setSizeConstraint(QLayout::SetFixedSize);

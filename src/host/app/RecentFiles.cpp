@@ -5,12 +5,12 @@
 namespace host::app {
 namespace {
 
-const QString key = QStringLiteral("recentFiles");
+const QString kKey = QStringLiteral("recentFiles");
 
 }  // namespace
 
 QStringList RecentFiles::paths() const {
-  return settings_.value(key).toStringList().mid(0, most);
+  return settings_.value(kKey).toStringList().mid(0, kMost);
 }
 
 void RecentFiles::add(const QString& path) {
@@ -18,17 +18,17 @@ void RecentFiles::add(const QString& path) {
   auto all = paths();
   all.removeAll(whole);
   all.prepend(whole);
-  settings_.setValue(key, all.mid(0, most));
+  settings_.setValue(kKey, all.mid(0, kMost));
 }
 
 void RecentFiles::remove(const QString& path) {
   auto all = paths();
   all.removeAll(QFileInfo(path).absoluteFilePath());
-  settings_.setValue(key, all);
+  settings_.setValue(kKey, all);
 }
 
 void RecentFiles::clear() {
-  settings_.remove(key);
+  settings_.remove(kKey);
 }
 
 }  // namespace host::app

@@ -8,7 +8,7 @@ namespace host::app {
 /// The files that were opened last, the newest first, kept for the user.
 class RecentFiles {
  public:
-  static constexpr int most = 10;
+  static constexpr int kMost = 10;
 
   explicit RecentFiles(QSettings& settings) : settings_(settings) {}
 

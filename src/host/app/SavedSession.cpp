@@ -5,7 +5,7 @@
 namespace host::app {
 namespace {
 
-constexpr const char* group = "session";
+constexpr const char* kGroup = "session";
 
 QString joined(const ChannelChoice& channels) {
   QStringList words;
@@ -27,7 +27,7 @@ auto parsedOrNothing(const QString& text, Parse parse)
 }  // namespace
 
 void save(const SavedSession& session, QSettings& settings) {
-  settings.beginGroup(group);
+  settings.beginGroup(kGroup);
   settings.remove({});
   settings.setValue("file", QString::fromStdString(session.file));
   settings.setValue("channels", joined(session.channels));
@@ -45,7 +45,7 @@ void save(const SavedSession& session, QSettings& settings) {
 }
 
 std::optional<SavedSession> savedSession(QSettings& settings) {
-  settings.beginGroup(group);
+  settings.beginGroup(kGroup);
   const auto text = [&](const char* key) { return settings.value(key).toString(); };
   SavedSession session;
   session.file = text("file").toStdString();

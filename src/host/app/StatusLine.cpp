@@ -5,7 +5,7 @@
 namespace host::app {
 namespace {
 
-constexpr int grid = 8;
+constexpr int kGrid = 8;
 
 }  // namespace
 
@@ -18,8 +18,8 @@ StatusLine::StatusLine(QWidget* parent)
   encoder_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* const row = new QHBoxLayout(this);
-  row->setContentsMargins(2 * grid, grid, 2 * grid, grid);
-  row->setSpacing(2 * grid);
+  row->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);
+  row->setSpacing(2 * kGrid);
   row->addWidget(encoder_);
   row->addWidget(notice_, 1);
 }

@@ -5,7 +5,7 @@
 namespace host::app {
 namespace {
 
-constexpr int padding = 16;
+constexpr int kPadding = 16;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ void TimeDisplay::showTime(std::int64_t position, std::int64_t length, std::uint
   if (length != length_ || sampleRate != sampleRate_) {
     // As wide as the longest time, so that nothing moves while it runs.
     const auto longest = QString(timeText(-length, sampleRate));
-    setFixedWidth(fontMetrics().horizontalAdvance(longest) + padding);
+    setFixedWidth(fontMetrics().horizontalAdvance(longest) + kPadding);
   }
   length_ = length;
   sampleRate_ = sampleRate;

@@ -10,9 +10,9 @@
 namespace host::app {
 namespace {
 
-constexpr int grid = 8;
-constexpr int deviceWidth = 176;
-constexpr int loopWidth = 128;
+constexpr int kGrid = 8;
+constexpr int kDeviceWidth = 176;
+constexpr int kLoopWidth = 128;
 
 /// Keys belong to the view: a click here does not take the focus away from it.
 template <class Control>
@@ -23,8 +23,8 @@ Control* keepingFocusInView(Control* control) {
 
 QHBoxLayout* row() {
   auto* const layout = new QHBoxLayout;
-  layout->setContentsMargins(2 * grid, 0, 2 * grid, 0);
-  layout->setSpacing(grid);
+  layout->setContentsMargins(2 * kGrid, 0, 2 * kGrid, 0);
+  layout->setSpacing(kGrid);
   return layout;
 }
 
@@ -43,12 +43,12 @@ TransportBar::TransportBar(QWidget* parent)
       analysis_(new AnalysisIndicator(this)),
       loop_(keepingFocusInView(new QPushButton(this))) {
   device_->setMenu(deviceMenu_);
-  device_->setFixedWidth(deviceWidth);
+  device_->setFixedWidth(kDeviceWidth);
   device_->setToolTip(tr("The device that plays"));
   file_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   file_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   loop_->setCheckable(true);
-  loop_->setFixedWidth(loopWidth);
+  loop_->setFixedWidth(kLoopWidth);
   layOut();
 
   connect(open_, &QPushButton::clicked, this, &TransportBar::openClicked);
@@ -77,8 +77,8 @@ void TransportBar::layOut() {
   lower->addWidget(analysis_, 1);
   lower->addWidget(loop_);
   auto* const rows = new QVBoxLayout(this);
-  rows->setContentsMargins(0, grid, 0, grid);
-  rows->setSpacing(grid);
+  rows->setContentsMargins(0, kGrid, 0, kGrid);
+  rows->setSpacing(kGrid);
   rows->addLayout(upper);
   rows->addWidget(waveform_);
   rows->addLayout(lower);
@@ -145,7 +145,7 @@ void TransportBar::changeEvent(QEvent* event) {
 }
 
 void TransportBar::setDeviceName(const QString& name) {
-  const int room = deviceWidth - 5 * grid;
+  const int room = kDeviceWidth - 5 * kGrid;
   const auto text = device_->fontMetrics().elidedText(name, Qt::ElideRight, room);
   if (device_->text() != text) device_->setText(text);
 }

@@ -6,7 +6,7 @@
 namespace host::app {
 
 void VisibleRange::place(std::int64_t begin, std::int64_t span) {
-  span = std::clamp(span, std::min(shortest, length_), length_);
+  span = std::clamp(span, std::min(kShortest, length_), length_);
   begin_ = std::clamp<std::int64_t>(begin, 0, length_ - span);
   end_ = begin_ + span;
 }
@@ -22,7 +22,7 @@ void VisibleRange::zoom(double factor, std::int64_t anchor) {
   if (span() == 0) return;
   const auto share = static_cast<double>(anchor - begin_) / static_cast<double>(span());
   const auto wanted = std::llround(static_cast<double>(span()) * factor);
-  const auto now = std::clamp<std::int64_t>(wanted, std::min(shortest, length_), length_);
+  const auto now = std::clamp<std::int64_t>(wanted, std::min(kShortest, length_), length_);
   place(anchor - std::llround(share * static_cast<double>(now)), now);
 }
 

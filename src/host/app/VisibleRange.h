@@ -8,7 +8,7 @@ namespace host::app {
 class VisibleRange {
  public:
   /// Nobody needs to see less.
-  static constexpr std::int64_t shortest = 256;
+  static constexpr std::int64_t kShortest = 256;
 
   VisibleRange() = default;
   /// All of a file.

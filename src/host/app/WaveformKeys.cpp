@@ -7,8 +7,8 @@
 namespace host::app {
 namespace {
 
-constexpr std::int64_t stepsOfAPage = 20;
-constexpr double zoomStep = 0.5;
+constexpr std::int64_t kStepsOfAPage = 20;
+constexpr double kZoomStep = 0.5;
 
 }  // namespace
 
@@ -49,9 +49,9 @@ bool WaveformView::moveByKey(const QKeyEvent& event) {
     case Qt::Key_Right:
       return by(step());
     case Qt::Key_PageUp:
-      return by(-stepsOfAPage * step());
+      return by(-kStepsOfAPage * step());
     case Qt::Key_PageDown:
-      return by(stepsOfAPage * step());
+      return by(kStepsOfAPage * step());
     case Qt::Key_Home:
       return by(-length_);
     case Qt::Key_End:
@@ -100,10 +100,10 @@ bool WaveformView::loopByKey(const QKeyEvent& event) {
       cancelGesture();
       return true;
     case Qt::Key_Plus:
-      zoom(zoomStep);
+      zoom(kZoomStep);
       return true;
     case Qt::Key_Minus:
-      zoom(1 / zoomStep);
+      zoom(1 / kZoomStep);
       return true;
     default:
       return false;

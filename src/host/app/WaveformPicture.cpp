@@ -9,9 +9,9 @@ namespace {
 
 /// Finer columns in each column of pixels. Their average extremes are the body of the waveform,
 /// which the peaks stand out from.
-constexpr std::size_t finePerColumn = 4;
+constexpr std::size_t kFinePerColumn = 4;
 /// A little room above full scale shows by how much a file exceeds it.
-constexpr float headroom = 1.12F;
+constexpr float kHeadroom = 1.12F;
 
 QColor mixed(const QColor& one, const QColor& other, float share) {
   const auto mix = [=](float a, float b) { return a + (b - a) * share; };
@@ -28,12 +28,12 @@ class Columns {
  public:
   Columns(const SharedOverview& overview, std::uint32_t channel, const VisibleRange& range,
           std::size_t count)
-      : fine_(overview.columns(channel, range.begin(), range.end(), count * finePerColumn)) {}
+      : fine_(overview.columns(channel, range.begin(), range.end(), count * kFinePerColumn)) {}
 
   WaveformColumn peaks(std::size_t column) const {
     WaveformColumn sum;
-    for (std::size_t i = 0; i < finePerColumn; ++i) {
-      const auto& each = fine_[column * finePerColumn + i];
+    for (std::size_t i = 0; i < kFinePerColumn; ++i) {
+      const auto& each = fine_[column * kFinePerColumn + i];
       sum.minimum = std::min(sum.minimum, each.minimum);
       sum.maximum = std::max(sum.maximum, each.maximum);
       sum.sourceOvers = std::max(sum.sourceOvers, each.sourceOvers);
@@ -43,11 +43,11 @@ class Columns {
   }
   WaveformColumn body(std::size_t column) const {
     WaveformColumn sum = {0, 0, 0, 0};
-    for (std::size_t i = 0; i < finePerColumn; ++i) {
-      const auto& each = fine_[column * finePerColumn + i];
+    for (std::size_t i = 0; i < kFinePerColumn; ++i) {
+      const auto& each = fine_[column * kFinePerColumn + i];
       if (!each.hasSamples()) continue;
-      sum.minimum += each.minimum / finePerColumn;
-      sum.maximum += each.maximum / finePerColumn;
+      sum.minimum += each.minimum / kFinePerColumn;
+      sum.maximum += each.maximum / kFinePerColumn;
     }
     return sum;
   }
@@ -64,16 +64,16 @@ class Picture {
         width_(width),
         columns_(static_cast<std::size_t>(width * pixelRatio)),
         columnWidth_(1 / pixelRatio) {
-    painter_.fillRect(QRect(0, 0, width, WaveformLanes::height), palette.color(QPalette::Base));
+    painter_.fillRect(QRect(0, 0, width, WaveformLanes::kHeight), palette.color(QPalette::Base));
   }
 
   void drawChannel(const SharedOverview& overview, std::uint32_t channel,
                    const VisibleRange& range) {
     const auto base = palette_.color(QPalette::Base);
     const auto text = palette_.color(QPalette::Text);
-    const double height = WaveformLanes::wave / static_cast<double>(overview.channels());
-    const double middle = WaveformLanes::waveTop + height * (channel + 0.5);
-    const double fullScale = (height / 2 - 1) / headroom;
+    const double height = WaveformLanes::kWave / static_cast<double>(overview.channels());
+    const double middle = WaveformLanes::kWaveTop + height * (channel + 0.5);
+    const double fullScale = (height / 2 - 1) / kHeadroom;
     painter_.fillRect(QRectF(0, middle, width_, columnWidth_), mixed(base, text, 0.25F));
     const Columns columns(overview, channel, range, columns_);
     for (std::size_t i = 0; i < columns_; ++i) {
@@ -93,7 +93,7 @@ class Picture {
   void drawColumn(std::size_t column, double middle, double fullScale, const WaveformColumn& each,
                   const QColor& color) {
     const auto height = [=](float sample) {
-      return static_cast<double>(std::clamp(sample, -headroom, headroom)) * fullScale;
+      return static_cast<double>(std::clamp(sample, -kHeadroom, kHeadroom)) * fullScale;
     };
     const auto top = middle - height(each.maximum);
     const auto bottom = middle - height(each.minimum);
@@ -122,8 +122,8 @@ class Picture {
       painter_.drawPolygon(
           QPolygonF({{middle, tip}, {middle - half, base}, {middle + half, base}}));
     };
-    constexpr double top = WaveformLanes::waveTop;
-    constexpr double bottom = WaveformLanes::waveBottom;
+    constexpr double top = WaveformLanes::kWaveTop;
+    constexpr double bottom = WaveformLanes::kWaveBottom;
     if (each.sourceOvers > 0) draw(Signal::Source, top - 1, top - 1 - tall);
     if (each.encodedOvers > 0) draw(Signal::Encoded, bottom + 1, bottom + 1 + tall);
     painter_.setRenderHint(QPainter::Antialiasing, false);
@@ -145,7 +145,7 @@ QColor markColor(Signal signal, const QPalette& palette) {
 
 QPixmap waveformPicture(const SharedOverview& overview, const VisibleRange& range, int width,
                         double pixelRatio, const QPalette& palette) {
-  QPixmap pixmap((QSizeF(width, WaveformLanes::height) * pixelRatio).toSize());
+  QPixmap pixmap((QSizeF(width, WaveformLanes::kHeight) * pixelRatio).toSize());
   pixmap.setDevicePixelRatio(pixelRatio);
   Picture picture(pixmap, width, pixelRatio, palette);
   for (std::uint32_t channel = 0; channel < overview.channels(); ++channel) {

@@ -12,12 +12,12 @@ namespace host::app {
 /// Where the parts of a waveform lie, from the top. Loops have a lane of their own; overs of the
 /// source are marked above the waveform, those of the encoded signal below it.
 struct WaveformLanes {
-  static constexpr int loop = 12;
-  static constexpr int marks = 8;
-  static constexpr int wave = 64;
-  static constexpr int waveTop = loop + marks;
-  static constexpr int waveBottom = waveTop + wave;
-  static constexpr int height = waveBottom + marks + 4;
+  static constexpr int kLoop = 12;
+  static constexpr int kMarks = 8;
+  static constexpr int kWave = 64;
+  static constexpr int kWaveTop = kLoop + kMarks;
+  static constexpr int kWaveBottom = kWaveTop + kWave;
+  static constexpr int kHeight = kWaveBottom + kMarks + 4;
 };
 
 /// The colours of the marks: told apart by those who see no red or green, too.

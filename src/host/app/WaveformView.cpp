@@ -17,9 +17,9 @@
 namespace host::app {
 namespace {
 
-constexpr int defaultWidth = 560;
+constexpr int kDefaultWidth = 560;
 /// From an edge of the loop, to either side.
-constexpr double reach = 5;
+constexpr double kReach = 5;
 
 }  // namespace
 
@@ -32,7 +32,7 @@ WaveformView::WaveformView(QWidget* parent) : QWidget(parent) {
 }
 
 QSize WaveformView::sizeHint() const {
-  return {defaultWidth, WaveformLanes::height};
+  return {kDefaultWidth, WaveformLanes::kHeight};
 }
 
 void WaveformView::setFile(std::shared_ptr<const SharedOverview> overview, AudioFormat format) {
@@ -124,12 +124,12 @@ void WaveformView::paintLoop(QPainter& painter) const {
   const auto left = range_.xOf(loop->begin, width());
   const auto right = std::max(range_.xOf(loop->end, width()), left + 1);
   auto color = palette().color(isOn ? QPalette::Highlight : QPalette::Mid);
-  painter.fillRect(QRectF(left, 2, right - left, WaveformLanes::loop - 4), color);
+  painter.fillRect(QRectF(left, 2, right - left, WaveformLanes::kLoop - 4), color);
   painter.fillRect(QRectF(left, 0, 1, height()), color);
   painter.fillRect(QRectF(right - 1, 0, 1, height()), color);
   color.setAlphaF(isOn ? 0.22F : 0.1F);
-  painter.fillRect(QRectF(left, WaveformLanes::loop, right - left, height() - WaveformLanes::loop),
-                   color);
+  painter.fillRect(
+      QRectF(left, WaveformLanes::kLoop, right - left, height() - WaveformLanes::kLoop), color);
 }
 
 void WaveformView::paintPlayhead(QPainter& painter) const {
@@ -154,8 +154,8 @@ LoopPart WaveformView::partAt(const QPointF& point) const {
   const auto toLeft = std::abs(point.x() - left);
   const auto toRight = std::abs(point.x() - right);
   // A small loop keeps a middle to take hold of in its lane.
-  const bool inLane = point.y() < WaveformLanes::loop;
-  const auto near = inLane ? std::min(reach, (right - left) / 4) : reach;
+  const bool inLane = point.y() < WaveformLanes::kLoop;
+  const auto near = inLane ? std::min(kReach, (right - left) / 4) : kReach;
   if (std::min(toLeft, toRight) <= near) return toLeft < toRight ? LoopPart::Begin : LoopPart::End;
   const bool inside = point.x() > left && point.x() < right;
   return inside && inLane ? LoopPart::Whole : LoopPart::None;

@@ -7,8 +7,8 @@
 namespace host::app {
 namespace {
 
-constexpr int step = 5000;
-constexpr double zoomStep = 0.5;
+constexpr int kStep = 5000;
+constexpr double kZoomStep = 0.5;
 
 QKeySequence withCtrl(Qt::Key key) {
   return QKeySequence(Qt::CTRL | key);
@@ -40,9 +40,9 @@ void MainWindow::addTransport(QMenu& menu) {
                     << menu.addAction(tr("To the &Beginning"), withCtrl(Qt::Key_Home), this,
                                       &MainWindow::rewindRequested)
                     << menu.addAction(tr("Five Seconds Ba&ck"), withCtrl(Qt::Key_Left), this,
-                                      [this] { Q_EMIT moveRequested(-step); })
+                                      [this] { Q_EMIT moveRequested(-kStep); })
                     << menu.addAction(tr("Five Seconds &Forward"), withCtrl(Qt::Key_Right), this,
-                                      [this] { Q_EMIT moveRequested(step); });
+                                      [this] { Q_EMIT moveRequested(kStep); });
 }
 
 void MainWindow::addLoop(QMenu& menu) {
@@ -60,11 +60,11 @@ void MainWindow::addLoop(QMenu& menu) {
 
 void MainWindow::addZoom(QMenu& menu) {
   auto* const in =
-      menu.addAction(tr("Zoom &In"), this, [this] { transport_->waveform().zoom(zoomStep); });
+      menu.addAction(tr("Zoom &In"), this, [this] { transport_->waveform().zoom(kZoomStep); });
   // Where + is on the upper row only, = does as well.
   in->setShortcuts({withCtrl(Qt::Key_Plus), withCtrl(Qt::Key_Equal)});
   transportActions_ << in << menu.addAction(tr("Zoom &Out"), withCtrl(Qt::Key_Minus), this, [this] {
-    transport_->waveform().zoom(1 / zoomStep);
+    transport_->waveform().zoom(1 / kZoomStep);
   });
 }
 

@@ -14,7 +14,7 @@
 namespace host::app {
 namespace {
 
-constexpr int refreshMilliseconds = 40;
+constexpr int kRefreshMilliseconds = 40;
 
 /// The devices to play to: the one that the user named, or all.
 std::vector<Device> wantedDevices(const std::optional<std::string>& name,
@@ -73,7 +73,7 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
                        audition.session()->player().isFinished();
     if (atEnd) window.close();
   });
-  refresh.start(refreshMilliseconds);
+  refresh.start(kRefreshMilliseconds);
   window.show();
   if (!isOpened) audition.openAndPlay(QString::fromStdString(options.file->string()));
   // What is restored waits for the user.

@@ -6,14 +6,14 @@
 namespace host::demo {
 namespace {
 
-constexpr double turn = 2 * std::numbers::pi;
+constexpr double kTurn = 2 * std::numbers::pi;
 
 void playBell(Stereo& mix, int note, std::size_t at, double toLeft, double toRight) {
   const double hertz = hertzOf(note);
   for (std::size_t i = 0; i < framesIn(0.5); ++i) {
-    const double time = static_cast<double>(i) / sampleRate;
-    const double bright = 2.2 * std::exp(-time / 0.05) * std::sin(turn * 3 * hertz * time);
-    const double sample = std::exp(-time / 0.11) * std::sin(turn * hertz * time + bright);
+    const double time = static_cast<double>(i) / kSampleRate;
+    const double bright = 2.2 * std::exp(-time / 0.05) * std::sin(kTurn * 3 * hertz * time);
+    const double sample = std::exp(-time / 0.11) * std::sin(kTurn * hertz * time + bright);
     mix.add(at + i, toLeft * sample, toRight * sample);
   }
 }
@@ -23,7 +23,7 @@ void playBell(Stereo& mix, int note, std::size_t at, double toLeft, double toRig
 void playArpeggio(Stereo& mix, const Bar& bar, std::size_t firstSixteenth) {
   constexpr std::array<std::size_t, 8> order = {0, 2, 1, 3, 2, 3, 1, 2};
   constexpr std::size_t echo = 3;
-  for (std::size_t i = 0; i < sixteenthsPerBar; ++i) {
+  for (std::size_t i = 0; i < kSixteenthsPerBar; ++i) {
     if (i % 4 == 1) continue;
     const int note = bar.chord[order[i % order.size()]] + 12 + (i >= 8 ? 12 : 0);
     const bool isLeft = i % 2 == 0;

@@ -14,7 +14,7 @@ void playNote(Stereo& mix, int note, std::size_t at) {
   Saw saw(hertzOf(note));
   Filter filter(200, 1.3);
   for (std::size_t i = 0; i < framesIn(noteSeconds); ++i) {
-    const double time = static_cast<double>(i) / sampleRate;
+    const double time = static_cast<double>(i) / kSampleRate;
     filter.tune(140 + 1100 * std::exp(-time / 0.06));
     const double level = std::min({1.0, time / 0.003, (noteSeconds - time) / 0.02});
     const double sample = level * std::tanh(1.6 * filter.next(saw.next()).low);

@@ -36,8 +36,8 @@ void playChord(Stereo& mix, const Bar& bar, std::size_t firstSixteenth) {
     for (const double cents : {-3.0, 10.0}) addSaw(right, note, cents);
   }
   const auto begin = frameOf(firstSixteenth);
-  const auto length = frameOf(firstSixteenth + sixteenthsPerBar) - begin;
-  constexpr double fadeFrames = 0.02 * sampleRate;
+  const auto length = frameOf(firstSixteenth + kSixteenthsPerBar) - begin;
+  constexpr double fadeFrames = 0.02 * kSampleRate;
   for (std::size_t i = 0; i < length; ++i) {
     const double position = static_cast<double>(i) / static_cast<double>(length);
     const double cutoff = bar.isFull ? 2600 + 3200 * position : 900 + 1900 * position;

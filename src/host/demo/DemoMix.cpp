@@ -14,14 +14,14 @@
 namespace host::demo {
 namespace {
 
-constexpr double kickLevel = 0.95;
-constexpr double bassLevel = 0.5;
-constexpr double chordLevel = 0.8;
-constexpr double arpeggioLevel = 0.32;
-constexpr double clapLevel = 0.9;
-constexpr double hatLevel = 0.7;
+constexpr double kKickLevel = 0.95;
+constexpr double kBassLevel = 0.5;
+constexpr double kChordLevel = 0.8;
+constexpr double kArpeggioLevel = 0.32;
+constexpr double kClapLevel = 0.9;
+constexpr double kHatLevel = 0.7;
 /// How far the mix is driven into the limiter.
-constexpr double drive = 2.4;
+constexpr double kDrive = 2.4;
 
 struct Parts {
   explicit Parts(std::size_t frames)
@@ -36,24 +36,24 @@ struct Parts {
 };
 
 void playDrums(Parts& parts, const Bar& bar, std::size_t begin) {
-  for (std::size_t i = 0; i < sixteenthsPerBar; ++i) {
+  for (std::size_t i = 0; i < kSixteenthsPerBar; ++i) {
     const auto at = frameOf(begin + i);
     const auto seed = static_cast<std::uint32_t>(begin + i);
-    const auto inBeat = i % sixteenthsPerBeat;
+    const auto inBeat = i % kSixteenthsPerBeat;
     if (inBeat == 0) playKick(parts.kick, at);
-    if (bar.isFull && i % (2 * sixteenthsPerBeat) == sixteenthsPerBeat) {
+    if (bar.isFull && i % (2 * kSixteenthsPerBeat) == kSixteenthsPerBeat) {
       playClap(parts.claps, at, seed);
     }
-    constexpr std::array<double, sixteenthsPerBeat> accents = {0.5, 0.35, 0.9, 0.4};
+    constexpr std::array<double, kSixteenthsPerBeat> accents = {0.5, 0.35, 0.9, 0.4};
     playHat(parts.hats, at, accents[inBeat], bar.isFull && inBeat == 2, seed + 1000000);
   }
 }
 
 Parts played(std::size_t frames) {
   Parts parts(frames);
-  for (std::size_t number = 0; frameOf(number * sixteenthsPerBar) < frames; ++number) {
+  for (std::size_t number = 0; frameOf(number * kSixteenthsPerBar) < frames; ++number) {
     const auto bar = barAt(number);
-    const auto begin = number * sixteenthsPerBar;
+    const auto begin = number * kSixteenthsPerBar;
     playDrums(parts, bar, begin);
     playBass(parts.bass, bar, begin);
     playChord(parts.chords, bar, begin);
@@ -64,7 +64,7 @@ Parts played(std::size_t frames) {
 
 /// What bass and chords are turned down to while the kick sounds.
 double ducking(double seconds) {
-  constexpr double beat = secondsPerSixteenth * sixteenthsPerBeat;
+  constexpr double beat = kSecondsPerSixteenth * kSixteenthsPerBeat;
   return 1 - 0.75 * std::exp(-std::fmod(seconds, beat) / 0.1);
 }
 
@@ -75,10 +75,10 @@ double fading(std::size_t frame, std::size_t frames) {
 }
 
 double mixed(const Parts& parts, std::vector<double> Stereo::*side, std::size_t i) {
-  const double duck = ducking(static_cast<double>(i) / sampleRate);
-  return kickLevel * (parts.kick.*side)[i] + duck * bassLevel * (parts.bass.*side)[i] +
-         duck * chordLevel * (parts.chords.*side)[i] + arpeggioLevel * (parts.arpeggio.*side)[i] +
-         clapLevel * (parts.claps.*side)[i] + hatLevel * (parts.hats.*side)[i];
+  const double duck = ducking(static_cast<double>(i) / kSampleRate);
+  return kKickLevel * (parts.kick.*side)[i] + duck * kBassLevel * (parts.bass.*side)[i] +
+         duck * kChordLevel * (parts.chords.*side)[i] + kArpeggioLevel * (parts.arpeggio.*side)[i] +
+         kClapLevel * (parts.claps.*side)[i] + kHatLevel * (parts.hats.*side)[i];
 }
 
 void scaleToFullScale(Stereo& mix) {
@@ -101,8 +101,8 @@ Stereo demoMix(double seconds) {
   const auto parts = played(frames);
   Stereo mix(frames);
   for (std::size_t i = 0; i < frames; ++i) {
-    mix.left[i] = drive * mixed(parts, &Stereo::left, i);
-    mix.right[i] = drive * mixed(parts, &Stereo::right, i);
+    mix.left[i] = kDrive * mixed(parts, &Stereo::left, i);
+    mix.right[i] = kDrive * mixed(parts, &Stereo::right, i);
   }
   // Full scale for the largest sample lifts the wave between the samples above it again, a little
   // less each time.

@@ -32,8 +32,8 @@ void playKick(Stereo& mix, std::size_t at) {
   constexpr double decaySeconds = 0.14;
   double turns = 0;
   for (std::size_t i = 0; i < framesIn(0.45); ++i) {
-    const double time = static_cast<double>(i) / sampleRate;
-    turns += (deepest + sweep * std::exp(-time / sweepSeconds)) / sampleRate;
+    const double time = static_cast<double>(i) / kSampleRate;
+    turns += (deepest + sweep * std::exp(-time / sweepSeconds)) / kSampleRate;
     const double click = 0.25 * std::exp(-time / 0.002);
     const double body = std::sin(2 * std::numbers::pi * turns) * std::exp(-time / decaySeconds);
     mix.add(at + i, body + click, body + click);
@@ -47,7 +47,7 @@ void playClap(Stereo& mix, std::size_t at, std::uint32_t seed) {
   Filter left(1500, 0.9);
   Filter right(1700, 0.9);
   for (std::size_t i = 0; i < framesIn(0.25); ++i) {
-    const double time = static_cast<double>(i) / sampleRate;
+    const double time = static_cast<double>(i) / kSampleRate;
     const double hand = time < 0.024 ? std::fmod(time, 0.008) : time - 0.024;
     const double fading = time < 0.024 ? 0.004 : 0.07;
     const double level = 0.7 * std::exp(-hand / fading);
@@ -61,7 +61,7 @@ void playHat(Stereo& mix, std::size_t at, double level, bool isOpen, std::uint32
   Cymbal right(2 * seed + 1);
   const double decaySeconds = isOpen ? 0.09 : 0.02;
   for (std::size_t i = 0; i < framesIn(5 * decaySeconds); ++i) {
-    const double now = level * std::exp(-static_cast<double>(i) / sampleRate / decaySeconds);
+    const double now = level * std::exp(-static_cast<double>(i) / kSampleRate / decaySeconds);
     mix.add(at + i, now * left.next(), now * right.next());
   }
 }

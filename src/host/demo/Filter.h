@@ -18,7 +18,7 @@ class Filter {
 
   explicit Filter(double hertz, double resonance = 0.7) : damping_(1 / resonance) { tune(hertz); }
 
-  void tune(double hertz) { g_ = std::tan(std::numbers::pi * hertz / sampleRate); }
+  void tune(double hertz) { g_ = std::tan(std::numbers::pi * hertz / kSampleRate); }
 
   Outputs next(double input) {
     const double high = (input - (damping_ + g_) * band_ - low_) / (1 + g_ * (g_ + damping_));

@@ -8,8 +8,8 @@
 namespace host::demo {
 namespace {
 
-constexpr double lookAheadSeconds = 0.0015;
-constexpr double releaseSeconds = 0.06;
+constexpr double kLookAheadSeconds = 0.0015;
+constexpr double kReleaseSeconds = 0.06;
 
 /// The least of each value and the `count - 1` that follow it.
 std::vector<double> leastAhead(const std::vector<double>& values, std::size_t count) {
@@ -26,7 +26,7 @@ std::vector<double> leastAhead(const std::vector<double>& values, std::size_t co
 }
 
 void recoverSlowly(std::vector<double>& gains) {
-  const double share = 1 - std::exp(-1 / (releaseSeconds * sampleRate));
+  const double share = 1 - std::exp(-1 / (kReleaseSeconds * kSampleRate));
   double gain = 1;
   for (double& wanted : gains) {
     gain = std::min(wanted, gain + (1 - gain) * share);
@@ -37,7 +37,7 @@ void recoverSlowly(std::vector<double>& gains) {
 }  // namespace
 
 void limit(Stereo& mix) {
-  const auto ahead = framesIn(lookAheadSeconds);
+  const auto ahead = framesIn(kLookAheadSeconds);
   const auto left = peaksOf(mix.left);
   const auto right = peaksOf(mix.right);
   std::vector<double> gains(mix.frames());

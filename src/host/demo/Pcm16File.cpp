@@ -20,7 +20,7 @@ std::int16_t quantised(double sample) {
 void writePcm16(const Stereo& mix, const std::filesystem::path& path) {
   AtomicFile target(path);
   SF_INFO info{};
-  info.samplerate = sampleRate;
+  info.samplerate = kSampleRate;
   info.channels = 2;
   info.format = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
   std::unique_ptr<SNDFILE, int (*)(SNDFILE*)> file(

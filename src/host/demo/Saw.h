@@ -9,7 +9,7 @@ namespace host::demo {
 class Saw {
  public:
   /// The phase is a fraction of the period.
-  explicit Saw(double hertz, double phase = 0) : step_(hertz / sampleRate), phase_(phase) {}
+  explicit Saw(double hertz, double phase = 0) : step_(hertz / kSampleRate), phase_(phase) {}
 
   double next() {
     phase_ += step_;

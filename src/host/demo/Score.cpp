@@ -7,8 +7,8 @@
 namespace host::demo {
 namespace {
 
-constexpr std::size_t barsOfPiece = 12;
-constexpr std::size_t barsOfOpening = 4;
+constexpr std::size_t kBarsOfPiece = 12;
+constexpr std::size_t kBarsOfOpening = 4;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ Bar barAt(std::size_t number) {
                                                       {36, {55, 60, 64, 71}, true},
                                                       {31, {55, 59, 62, 69}, true}}};
   auto bar = progression[number % progression.size()];
-  bar.isFull = number % barsOfPiece >= barsOfOpening;
+  bar.isFull = number % kBarsOfPiece >= kBarsOfOpening;
   return bar;
 }
 
@@ -27,7 +27,7 @@ double hertzOf(int note) {
 }
 
 std::size_t frameOf(std::size_t sixteenth) {
-  return framesIn(static_cast<double>(sixteenth) * secondsPerSixteenth);
+  return framesIn(static_cast<double>(sixteenth) * kSecondsPerSixteenth);
 }
 
 }  // namespace host::demo

@@ -5,9 +5,9 @@
 
 namespace host::demo {
 
-inline constexpr double secondsPerSixteenth = 0.125;
-inline constexpr std::size_t sixteenthsPerBeat = 4;
-inline constexpr std::size_t sixteenthsPerBar = 16;
+inline constexpr double kSecondsPerSixteenth = 0.125;
+inline constexpr std::size_t kSixteenthsPerBeat = 4;
+inline constexpr std::size_t kSixteenthsPerBar = 16;
 
 /// What is played in one bar. Notes are numbered in semitones, 69 is the A of 440 Hz.
 struct Bar {

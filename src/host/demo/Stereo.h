@@ -7,7 +7,7 @@
 
 namespace host::demo {
 
-inline constexpr int sampleRate = 44100;
+inline constexpr int kSampleRate = 44100;
 
 /// Two channels of samples, full scale at 1.
 struct Stereo {
@@ -26,7 +26,7 @@ struct Stereo {
 };
 
 inline std::size_t framesIn(double seconds) {
-  return static_cast<std::size_t>(std::llround(seconds * sampleRate));
+  return static_cast<std::size_t>(std::llround(seconds * kSampleRate));
 }
 
 }  // namespace host::demo

@@ -12,14 +12,14 @@
 
 namespace {
 
-constexpr const char* help =
+constexpr const char* kHelp =
     R"(usage: demo-mix OUT.wav [SECONDS]
 
 Writes a loud demo mix, 44.1 kHz, 16 bits, stereo: 24 seconds or as many as are wanted, from 1 to
 600. Its largest sample is full scale exactly. Equal commands write equal files.
 )";
 
-constexpr double usualSeconds = 24;
+constexpr double kUsualSeconds = 24;
 
 double parsedSeconds(std::string_view text) {
   double seconds = 0;
@@ -34,13 +34,14 @@ double parsedSeconds(std::string_view text) {
 int run(const std::vector<std::string>& arguments) {
   for (const auto& argument : arguments) {
     if (argument == "--help" || argument == "-h") {
-      return std::fputs(help, stdout) < 0 || std::fflush(stdout) != 0 ? EXIT_FAILURE : EXIT_SUCCESS;
+      return std::fputs(kHelp, stdout) < 0 || std::fflush(stdout) != 0 ? EXIT_FAILURE
+                                                                       : EXIT_SUCCESS;
     }
   }
   if (arguments.empty() || arguments.size() > 2 || arguments[0].empty() || arguments[0][0] == '-') {
     throw host::UsageError("usage: demo-mix OUT.wav [SECONDS]");
   }
-  const double seconds = arguments.size() == 2 ? parsedSeconds(arguments[1]) : usualSeconds;
+  const double seconds = arguments.size() == 2 ? parsedSeconds(arguments[1]) : kUsualSeconds;
   host::demo::writePcm16(host::demo::demoMix(seconds), arguments[0]);
   return EXIT_SUCCESS;
 }

@@ -18,12 +18,12 @@
 namespace host::measure {
 namespace {
 
-constexpr auto lookAgain = std::chrono::milliseconds(100);
+constexpr auto kLookAgain = std::chrono::milliseconds(100);
 
-constexpr int success = 0;
-constexpr int failure = 1;
-constexpr int oversFound = 3;
-constexpr int killedBy = 128;
+constexpr int kSuccess = 0;
+constexpr int kFailure = 1;
+constexpr int kOversFound = 3;
+constexpr int kKilledBy = 128;
 
 std::vector<Job> jobsFor(const std::vector<std::filesystem::path>& files, const Options& options) {
   const auto names = outputNames(files);
@@ -85,8 +85,8 @@ class Account {
   }
 
   int status() const {
-    if (failed_) return failure;
-    return options_.failOnOvers && over_ > 0 ? oversFound : success;
+    if (failed_) return kFailure;
+    return options_.failOnOvers && over_ > 0 ? kOversFound : kSuccess;
   }
 
  private:
@@ -121,7 +121,7 @@ ProgressState stateOf(JobQueue& queue, const std::vector<Job>& jobs, const Optio
 JobEnd awaited(JobQueue& queue, const std::vector<Job>& jobs, const Options& options,
                std::size_t job, std::chrono::steady_clock::time_point begin, Console& console) {
   for (;;) {
-    if (auto end = queue.waitFor(job, lookAgain)) return std::move(*end);
+    if (auto end = queue.waitFor(job, kLookAgain)) return std::move(*end);
     if (!console.showsProgress()) continue;
     auto state = stateOf(queue, jobs, options, job);
     state.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
@@ -158,7 +158,7 @@ int measureAll(const Options& options) {
   } catch (const Interrupted&) {
     account.console().complain("interrupted after " + account.summary() +
                                "; nothing half-written was left");
-    return killedBy + interruption();
+    return kKilledBy + interruption();
   }
   return account.status();
 }

@@ -15,7 +15,7 @@
 namespace host::measure {
 namespace {
 
-constexpr std::size_t usualWidth = 80;
+constexpr std::size_t kUsualWidth = 80;
 
 std::size_t widthOf(int descriptor) {
   if (::isatty(descriptor) == 0) return 0;
@@ -25,7 +25,7 @@ std::size_t widthOf(int descriptor) {
   const char* const columns = std::getenv("COLUMNS");
   std::size_t width = 0;
   if (columns != nullptr) std::from_chars(columns, columns + std::strlen(columns), width);
-  return width > 0 ? width : usualWidth;
+  return width > 0 ? width : kUsualWidth;
 }
 
 bool isDumb() {

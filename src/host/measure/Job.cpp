@@ -15,10 +15,10 @@
 namespace host::measure {
 namespace {
 
-constexpr double tenthsPerDecibel = 10;
+constexpr double kTenthsPerDecibel = 10;
 
 float gainOf(int tenths) {
-  return tenths == 0 ? 1.0F : static_cast<float>(std::pow(10.0, -tenths / tenthsPerDecibel / 20));
+  return tenths == 0 ? 1.0F : static_cast<float>(std::pow(10.0, -tenths / kTenthsPerDecibel / 20));
 }
 
 bool hasOvers(const velk::PeakStatistics& peaks, bool interSample) {
@@ -37,7 +37,7 @@ int guessedTrim(const Readings& readings, bool interSample) {
   }
   // What is above full scale is clipped before it is encoded, and shows in the source alone.
   for (const auto& channel : readings.source) peak = std::max(peak, channel.samplePeakDbfs);
-  return static_cast<int>(std::ceil(std::min(peak * tenthsPerDecibel, double{greatestTrim})));
+  return static_cast<int>(std::ceil(std::min(peak * kTenthsPerDecibel, double{kGreatestTrim})));
 }
 
 std::string quoted(const std::filesystem::path& file) {

@@ -10,12 +10,12 @@ namespace {
 
 /// Some blocks per column of the picture in files of usual length, and blocks that are still worth
 /// their overhead.
-constexpr std::int64_t blocksPerFile = 4000;
-constexpr std::int64_t shortestBlock = 128;
+constexpr std::int64_t kBlocksPerFile = 4000;
+constexpr std::int64_t kShortestBlock = 128;
 
 std::uint32_t blockFramesFor(std::int64_t frames) {
-  return static_cast<std::uint32_t>(std::clamp<std::int64_t>(frames / blocksPerFile, shortestBlock,
-                                                             std::int64_t{unitBlockFrames}));
+  return static_cast<std::uint32_t>(std::clamp<std::int64_t>(
+      frames / kBlocksPerFile, kShortestBlock, std::int64_t{unitBlockFrames}));
 }
 
 std::uint32_t difference(std::int64_t now, std::int64_t before) {

@@ -9,7 +9,7 @@
 namespace host::measure {
 namespace {
 
-constexpr const char* description =
+constexpr const char* kDescription =
     R"(Runs sound files through an AAC encoder and decoder and tells the peaks and overs of
 the source and of what comes out.
 
@@ -18,7 +18,7 @@ FLAC, Ogg Vorbis, Opus and MP3; mono, stereo, or two channels of more (--channel
 encoder is that of the preset plus unless others are chosen; with several, every file
 is measured with each.)";
 
-constexpr const char* footer = R"(
+constexpr const char* kFooter = R"(
 The table has a row for every file and setting. Peaks are the largest of the channels in
 dBFS (samples) and dBTP (between the samples), -144.00 for silence; clips are samples
 above full scale and overs intervals between samples in which the waveform is, both
@@ -66,8 +66,8 @@ void check(const Options& options) {
 }  // namespace
 
 std::variant<Options, HelpText> parsedArguments(int argc, const char* const* argv) {
-  CLI::App app(description, "aac-measure");
-  app.footer(footer);
+  CLI::App app(kDescription, "aac-measure");
+  app.footer(kFooter);
   Options options;
   options.jobs = std::max(std::thread::hardware_concurrency(), 1U);
   std::vector<std::string> presets;

@@ -9,9 +9,9 @@
 namespace host::measure {
 namespace {
 
-constexpr int barWidth = 20;
+constexpr int kBarWidth = 20;
 /// Before which nothing can be said of the rest.
-constexpr double secondsToJudge = 2;
+constexpr double kSecondsToJudge = 2;
 
 std::string clock(double seconds) {
   const auto whole = std::llround(seconds);
@@ -29,14 +29,14 @@ std::string clock(double seconds) {
 std::string progressLine(const ProgressState& state, std::size_t width) {
   const auto part =
       state.jobs == 0 ? 1.0 : std::clamp(state.done / static_cast<double>(state.jobs), 0.0, 1.0);
-  const auto filled = static_cast<int>(part * barWidth);
+  const auto filled = static_cast<int>(part * kBarWidth);
   std::string line = "[";
-  for (int i = 0; i < barWidth; ++i) line += i < filled ? "#" : "·";
+  for (int i = 0; i < kBarWidth; ++i) line += i < filled ? "#" : "·";
   const auto percent = std::to_string(static_cast<int>(part * 100));
   line += "] " + std::string(3 - std::min<std::size_t>(percent.size(), 3), ' ') + percent + " %  ";
   const auto ended = std::min(static_cast<std::size_t>(state.done) + 1, state.jobs);
   line += std::to_string(ended) + " of " + std::to_string(state.jobs);
-  if (state.seconds >= secondsToJudge && part > 0.01) {
+  if (state.seconds >= kSecondsToJudge && part > 0.01) {
     line += "  " + clock(state.seconds * (1 - part) / part) + " left";
   }
   if (!state.file.empty()) {

@@ -8,16 +8,16 @@
 namespace host::measure {
 namespace {
 
-constexpr std::size_t narrowestFile = 16;
-constexpr std::size_t widestFile = 48;
-constexpr std::size_t settingWidth = 18;
-constexpr std::size_t rateWidth = 7;
-constexpr std::size_t peakWidth = 8;
-constexpr std::size_t countWidth = 7;
-constexpr std::size_t trimWidth = 7;
-constexpr std::size_t verdictWidth = 6;
-constexpr std::size_t signalWidth = 2 * (peakWidth + countWidth);
-constexpr std::size_t figuresWidth = 2 * signalWidth + verdictWidth;
+constexpr std::size_t kNarrowestFile = 16;
+constexpr std::size_t kWidestFile = 48;
+constexpr std::size_t kSettingWidth = 18;
+constexpr std::size_t kRateWidth = 7;
+constexpr std::size_t kPeakWidth = 8;
+constexpr std::size_t kCountWidth = 7;
+constexpr std::size_t kTrimWidth = 7;
+constexpr std::size_t kVerdictWidth = 6;
+constexpr std::size_t kSignalWidth = 2 * (kPeakWidth + kCountWidth);
+constexpr std::size_t kFiguresWidth = 2 * kSignalWidth + kVerdictWidth;
 
 struct Summary {
   double samplePeak;
@@ -43,12 +43,12 @@ std::string right(const std::string& text, std::size_t width) {
 
 std::string peak(double value) {
   const auto text = decimal(value, 2);
-  return right(text.starts_with('-') || text == "0.00" ? text : "+" + text, peakWidth);
+  return right(text.starts_with('-') || text == "0.00" ? text : "+" + text, kPeakWidth);
 }
 
 std::string cells(const Summary& sum) {
-  return peak(sum.samplePeak) + right(std::to_string(sum.clips), countWidth) + peak(sum.truePeak) +
-         right(std::to_string(sum.overs), countWidth);
+  return peak(sum.samplePeak) + right(std::to_string(sum.clips), kCountWidth) + peak(sum.truePeak) +
+         right(std::to_string(sum.overs), kCountWidth);
 }
 
 std::string trimText(const Trim& trim) {
@@ -64,28 +64,28 @@ Table::Table(const std::vector<std::string>& files, std::size_t width, bool with
       interSample_(interSample),
       colored_(colored) {
   for (const auto& file : files) fileWidth_ = std::max(fileWidth_, textWidth(file));
-  const auto others = 2 + settingWidth + rateWidth + (withTrim ? trimWidth : 0);
+  const auto others = 2 + kSettingWidth + kRateWidth + (withTrim ? kTrimWidth : 0);
   if (width == 0) {
-    fileWidth_ = std::min(fileWidth_, widestFile);
-  } else if (std::min(fileWidth_, narrowestFile) + others + figuresWidth <= width) {
-    fileWidth_ = std::min(fileWidth_, width - others - figuresWidth);
+    fileWidth_ = std::min(fileWidth_, kWidestFile);
+  } else if (std::min(fileWidth_, kNarrowestFile) + others + kFiguresWidth <= width) {
+    fileWidth_ = std::min(fileWidth_, width - others - kFiguresWidth);
   } else {
-    fileWidth_ = std::min(fileWidth_, std::max(width, others + narrowestFile) - others);
+    fileWidth_ = std::min(fileWidth_, std::max(width, others + kNarrowestFile) - others);
     lineBreak_ = "\n  ";
   }
 }
 
 std::string Table::head() const {
   const auto trim = [&](const char* text) {
-    return withTrim_ ? right(text, trimWidth) : std::string();
+    return withTrim_ ? right(text, kTrimWidth) : std::string();
   };
-  const auto above = padded("", fileWidth_ + 2) + padded("", settingWidth) +
-                     right("Rate", rateWidth) + trim("Trim");
-  const auto names = padded("File", fileWidth_ + 2) + padded("Encoder", settingWidth) +
-                     right("kbit/s", rateWidth) + trim("dB");
-  const auto columns = right("dBFS", peakWidth) + right("clips", countWidth) +
-                       right("dBTP", peakWidth) + right("overs", countWidth);
-  const auto signals = right("Source", signalWidth) + right("Encoded", signalWidth);
+  const auto above = padded("", fileWidth_ + 2) + padded("", kSettingWidth) +
+                     right("Rate", kRateWidth) + trim("Trim");
+  const auto names = padded("File", fileWidth_ + 2) + padded("Encoder", kSettingWidth) +
+                     right("kbit/s", kRateWidth) + trim("dB");
+  const auto columns = right("dBFS", kPeakWidth) + right("clips", kCountWidth) +
+                       right("dBTP", kPeakWidth) + right("overs", kCountWidth);
+  const auto signals = right("Source", kSignalWidth) + right("Encoded", kSignalWidth);
   if (lineBreak_.empty()) return above + signals + "\n" + names + columns + columns + "\n";
   return above + "\n" + names + lineBreak_ + signals + lineBreak_ + columns + columns + "\n";
 }
@@ -93,9 +93,9 @@ std::string Table::head() const {
 std::string Table::lines(const Row& row) const {
   const auto& readings = row.readings;
   auto text = padded(elidedPath(readings.file, fileWidth_), fileWidth_ + 2) +
-              padded(settingName(readings.setting), settingWidth) +
-              right(decimal(readings.bitRateKbps, 1), rateWidth);
-  if (withTrim_) text += right(row.trim ? trimText(*row.trim) : "", trimWidth);
+              padded(settingName(readings.setting), kSettingWidth) +
+              right(decimal(readings.bitRateKbps, 1), kRateWidth);
+  if (withTrim_) text += right(row.trim ? trimText(*row.trim) : "", kTrimWidth);
   text += lineBreak_ + cells(summary(readings.source)) + cells(summary(readings.encoded));
   if (hasOvers(readings, interSample_)) {
     text += colored_ ? "  \x1b[1;31mOVER\x1b[0m" : "  OVER";

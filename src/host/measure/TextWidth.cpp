@@ -8,7 +8,7 @@
 namespace host::measure {
 namespace {
 
-constexpr std::string_view ellipsis = "…";
+constexpr std::string_view kEllipsis = "…";
 
 struct Character {
   std::string bytes;
@@ -105,7 +105,7 @@ std::string elidedInTheMiddle(std::string_view text, std::size_t width) {
   if (widthOf(all) <= width) return joined(all);
   if (width == 0) return {};
   const auto end = (width - 1) / 2;
-  return beginningOf(all, width - 1 - end) + std::string(ellipsis) + endOf(all, end);
+  return beginningOf(all, width - 1 - end) + std::string(kEllipsis) + endOf(all, end);
 }
 
 std::string elidedPath(std::string_view path, std::size_t width) {
@@ -114,7 +114,7 @@ std::string elidedPath(std::string_view path, std::size_t width) {
   const auto slash = path.find_last_of('/');
   const auto name = slash == std::string_view::npos ? path : path.substr(slash + 1);
   if (width == 0 || textWidth(name) + 1 > width) return elidedInTheMiddle(name, width);
-  return std::string(ellipsis) + endOf(all, width - 1);
+  return std::string(kEllipsis) + endOf(all, width - 1);
 }
 
 std::string padded(std::string text, std::size_t width) {

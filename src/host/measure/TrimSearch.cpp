@@ -26,8 +26,8 @@ class Tries {
 std::optional<int> someCleanTrim(int from, Tries& tries) {
   for (int step = 1;; step *= 2) {
     if (tries.isClean(from)) return from;
-    if (from == greatestTrim) return std::nullopt;
-    from = std::min(from + step, greatestTrim);
+    if (from == kGreatestTrim) return std::nullopt;
+    from = std::min(from + step, kGreatestTrim);
   }
 }
 
@@ -49,10 +49,10 @@ int edgeBelow(int clean, Tries& tries) {
 
 std::optional<int> smallestCleanTrim(int guess, const IsClean& isClean) {
   Tries tries(isClean);
-  auto clean = someCleanTrim(std::clamp(guess, 1, greatestTrim), tries);
+  auto clean = someCleanTrim(std::clamp(guess, 1, kGreatestTrim), tries);
   if (!clean) return std::nullopt;
   auto answer = edgeBelow(*clean, tries);
-  for (int above = 1; above <= refutedSteps && answer - above > 0; ++above) {
+  for (int above = 1; above <= kRefutedSteps && answer - above > 0; ++above) {
     if (!tries.isClean(answer - above)) continue;
     answer = edgeBelow(answer - above, tries);
     above = 0;

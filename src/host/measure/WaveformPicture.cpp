@@ -17,30 +17,30 @@
 namespace host::measure {
 namespace {
 
-constexpr int width = 1600;
-constexpr int margin = 24;
-constexpr int left = 64;
-constexpr int columnCount = width - left - margin;
-constexpr int head = 88;
-constexpr int foot = 40;
-constexpr int waveHeight = 200;
-constexpr int laneHeight = 16;
-constexpr int channelGap = 24;
-constexpr int channelHeight = waveHeight + 2 * laneHeight + channelGap;
+constexpr int kWidth = 1600;
+constexpr int kMargin = 24;
+constexpr int kLeft = 64;
+constexpr int kColumnCount = kWidth - kLeft - kMargin;
+constexpr int kHead = 88;
+constexpr int kFoot = 40;
+constexpr int kWaveHeight = 200;
+constexpr int kLaneHeight = 16;
+constexpr int kChannelGap = 24;
+constexpr int kChannelHeight = kWaveHeight + 2 * kLaneHeight + kChannelGap;
 
 struct Color {
   double red;
   double green;
   double blue;
 };
-constexpr Color paper{1, 1, 1};
-constexpr Color ink{0.13, 0.15, 0.18};
-constexpr Color faint{0.84, 0.86, 0.88};
-constexpr Color quiet{0.40, 0.43, 0.47};
-constexpr Color wave{0.36, 0.50, 0.66};
+constexpr Color kPaper{1, 1, 1};
+constexpr Color kInk{0.13, 0.15, 0.18};
+constexpr Color kFaint{0.84, 0.86, 0.88};
+constexpr Color kQuiet{0.40, 0.43, 0.47};
+constexpr Color kWave{0.36, 0.50, 0.66};
 // Told apart by those who see no red or green, too, and by their places.
-constexpr Color sourceOver{0.85, 0.53, 0.0};
-constexpr Color encodedOver{0.76, 0.08, 0.30};
+constexpr Color kSourceOver{0.85, 0.53, 0.0};
+constexpr Color kEncodedOver{0.76, 0.08, 0.30};
 
 struct Destroy {
   void operator()(cairo_t* context) const { cairo_destroy(context); }
@@ -50,11 +50,11 @@ struct Destroy {
 class Canvas {
  public:
   Canvas(int height)
-      : surface_(cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height)),
+      : surface_(cairo_image_surface_create(CAIRO_FORMAT_RGB24, kWidth, height)),
         context_(cairo_create(surface_.get())) {
     cairo_select_font_face(context_.get(), "sans-serif", CAIRO_FONT_SLANT_NORMAL,
                            CAIRO_FONT_WEIGHT_NORMAL);
-    rectangle(0, 0, width, height, paper);
+    rectangle(0, 0, kWidth, height, kPaper);
   }
 
   void rectangle(double x, double y, double w, double h, const Color& color) {
@@ -104,43 +104,45 @@ class Canvas {
 };
 
 double place(int column) {
-  return left + column;
+  return kLeft + column;
 }
 
 /// Marks stand in their lane and point to the waveform, whose column they colour.
 void drawChannel(Canvas& canvas, const char* name, const std::vector<WaveformColumn>& columns,
                  double top) {
-  const double waveTop = top + laneHeight;
-  const double middle = waveTop + waveHeight / 2.0;
+  const double waveTop = top + kLaneHeight;
+  const double middle = waveTop + kWaveHeight / 2.0;
   // A little room above full scale shows by how much a float file exceeds it.
-  constexpr double fullScale = waveHeight / 2.0 / 1.12;
+  constexpr double fullScale = kWaveHeight / 2.0 / 1.12;
   const auto height = [=](float sample) {
-    return std::clamp(static_cast<double>(sample) * fullScale, -waveHeight / 2.0, waveHeight / 2.0);
+    return std::clamp(static_cast<double>(sample) * fullScale, -kWaveHeight / 2.0,
+                      kWaveHeight / 2.0);
   };
-  canvas.rectangle(left, middle, columnCount, 1, faint);
-  for (int column = 0; column < columnCount; ++column) {
+  canvas.rectangle(kLeft, middle, kColumnCount, 1, kFaint);
+  for (int column = 0; column < kColumnCount; ++column) {
     const auto& each = columns[static_cast<std::size_t>(column)];
     if (!each.hasSamples()) continue;
     const auto high = middle - height(each.maximum);
     const auto low = middle - height(each.minimum);
-    canvas.rectangle(place(column), high, 1, std::max(low - high, 1.0), wave);
+    canvas.rectangle(place(column), high, 1, std::max(low - high, 1.0), kWave);
   }
   for (const double edge : {middle - fullScale, middle + fullScale}) {
-    canvas.rectangle(left, edge, columnCount, 1, quiet);
+    canvas.rectangle(kLeft, edge, kColumnCount, 1, kQuiet);
   }
-  for (int column = 0; column < columnCount; ++column) {
+  for (int column = 0; column < kColumnCount; ++column) {
     const auto& each = columns[static_cast<std::size_t>(column)];
     const double x = place(column) + 0.5;
-    if (each.sourceOvers > 0) canvas.triangle(x, waveTop, waveTop - laneHeight + 4, sourceOver);
+    if (each.sourceOvers > 0) canvas.triangle(x, waveTop, waveTop - kLaneHeight + 4, kSourceOver);
     if (each.encodedOvers > 0) {
-      canvas.triangle(x, waveTop + waveHeight, waveTop + waveHeight + laneHeight - 4, encodedOver);
+      canvas.triangle(x, waveTop + kWaveHeight, waveTop + kWaveHeight + kLaneHeight - 4,
+                      kEncodedOver);
     }
   }
   constexpr double small = 11;
-  canvas.text(left - 8, middle - fullScale + 4, "0 dBFS", small, quiet, 1);
-  canvas.text(left - 8, middle + fullScale + 4, "0 dBFS", small, quiet, 1);
+  canvas.text(kLeft - 8, middle - fullScale + 4, "0 dBFS", small, kQuiet, 1);
+  canvas.text(kLeft - 8, middle + fullScale + 4, "0 dBFS", small, kQuiet, 1);
   constexpr double large = 15;
-  canvas.text(left - 8, middle + 5, name, large, ink, 1);
+  canvas.text(kLeft - 8, middle + 5, name, large, kInk, 1);
 }
 
 std::string clock(double seconds) {
@@ -158,9 +160,9 @@ void drawTime(Canvas& canvas, double seconds, double baseline) {
   const auto* const step = std::find_if(steps.begin(), steps.end() - 1,
                                         [=](double each) { return seconds / each <= mostTicks; });
   for (double at = 0; at <= seconds; at += *step) {
-    const double x = place(0) + columnCount * (seconds > 0 ? at / seconds : 0);
-    canvas.rectangle(x, baseline - 20, 1, 6, quiet);
-    canvas.text(x, baseline, clock(at), 12, quiet, 0.5);
+    const double x = place(0) + kColumnCount * (seconds > 0 ? at / seconds : 0);
+    canvas.rectangle(x, baseline - 20, 1, 6, kQuiet);
+    canvas.text(x, baseline, clock(at), 12, kQuiet, 0.5);
     if (seconds <= 0) break;
   }
 }
@@ -187,17 +189,17 @@ void drawHead(Canvas& canvas, const Readings& readings, int reduction) {
   constexpr double titleLine = 34;
   constexpr double bodyLine = 64;
   const auto name = std::filesystem::path(readings.file).filename().string();
-  canvas.text(left, titleLine, elidedInTheMiddle(name, longestName), title, ink);
+  canvas.text(kLeft, titleLine, elidedInTheMiddle(name, longestName), title, kInk);
   auto encoder = settingName(readings.setting);
   if (!readings.setting.hasQuality()) encoder += " kbit/s";
   if (reduction > 0) encoder = "reduced by " + decimal(reduction / 10.0, 1) + " dB, " + encoder;
-  canvas.text(width - margin, titleLine, encoder, title, ink, 1);
+  canvas.text(kWidth - kMargin, titleLine, encoder, title, kInk, 1);
   const auto source = summary("Source", readings.source);
-  canvas.triangle(left + 4, bodyLine, bodyLine - 10, sourceOver);
-  canvas.text(left + 16, bodyLine, source, body, ink);
-  const auto second = left + 16 + canvas.textLength(source, body) + 48;
-  canvas.triangle(second, bodyLine - 10, bodyLine, encodedOver);
-  canvas.text(second + 12, bodyLine, summary("Encoded", readings.encoded), body, ink);
+  canvas.triangle(kLeft + 4, bodyLine, bodyLine - 10, kSourceOver);
+  canvas.text(kLeft + 16, bodyLine, source, body, kInk);
+  const auto second = kLeft + 16 + canvas.textLength(source, body) + 48;
+  canvas.triangle(second, bodyLine - 10, bodyLine, kEncodedOver);
+  canvas.text(second + 12, bodyLine, summary("Encoded", readings.encoded), body, kInk);
 }
 
 }  // namespace
@@ -205,16 +207,16 @@ void drawHead(Canvas& canvas, const Readings& readings, int reduction) {
 void drawWaveform(const WaveformOverview& overview, const Readings& readings, int reduction,
                   const std::filesystem::path& file) {
   const auto channels = static_cast<int>(overview.channels());
-  Canvas canvas(head + channels * channelHeight + foot);
+  Canvas canvas(kHead + channels * kChannelHeight + kFoot);
   drawHead(canvas, readings, reduction);
   for (int channel = 0; channel < channels; ++channel) {
     const char* const name = channels == 1 ? "M" : channel == 0 ? "L" : "R";
     drawChannel(canvas, name,
                 overview.columns(static_cast<std::uint32_t>(channel), 0, overview.frames(),
-                                 std::size_t{columnCount}),
-                head + channel * channelHeight);
+                                 std::size_t{kColumnCount}),
+                kHead + channel * kChannelHeight);
   }
-  drawTime(canvas, readings.seconds, head + channels * channelHeight + foot / 2.0);
+  drawTime(canvas, readings.seconds, kHead + channels * kChannelHeight + kFoot / 2.0);
   canvas.save(file);
 }
 

@@ -20,7 +20,7 @@ using testing::SizeIs;
 namespace {
 
 /// What the meters read where there is nothing.
-constexpr double floorDb = -144;
+constexpr double kFloorDb = -144;
 
 class Measure : public testing::Test {
  protected:
@@ -172,8 +172,8 @@ TEST_F(Measure, ReadsTheFloorForSilence) {
   for (const auto* const signal : {"source", "encoded"}) {
     ASSERT_THAT(row[signal], SizeIs(2));
     for (const auto& channel : row[signal]) {
-      EXPECT_EQ(channel["sample_peak_dbfs"], floorDb);
-      EXPECT_EQ(channel["inter_sample_peak_dbtp"], floorDb);
+      EXPECT_EQ(channel["sample_peak_dbfs"], kFloorDb);
+      EXPECT_EQ(channel["inter_sample_peak_dbtp"], kFloorDb);
       EXPECT_EQ(channel["sample_clips"], 0);
       EXPECT_EQ(channel["inter_sample_overs"], 0);
     }
@@ -191,7 +191,7 @@ TEST_F(Measure, AgreesWithOtherTruePeakMetersOnTheSource) {
   for (const auto& [name, sound] : sounds) {
     mix(name, sound);
     const auto json = rows(run({"--json", name})).at(0);
-    double largest = floorDb;
+    double largest = kFloorDb;
     for (std::size_t channel = 0; channel < sound.channels(); ++channel) {
       const double read = json["source"][channel]["inter_sample_peak_dbtp"];
       EXPECT_NEAR(read, truePeakOf(sound.planes[channel], sound.sampleRate), 0.2) << name;

@@ -5,8 +5,8 @@
 
 #include "host/measure/TrimSearch.h"
 
-using host::measure::greatestTrim;
-using host::measure::refutedSteps;
+using host::measure::kGreatestTrim;
+using host::measure::kRefutedSteps;
 using host::measure::smallestCleanTrim;
 
 namespace {
@@ -25,8 +25,8 @@ struct Encoder {
 };
 
 TEST(TrimSearch, FindsTheEdgeFromAnyGuess) {
-  for (const int edge : {1, 2, 3, 4, 5, 17, 64, 250, greatestTrim}) {
-    for (const int guess : {0, 1, 2, 5, 10, 60, 200, greatestTrim, 10000}) {
+  for (const int edge : {1, 2, 3, 4, 5, 17, 64, 250, kGreatestTrim}) {
+    for (const int guess : {0, 1, 2, 5, 10, 60, 200, kGreatestTrim, 10000}) {
       Encoder encoder{[=](int tenths) { return tenths >= edge; }, {}};
       EXPECT_EQ(encoder.search(guess), edge) << guess;
     }
@@ -62,9 +62,9 @@ TEST(TrimSearch, TakesASmallerReductionThatHappensToBeClean) {
 TEST(TrimSearch, KeepsItsPromiseWhereCleanAndUncleanMingle) {
   std::mt19937 random(1);
   for (int turn = 0; turn < 2000; ++turn) {
-    std::vector<bool> clean(greatestTrim + 1);
+    std::vector<bool> clean(kGreatestTrim + 1);
     const int edge = 1 + static_cast<int>(random() % 60);
-    for (int i = 1; i <= greatestTrim; ++i) {
+    for (int i = 1; i <= kGreatestTrim; ++i) {
       const int distance = i - edge;
       clean[static_cast<std::size_t>(i)] =
           distance > 8 || (distance > -8 && random() % 16 < static_cast<unsigned>(distance + 8));
@@ -74,7 +74,7 @@ TEST(TrimSearch, KeepsItsPromiseWhereCleanAndUncleanMingle) {
     ASSERT_TRUE(answer);
     EXPECT_TRUE(clean[static_cast<std::size_t>(*answer)]);
     EXPECT_EQ(encoder.tried.count(*answer), 1U);
-    for (int above = 1; above <= refutedSteps && *answer - above > 0; ++above) {
+    for (int above = 1; above <= kRefutedSteps && *answer - above > 0; ++above) {
       EXPECT_FALSE(clean[static_cast<std::size_t>(*answer - above)]);
       EXPECT_EQ(encoder.tried.count(*answer - above), 1U);
     }
@@ -84,7 +84,7 @@ TEST(TrimSearch, KeepsItsPromiseWhereCleanAndUncleanMingle) {
 TEST(TrimSearch, TakesTheAnswerLastOfAllThatAreClean) {
   std::mt19937 random(2);
   for (int turn = 0; turn < 500; ++turn) {
-    std::vector<bool> clean(greatestTrim + 1);
+    std::vector<bool> clean(kGreatestTrim + 1);
     for (std::size_t i = 1; i < clean.size(); ++i) clean[i] = i > 70 || random() % 3 == 0;
     int last = 0;
     const auto answer = smallestCleanTrim(static_cast<int>(random() % 80), [&](int tenths) {
@@ -98,7 +98,7 @@ TEST(TrimSearch, TakesTheAnswerLastOfAllThatAreClean) {
 TEST(TrimSearch, GivesUpWhereNothingIsClean) {
   Encoder encoder{[](int) { return false; }, {}};
   EXPECT_EQ(encoder.search(5), std::nullopt);
-  EXPECT_EQ(encoder.tried.count(greatestTrim), 1U);
+  EXPECT_EQ(encoder.tried.count(kGreatestTrim), 1U);
   EXPECT_LT(encoder.tried.size(), 20U);
 }
 

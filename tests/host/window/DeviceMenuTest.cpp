@@ -13,7 +13,7 @@ using host::app::DeviceMenu;
 
 namespace {
 
-constexpr int interval = 30;
+constexpr int kInterval = 30;
 
 Device device(const std::string& name) {
   Device device;
@@ -45,7 +45,7 @@ class Devices : public testing::Test {
     QElapsedTimer time;
     time.start();
     while (time.elapsed() < milliseconds) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents, interval);
+      QCoreApplication::processEvents(QEventLoop::AllEvents, kInterval);
     }
   }
   /// Turns the event loop until the menu holds these.
@@ -68,7 +68,7 @@ class Devices : public testing::Test {
                           const std::lock_guard lock(mutex_);
                           return devices_;
                         },
-                        interval};
+                        kInterval};
 };
 
 TEST_F(Devices, ArePutIntoTheMenuAsTheyAreFound) {
@@ -96,9 +96,9 @@ TEST_F(Devices, AreNotLookedForWhileTheMenuIsClosed) {
   ASSERT_TRUE(comesToHold({"No Device (silent)", "Speakers"}));
   Q_EMIT menu_.aboutToHide();
   // One look may still be on its way.
-  turnFor(5 * interval);
+  turnFor(5 * kInterval);
   const int looks = looks_;
-  turnFor(10 * interval);
+  turnFor(10 * kInterval);
   EXPECT_EQ(looks_, looks);
 }
 

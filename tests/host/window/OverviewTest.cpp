@@ -90,7 +90,7 @@ class Overview : public testing::Test {
     const auto color = host::app::markColor(host::Signal::Encoded, waveform().palette());
     int count = 0;
     for (int x = 0; x < image.width(); ++x) {
-      for (int y = WaveformLanes::waveBottom; y < image.height(); ++y) {
+      for (int y = WaveformLanes::kWaveBottom; y < image.height(); ++y) {
         count += QColor(image.pixel(x, y)) == color ? 1 : 0;
       }
     }

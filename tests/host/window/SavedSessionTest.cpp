@@ -82,7 +82,7 @@ TEST_F(Settings, KeepTheFilesThatWereOpenedLastTheNewestFirst) {
 TEST_F(Settings, KeepNoMoreFilesThanAMenuTakes) {
   RecentFiles recent(*settings_);
   for (int i = 0; i < 30; ++i) recent.add(QString("/%1.wav").arg(i));
-  EXPECT_EQ(recent.paths().size(), RecentFiles::most);
+  EXPECT_EQ(recent.paths().size(), RecentFiles::kMost);
   EXPECT_EQ(recent.paths().front(), "/29.wav");
 }
 

@@ -11,7 +11,7 @@ using host::app::TransportBar;
 
 namespace {
 
-constexpr std::uint32_t rate = 48000;
+constexpr std::uint32_t kRate = 48000;
 
 class Transport : public testing::Test {
  protected:
@@ -41,13 +41,13 @@ class Transport : public testing::Test {
 };
 
 TEST_F(Transport, ShowsWhereItIsAndHowLongItTakes) {
-  bar_.showTime(65 * rate + 12345, 100 * rate, rate);
+  bar_.showTime(65 * kRate + 12345, 100 * kRate, kRate);
   EXPECT_TRUE(shows("1:05.257"));
   EXPECT_TRUE(shows("1:40.000"));
 }
 
 TEST_F(Transport, ShowsTheTimeThatIsLeftAfterAClickAndBack) {
-  bar_.showTime(65 * rate, 100 * rate, rate);
+  bar_.showTime(65 * kRate, 100 * kRate, kRate);
   auto* const time = bar_.findChild<host::app::TimeDisplay*>();
   EXPECT_EQ(time->accessibleName(), "Elapsed time");
   QTest::mouseClick(time, Qt::LeftButton);
@@ -59,15 +59,15 @@ TEST_F(Transport, ShowsTheTimeThatIsLeftAfterAClickAndBack) {
 
 TEST_F(Transport, OffersTheLoopThatThereIs) {
   QSignalSpy toggled(&bar_, &TransportBar::loopToggled);
-  bar_.setLoop(std::nullopt, false, rate);
+  bar_.setLoop(std::nullopt, false, kRate);
   EXPECT_FALSE(loopButton()->isEnabled());
-  bar_.setLoop(host::LoopRange{10 * rate, 12 * rate + 24}, true, rate);
+  bar_.setLoop(host::LoopRange{10 * kRate, 12 * kRate + 24}, true, kRate);
   EXPECT_EQ(loopButton()->text(), "Loop 0:02.000");
   EXPECT_TRUE(loopButton()->toolTip().contains("0:10.000"));
   EXPECT_TRUE(loopButton()->isChecked());
   QTest::mouseClick(loopButton(), Qt::LeftButton);
   EXPECT_EQ(toggled.count(), 1);
-  bar_.setLoop(host::LoopRange{10 * rate, 12 * rate + 24}, false, rate);
+  bar_.setLoop(host::LoopRange{10 * kRate, 12 * kRate + 24}, false, kRate);
   EXPECT_FALSE(loopButton()->isChecked());
 }
 

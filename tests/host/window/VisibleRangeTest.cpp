@@ -30,7 +30,7 @@ TEST(VisibleRange, ZoomsAroundAPlaceThatStays) {
 TEST(VisibleRange, ShowsNoLessThanIsOfUse) {
   VisibleRange range(100000);
   range.zoom(0, 99999);
-  EXPECT_EQ(range.span(), VisibleRange::shortest);
+  EXPECT_EQ(range.span(), VisibleRange::kShortest);
   EXPECT_LE(range.end(), 100000);
   VisibleRange tiny(10);
   tiny.zoom(0.5, 5);

@@ -21,25 +21,25 @@ using host::app::WaveformView;
 
 namespace {
 
-constexpr std::int64_t length = 560000;
-constexpr int middle = WaveformLanes::waveTop + 20;
+constexpr std::int64_t kLength = 560000;
+constexpr int kMiddle = WaveformLanes::kWaveTop + 20;
 
 /// A waveform of a thousand frames a pixel: a loud half and a quiet one.
 class Waveform : public testing::Test {
  protected:
   Waveform() {
     QLocale::setDefault(QLocale::c());
-    std::vector<float> samples(2 * length);
+    std::vector<float> samples(2 * kLength);
     for (std::size_t i = 0; i < samples.size(); ++i) {
       samples[i] = (i < samples.size() / 2 ? 0.9F : 0.1F) * (i % 4 < 2 ? 1.0F : -1.0F);
     }
-    overview_->append(samples.data(), length);
+    overview_->append(samples.data(), kLength);
     view_.setFixedWidth(560);
     view_.setFile(overview_, {48000, 2});
     show(0);
     view_.show();
   }
-  void show(std::int64_t position) { view_.refresh(overview_, length, position); }
+  void show(std::int64_t position) { view_.refresh(overview_, kLength, position); }
   QImage picture() {
     QCoreApplication::processEvents();
     return view_.grab().toImage();
@@ -71,7 +71,7 @@ class Waveform : public testing::Test {
 
 TEST_F(Waveform, DrawsWhatIsLoudHigherThanWhatIsQuiet) {
   const auto image = picture();
-  const int high = WaveformLanes::waveTop + 4;
+  const int high = WaveformLanes::kWaveTop + 4;
   EXPECT_NE(image.pixel(100, high), image.pixel(400, high));
 }
 
@@ -81,8 +81,8 @@ TEST_F(Waveform, MarksOversOfTheSourceAboveAndOfTheEncodedSignalBelowInOtherColo
   overview_->addOvers(Signal::Encoded, 1, 300500, 1);
   show(0);
   const auto after = picture();
-  const int above = WaveformLanes::waveTop - 4;
-  const int below = WaveformLanes::waveBottom + 4;
+  const int above = WaveformLanes::kWaveTop - 4;
+  const int below = WaveformLanes::kWaveBottom + 4;
   EXPECT_EQ(QColor(after.pixel(200, above)), host::app::markColor(Signal::Source, view_.palette()));
   EXPECT_EQ(QColor(after.pixel(300, below)),
             host::app::markColor(Signal::Encoded, view_.palette()));
@@ -106,14 +106,14 @@ TEST_F(Waveform, DrawsAnewOnlyWhenSomethingHasChanged) {
 }
 
 TEST_F(Waveform, GoesWhereItIsClicked) {
-  QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(140, middle));
+  QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(140, kMiddle));
   ASSERT_EQ(places_.count(), 1);
   EXPECT_EQ(places_[0][0].toLongLong(), 140000);
   EXPECT_EQ(loops_.count(), 0);
 }
 
 TEST_F(Waveform, SetsALoopByDragging) {
-  drag({400, middle}, {100, middle});
+  drag({400, kMiddle}, {100, kMiddle});
   ASSERT_EQ(loops_.count(), 1);
   EXPECT_EQ(lastLoop(), (LoopRange{100000, 400000}));
   EXPECT_EQ(places_.count(), 0);
@@ -121,9 +121,9 @@ TEST_F(Waveform, SetsALoopByDragging) {
 
 TEST_F(Waveform, MovesAnEdgeOfTheLoop) {
   view_.setLoop(LoopRange{100000, 300000}, true);
-  drag({102, middle}, {52, middle});
+  drag({102, kMiddle}, {52, kMiddle});
   EXPECT_EQ(lastLoop(), (LoopRange{52000, 300000}));
-  drag({299, middle}, {400, middle});
+  drag({299, kMiddle}, {400, kMiddle});
   EXPECT_EQ(lastLoop(), (LoopRange{100000, 400000}));
 }
 
@@ -132,7 +132,7 @@ TEST_F(Waveform, MovesTheWholeLoopByItsLane) {
   drag({200, 5}, {250, 5});
   EXPECT_EQ(lastLoop(), (LoopRange{150000, 350000}));
   // Below the lane another loop is drawn.
-  drag({200, middle}, {250, middle});
+  drag({200, kMiddle}, {250, kMiddle});
   EXPECT_EQ(lastLoop(), (LoopRange{200000, 250000}));
 }
 
@@ -143,10 +143,10 @@ TEST_F(Waveform, KeepsAMiddleToTakeHoldOfInAVeryShortLoop) {
 }
 
 TEST_F(Waveform, ForgetsADragThatIsGivenUp) {
-  QTest::mousePress(&view_, Qt::LeftButton, {}, QPoint(100, middle));
-  QTest::mouseMove(&view_, QPoint(300, middle));
+  QTest::mousePress(&view_, Qt::LeftButton, {}, QPoint(100, kMiddle));
+  QTest::mouseMove(&view_, QPoint(300, kMiddle));
   key(Qt::Key_Escape);
-  QTest::mouseRelease(&view_, Qt::LeftButton, {}, QPoint(300, middle));
+  QTest::mouseRelease(&view_, Qt::LeftButton, {}, QPoint(300, kMiddle));
   EXPECT_EQ(loops_.count() + places_.count(), 0);
 }
 
@@ -162,13 +162,13 @@ TEST_F(Waveform, MovesByKeys) {
   key(Qt::Key_Home);
   EXPECT_EQ(place(), 0);
   key(Qt::Key_End);
-  EXPECT_EQ(place(), length);
+  EXPECT_EQ(place(), kLength);
 }
 
 TEST_F(Waveform, SetsTheLoopByKeys) {
   show(280000);
   key(Qt::Key_I);
-  EXPECT_EQ(lastLoop(), (LoopRange{280000, length}));
+  EXPECT_EQ(lastLoop(), (LoopRange{280000, kLength}));
   key(Qt::Key_BracketRight);
   EXPECT_EQ(lastLoop(), (LoopRange{0, 280000}));
   view_.setLoop(LoopRange{100000, 300000}, true);
@@ -211,7 +211,7 @@ TEST_F(Waveform, LeavesTheKeysOfTheConvertersViewAlone) {
   Parent parent;
   WaveformView inside(&parent);
   inside.setFile(overview_, {48000, 2});
-  inside.refresh(overview_, length, 0);
+  inside.refresh(overview_, kLength, 0);
   const std::vector<int> bound = {Qt::Key_1, Qt::Key_2, Qt::Key_S,
                                   Qt::Key_A, Qt::Key_B, Qt::Key_Backspace};
   for (const auto each : bound) QTest::keyClick(&inside, static_cast<Qt::Key>(each));
@@ -219,32 +219,32 @@ TEST_F(Waveform, LeavesTheKeysOfTheConvertersViewAlone) {
 }
 
 TEST_F(Waveform, ZoomsAndScrollsByTheWheel) {
-  turnWheel({280, middle}, {0, 120});
+  turnWheel({280, kMiddle}, {0, 120});
   EXPECT_EQ(view_.range().span(), 448000);
   EXPECT_EQ(view_.range().begin(), 56000);
-  turnWheel({280, middle}, {120, 0});
+  turnWheel({280, kMiddle}, {120, 0});
   EXPECT_EQ(view_.range().begin(), 0);
-  for (int i = 0; i < 9; ++i) turnWheel({280, middle}, {0, -120});
+  for (int i = 0; i < 9; ++i) turnWheel({280, kMiddle}, {0, -120});
   EXPECT_TRUE(view_.range().isAll());
 }
 
 TEST_F(Waveform, GoesToPlacesAndMovesEdgesWhereItIsZoomed) {
-  turnWheel({0, middle}, {0, 120});
-  QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(280, middle));
+  turnWheel({0, kMiddle}, {0, 120});
+  QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(280, kMiddle));
   EXPECT_EQ(places_[0][0].toLongLong(), 224000);
 }
 
 TEST_F(Waveform, TurnsOverWhilePlaying) {
-  turnWheel({0, middle}, {0, 120});
+  turnWheel({0, kMiddle}, {0, 120});
   show(500000);
   EXPECT_EQ(view_.range().begin(), 0);
   view_.setFollowing(true);
   show(500001);
-  EXPECT_EQ(view_.range().end(), length);
+  EXPECT_EQ(view_.range().end(), kLength);
 }
 
 TEST_F(Waveform, ShowsAllOfAnotherFile) {
-  turnWheel({0, middle}, {0, 120});
+  turnWheel({0, kMiddle}, {0, 120});
   view_.setLoop(LoopRange{100000, 300000}, true);
   view_.setFile(overview_, {48000, 2});
   show(0);
@@ -256,7 +256,7 @@ TEST_F(Waveform, DoesNothingWithoutAFile) {
   view_.setFile(nullptr, {});
   view_.refresh(nullptr, 0, 0);
   picture();
-  QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(140, middle));
+  QTest::mouseClick(&view_, Qt::LeftButton, {}, QPoint(140, kMiddle));
   key(Qt::Key_I);
   key(Qt::Key_Right);
   EXPECT_EQ(places_.count() + loops_.count(), 0);
@@ -285,7 +285,7 @@ TEST_F(Waveform, LooksSharpOnScreensOfDoubleDensityAndReadableInTheDark) {
   dark.setColor(QPalette::Text, Qt::white);
   const auto picture =
       host::app::waveformPicture(*overview_, view_.range(), 560, 2, dark).toImage();
-  EXPECT_EQ(picture.size(), QSize(1120, 2 * WaveformLanes::height));
+  EXPECT_EQ(picture.size(), QSize(1120, 2 * WaveformLanes::kHeight));
   EXPECT_EQ(QColor(picture.pixel(0, 0)), QColor(30, 32, 36));
   EXPECT_NE(host::app::markColor(Signal::Source, dark),
             host::app::markColor(Signal::Source, QPalette()));
