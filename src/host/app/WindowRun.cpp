@@ -26,20 +26,21 @@ std::vector<Device> wantedDevices(const std::optional<std::string>& name,
   return devices;
 }
 
-/// Opens what the command line asks for, before the window is shown. False when the user has to be
-/// asked something first.
-bool openFirst(Audition& audition, const AuditionOptions& options, const SavedSession* last) {
+/// Opens what the command line asks for, before the window is shown. Gives the file of which the
+/// user has to be asked something first.
+std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& options,
+                                     const SavedSession* last) {
   try {
     if (last != nullptr) audition.restore(*last);
-    if (!options.file) return true;
+    if (!options.file) return std::nullopt;
     audition.open(openedForPlaying(*options.file, options.channels));
-    return true;
+    return std::nullopt;
   } catch (const TooManyChannels&) {
-    return false;
+    return last != nullptr ? last->file : options.file->string();
   } catch (const Failure& failure) {
     if (last == nullptr) throw;
     warn(failure.what());
-    return true;
+    return std::nullopt;
   }
 }
 
@@ -54,7 +55,7 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
   auto& window = audition.window();
   audition.setAnalysing(true);
   audition.setSettings(&settings);
-  const bool isOpened = openFirst(audition, options, restored);
+  const auto questionable = openFirst(audition, options, restored);
   if (options.seconds && audition.session() != nullptr) limitLength(audition, *options.seconds);
   std::exception_ptr error;
   QObject::connect(&window, &MainWindow::closing, [&] {
@@ -75,7 +76,7 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
   });
   refresh.start(kRefreshMilliseconds);
   window.show();
-  if (!isOpened) audition.openAndPlay(QString::fromStdString(options.file->string()));
+  if (questionable) audition.openAndPlay(QString::fromStdString(*questionable));
   // What is restored waits for the user.
   if (options.file && audition.session() != nullptr) audition.session()->player().play();
   QApplication::exec();
