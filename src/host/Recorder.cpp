@@ -93,8 +93,9 @@ void Recorder::writeReadable(std::unique_lock<std::mutex>& lock) {
     const bool failed = written != static_cast<sf_count_t>(samples);
     const std::string error = failed ? sf_strerror(handle(file_.get())) : "";
     lock.lock();
-    if (failed && error_.empty())
+    if (failed && error_.empty()) {
       error_ = error.empty() ? Message::words("the disk is full") : Message(error);
+    }
     madeRoom_.notify_all();
   }
 }
