@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <complex>
 #include <numbers>
 
 #include "Sound.h"
