@@ -18,7 +18,7 @@ using appkit_test::onMain;
 using ui::appkit::utf8;
 
 /// Enough for one turn of the run loop, which is when a sheet or an alert is shown here.
-constexpr std::chrono::milliseconds kTurn{20};
+constexpr std::chrono::milliseconds kTurn{1};
 
 /// The stage of the AppKit skin: the bundle's own view in a real window, worked with events.
 class AppKitStage final : public Stage {
@@ -54,30 +54,36 @@ class AppKitStage final : public Stage {
 
   void click(std::string_view button) override {
     onMain([&] { Host::click(host_->outlet(button)); });
+    advance(kTurn);
   }
   void selectSegment(std::string_view control, int segment) override {
     onMain([&] { Host::clickSegment(host_->outlet(control), segment); });
+    advance(kTurn);
   }
   void pickItem(std::string_view popUp, int index) override {
     onMain([&] { Host::pickItem(host_->outlet(popUp), index); });
+    advance(kTurn);
   }
   void dragSlider(std::string_view slider, double value) override {
     onMain([&] { Host::dragSlider(host_->outlet(slider), value); });
   }
   void clickTab(int index) override {
     onMain([&] { Host::clickTab(host_->outlet("view.tabView"), index); });
+    advance(kTurn);
   }
   void pressKey(std::uint16_t keyCode) override {
     onMain([&] { host_->pressKey(keyCode); });
   }
   void clickHelp(int tag) override {
     onMain([&] { Host::click(host_->buttonWithTag(tag)); });
+    advance(kTurn);
   }
   void confirmResults() override {
     onMain([&] {
       NSWindow* sheet = host_->outlet("listeningTestController.resultsSheet");
       Host::click(Host::buttonWithTitle([sheet contentView], "OK"));
     });
+    advance(kTurn);
   }
   void answerAlert(bool stop) override {
     advance(kTurn);

@@ -36,6 +36,10 @@ std::uint16_t nativeKeyCode(std::uint16_t positionCode) {
   return 0;
 }
 
+NSPoint middle(NSRect rect) {
+  return NSMakePoint(NSMidX(rect), NSMidY(rect));
+}
+
 }  // namespace
 
 NSBundle* bundle() {
@@ -115,20 +119,7 @@ NSButton* Host::buttonWithTitle(NSView* content, std::string_view title) {
 }
 
 void Host::click(NSButton* button) {
-  if ([button isEnabled] && ![button isHiddenOrHasHiddenAncestor]) {
-    [button performClick:nil];
-    // A click is an event, after which every loop looks whether it should end.
-    [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
-                                        location:NSZeroPoint
-                                   modifierFlags:0
-                                       timestamp:0
-                                    windowNumber:0
-                                         context:nil
-                                         subtype:0
-                                           data1:0
-                                           data2:0]
-             atStart:NO];
-  }
+  click(button, middle([button bounds]));
 }
 
 void Host::click(NSView* view, NSPoint point) {
@@ -140,19 +131,15 @@ void Host::click(NSView* view, NSPoint point) {
   // Some views place what they hold only when they are drawn.
   [window displayIfNeeded];
   const NSPoint place = [view convertPoint:point toView:nil];
-  // What tracks the mouse finds the release waiting.
+  [NSApp postEvent:mouseEvent(NSLeftMouseDown, window, place) atStart:NO];
   [NSApp postEvent:mouseEvent(NSLeftMouseUp, window, place) atStart:NO];
-  [window sendEvent:mouseEvent(NSLeftMouseDown, window, place)];
-  // A release that nobody tracked.
-  [NSApp nextEventMatchingMask:NSLeftMouseUpMask
-                     untilDate:[NSDate distantPast]
-                        inMode:NSEventTrackingRunLoopMode
-                       dequeue:YES];
 }
 
 void Host::clickSegment(NSSegmentedControl* control, int segment) {
-  [control setSelectedSegment:segment];
-  [control sendAction:[control action] to:[control target]];
+  // The segments are of equal width.
+  const CGFloat width = NSWidth([control bounds]) / static_cast<CGFloat>([control segmentCount]);
+  click(control,
+        NSMakePoint((static_cast<CGFloat>(segment) + 0.5) * width, NSMidY([control bounds])));
 }
 
 void Host::clickTab(NSTabView* tabs, int index) {

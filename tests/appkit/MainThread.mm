@@ -1,19 +1,31 @@
 #include "appkit/MainThread.h"
 
 #import <AppKit/AppKit.h>
+#import <objc/runtime.h>
 
+#include <algorithm>
 #include <condition_variable>
 #include <exception>
 #include <mutex>
 #include <optional>
+#include <stdexcept>
 #include <thread>
 #include <utility>
+
+#include "appkit/Clock.h"
 
 namespace appkit_test {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+using std::chrono::nanoseconds;
+
+/// Whether one of the run loop's descriptors has something to say; waits that long for it.
+using Look = std::function<bool(milliseconds)>;
+
+/// Looking takes a little time. Who looks again and again until a moment has come gets there.
+constexpr nanoseconds kLook = std::chrono::microseconds(20);
 
 /// Hands the turn to and fro between the script and the main thread.
 class Turns {
@@ -37,18 +49,28 @@ class Turns {
     }
   }
 
-  void runFor(std::chrono::milliseconds time) {
-    giveTurn([&] {
-      runUntil_ = Clock::now() + time;
+  void runFor(milliseconds time, bool isReal) {
+    giveTurn([=, this] {
+      left_ = time;
+      realSince_ = isReal ? std::optional(realTime()) : std::nullopt;
       return false;
     });
     waitForTurn();
   }
 
+  // Main thread.
+  /// The clocks are stopped, but as long as the application starts they follow the machine's.
+  void start() {
+    stopClocks();
+    runInRealTime();
+  }
+  void hasStarted() { left_ = {}; }
+
+  // Script thread.
   /// Lets the application end.
   void end() {
     giveTurn([this] {
-      runUntil_ = Clock::time_point::max();
+      runInRealTime();
       [NSApp stop:nil];
       // Who waits for an event looks whether to stop when there is one.
       [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
@@ -65,13 +87,59 @@ class Turns {
     });
   }
 
-  // Main thread, from within whatever loop it is in.
-  void serve() {
-    if (isServing_ || Clock::now() < runUntil_) {
-      return;
+  // Main thread, from within whatever loop it is in, where that would wait.
+  bool wait(milliseconds time, const Look& look) {
+    if (realSince_) {
+      passWhatHasPassed();
     }
+    if (look(milliseconds(0))) {
+      return true;
+    }
+    if (isServing_) {
+      passTime(std::max<nanoseconds>(time, kLook));
+      return false;
+    }
+    if (time.count() == 0) {
+      if (!realSince_) {
+        pass(kLook);
+      }
+      return false;
+    }
+    if (left_.count() <= 0) {
+      serve();
+      // There may be events now: whoever waits for them looks.
+      return true;
+    }
+    const nanoseconds passing = std::min<nanoseconds>(time, left_);
+    if (!realSince_) {
+      pass(passing);
+      return false;
+    }
+    const bool found = look(std::chrono::ceil<milliseconds>(passing));
+    passWhatHasPassed();
+    return found;
+  }
+
+ private:
+  void runInRealTime(nanoseconds time = nanoseconds::max()) {
+    realSince_ = realTime();
+    left_ = time;
+  }
+
+  void pass(nanoseconds time) {
+    passTime(time);
+    left_ -= time;
+  }
+
+  void passWhatHasPassed() {
+    const Moment now = realTime();
+    pass(now - std::exchange(*realSince_, now));
+  }
+
+  void serve() {
     isServing_ = true;
     std::unique_lock lock(mutex_);
+    realSince_.reset();
     if (std::exchange(isRunning_, false)) {
       giveBack();
     }
@@ -88,7 +156,6 @@ class Turns {
     isServing_ = false;
   }
 
- private:
   /// The work says whether the main thread goes on serving; else the application runs.
   void giveTurn(std::function<bool()> work) {
     const std::lock_guard lock(mutex_);
@@ -112,7 +179,10 @@ class Turns {
   // Of the main thread alone.
   bool isRunning_ = false;
   bool isServing_ = false;
-  Clock::time_point runUntil_;
+  /// What the application may still run for.
+  nanoseconds left_{};
+  /// While it runs in real time: up to when that has been let pass.
+  std::optional<Moment> realSince_;
 };
 
 Turns& turns() {
@@ -120,19 +190,48 @@ Turns& turns() {
   return turns;
 }
 
+/// Stands in for the one place where a run loop waits, for its descriptors and its next timer.
+class Waiting {
+ public:
+  Waiting() {
+    Class context = NSClassFromString(@"GSRunLoopCtxt");
+    Method wait = class_getInstanceMethod(context, @selector(pollUntil:within:));
+    if (wait == nullptr) {
+      throw std::logic_error("this toolkit's run loops wait elsewhere");
+    }
+    real() = reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(method_setImplementation(
+        wait, reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(&standIn)))));
+  }
+
+ private:
+  using Function = BOOL(id, SEL, int, NSArray*);
+
+  static Function*& real() {
+    static Function* implementation = nullptr;
+    return implementation;
+  }
+
+  static BOOL standIn(id context, SEL selector, int time, NSArray* contexts) {
+    const Look look = [&](milliseconds wanted) {
+      return real()(context, selector, static_cast<int>(wanted.count()), contexts) == YES;
+    };
+    return turns().wait(milliseconds(time), look) ? YES : NO;
+  }
+};
+
 }  // namespace
 
 }  // namespace appkit_test
 
-/// Lets the main thread serve again and again.
-@interface VelkTest_Server : NSObject
-- (void)serve:(id)sender;
+/// Is told when the application's own loop runs.
+@interface VelkTest_Start : NSObject
+- (void)applicationRuns;
 @end
 
-@implementation VelkTest_Server
+@implementation VelkTest_Start
 
-- (void)serve:(id)sender {
-  appkit_test::turns().serve();
+- (void)applicationRuns {
+  appkit_test::turns().hasStarted();
 }
 
 @end
@@ -141,23 +240,17 @@ namespace appkit_test {
 
 int runApplication(const std::function<int()>& script) {
   int result = 1;
-  NSTimer* timer = [NSTimer timerWithTimeInterval:0.001
-                                           target:[[[VelkTest_Server alloc] init] autorelease]
-                                         selector:@selector(serve:)
-                                         userInfo:nil
-                                          repeats:YES];
-  NSString* const modes[] = {NSDefaultRunLoopMode, NSEventTrackingRunLoopMode,
-                             NSModalPanelRunLoopMode};
-  for (NSString* mode : modes) {
-    [[NSRunLoop currentRunLoop] addTimer:timer forMode:mode];
-  }
+  turns().start();
+  const Waiting waiting;
+  [[[[VelkTest_Start alloc] init] autorelease] performSelector:@selector(applicationRuns)
+                                                    withObject:nil
+                                                    afterDelay:0];
   std::thread scriptThread([&] {
     result = script();
     turns().end();
   });
   [NSApp run];
   scriptThread.join();
-  [timer invalidate];
   return result;
 }
 
@@ -165,8 +258,12 @@ void onMain(const std::function<void()>& work) {
   turns().onMain(work);
 }
 
-void runFor(std::chrono::milliseconds time) {
-  turns().runFor(time);
+void runFor(milliseconds time) {
+  turns().runFor(time, false);
+}
+
+void runInRealTimeFor(milliseconds time) {
+  turns().runFor(time, true);
 }
 
 }  // namespace appkit_test

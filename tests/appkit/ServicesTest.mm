@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "appkit/Clock.h"
 #include "appkit/MainThread.h"
 #include "listening_test/ResultsText.h"
 #include "listening_test/TestTexts.h"
@@ -25,6 +26,7 @@
 namespace {
 
 using appkit_test::onMain;
+using ui::appkit::utf8;
 using namespace std::chrono_literals;
 
 /// 2023-11-14, 22:13:20 in Greenwich.
@@ -203,6 +205,36 @@ TEST(RunLoop, FiresATimerInTheModesThatItWasAddedTo) {
     runIn(NSModalPanelRunLoopMode);
     EXPECT_GT(fired, 0);
   });
+}
+
+/// Everywhere else the clocks are the test's. Here the machine's time passes, as it does for users.
+TEST(RunLoop, FiresATimerInEveryModeAsRealTimePasses) {
+  for (NSString* mode :
+       {NSDefaultRunLoopMode, NSEventTrackingRunLoopMode, NSModalPanelRunLoopMode}) {
+    ui::appkit::AppKitRunLoop loop;
+    std::unique_ptr<ui::Timer> timer;
+    std::unique_ptr<ui::Deferred> inMode;
+    std::vector<appkit_test::Moment> fired;
+    const auto start = appkit_test::realTime();
+    onMain([&] {
+      timer = loop.scheduledTimer(0.01, [&] { fired.push_back(appkit_test::realTime()); });
+      timer->addToMode(ui::RunLoopMode::EventTracking);
+      timer->addToMode(ui::RunLoopMode::ModalPanel);
+      inMode = loop.performLater([&] {
+        while (fired.size() < 5) {
+          [[NSRunLoop currentRunLoop] runMode:mode
+                                   beforeDate:[NSDate dateWithTimeIntervalSinceNow:0.01]];
+        }
+      });
+    });
+    while (fired.size() < 5 && appkit_test::realTime() - start < 20s) {
+      appkit_test::runInRealTimeFor(10ms);
+    }
+    onMain([&] { timer.reset(); });
+    ASSERT_GE(fired.size(), 5U) << utf8(mode);
+    // The fifth, with what a clock may round.
+    EXPECT_GE(fired[4] - start, 48ms) << utf8(mode);
+  }
 }
 
 }  // namespace
