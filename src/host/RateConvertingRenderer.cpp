@@ -9,12 +9,12 @@ namespace {
 
 /// What the resampler is given at a time, always: what it makes, and what memory it takes, then
 /// depends on nothing else.
-constexpr std::uint32_t step = 128;
+constexpr std::uint32_t kStep = 128;
 /// The most that is given to the device at a time.
-constexpr std::uint32_t largestBlock = 512;
+constexpr std::uint32_t kLargestBlock = 512;
 /// Half a second of room: more than the resampler holds back at any ratio, 170 ms from 192 to
 /// 8 kHz.
-constexpr std::int64_t roomPerSecond = 2;
+constexpr std::int64_t kRoomPerSecond = 2;
 
 }  // namespace
 
@@ -25,8 +25,8 @@ RateConvertingRenderer::RateConvertingRenderer(BlockRenderer& renderer, AudioFor
       deviceRate_(deviceRate),
       resampler_(makeResampler(format, deviceRate, SampleLayout::Planes)) {
   for (std::uint32_t channel = 0; channel < format.channels; ++channel) {
-    input_[channel].resize(step);
-    made_[channel].resize(static_cast<std::size_t>(deviceRate_ / roomPerSecond) + largestBlock);
+    input_[channel].resize(kStep);
+    made_[channel].resize(static_cast<std::size_t>(deviceRate_ / kRoomPerSecond) + kLargestBlock);
   }
   settle();
 }
@@ -42,7 +42,7 @@ void RateConvertingRenderer::settle() {
     most = std::max(most, ahead());
   }
   // It may hold back a step more where its blocks and the steps lie otherwise.
-  lead_ = most + step;
+  lead_ = most + kStep;
   while (ahead() < lead_) resample();
   latency_ = static_cast<std::uint32_t>(ahead());
 }
@@ -60,15 +60,15 @@ void RateConvertingRenderer::resample() noexcept {
   }
   std::size_t used = 0;
   std::size_t made = 0;
-  soxr_process(static_cast<soxr_t>(resampler_.get()), static_cast<const void*>(input.data()), step,
+  soxr_process(static_cast<soxr_t>(resampler_.get()), static_cast<const void*>(input.data()), kStep,
                &used, static_cast<void*>(output.data()), made_[0].size() - madeFrames_, &made);
-  fed_ += step;
+  fed_ += kStep;
   madeFrames_ += made;
 }
 
 void RateConvertingRenderer::renderBlock(float* const* planes, std::uint32_t frames) noexcept {
   for (std::uint32_t done = 0; done < frames;) {
-    const auto count = std::min(frames - done, largestBlock);
+    const auto count = std::min(frames - done, kLargestBlock);
     give(planes, done, count);
     done += count;
   }
@@ -80,7 +80,7 @@ void RateConvertingRenderer::give(float* const* planes, std::uint32_t offset,
   const std::array<float*, 2> input = {input_[0].data(), input_[1].data()};
   given_ += frames;
   while (ahead() < lead_) {
-    renderer_.renderBlock(input.data(), step);
+    renderer_.renderBlock(input.data(), kStep);
     resample();
   }
   const auto count = std::min<std::size_t>(frames, madeFrames_);

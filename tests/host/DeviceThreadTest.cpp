@@ -16,8 +16,8 @@ class Tone : public host::BlockRenderer {
   }
 };
 
-constexpr std::uint32_t unitRates[] = {32000, 44100, 48000, 88200, 96000, 176400, 192000};
-constexpr std::uint32_t deviceRates[] = {22050, 32000, 44100, 48000, 88200, 96000, 176400, 192000};
+constexpr std::uint32_t kUnitRates[] = {32000, 44100, 48000, 88200, 96000, 176400, 192000};
+constexpr std::uint32_t kDeviceRates[] = {22050, 32000, 44100, 48000, 88200, 96000, 176400, 192000};
 
 /// Five seconds in blocks of all lengths.
 void play(host::RateConvertingRenderer& renderer, std::uint32_t rate) {
@@ -32,8 +32,8 @@ void play(host::RateConvertingRenderer& renderer, std::uint32_t rate) {
 
 TEST(DeviceThread, NeitherAllocatesNorLocksNorWaitsWhereTheRateIsConverted) {
   Tone tone;
-  for (const auto from : unitRates) {
-    for (const auto to : deviceRates) {
+  for (const auto from : kUnitRates) {
+    for (const auto to : kDeviceRates) {
       if (from == to) continue;
       host::RateConvertingRenderer renderer(tone, {from, 2}, to);
       const AudioThreadTraps traps;

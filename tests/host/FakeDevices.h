@@ -51,7 +51,7 @@ class FakeDevices {
   }
 
   /// Frames of its own from the renderer to the ear.
-  static constexpr std::uint32_t latency = 960;
+  static constexpr std::uint32_t kLatency = 960;
 
  private:
   class Opened : public host::Output {
@@ -60,7 +60,7 @@ class FakeDevices {
     std::string name() const override { return name_; }
     bool isSilent() const override { return false; }
     std::uint32_t sampleRate() const override { return format_.sampleRate; }
-    std::uint32_t latency() const override { return FakeDevices::latency; }
+    std::uint32_t latency() const override { return FakeDevices::kLatency; }
     host::Message failure() override { return {}; }
 
    private:

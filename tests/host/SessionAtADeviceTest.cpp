@@ -38,7 +38,7 @@ TEST_F(SessionAtADevice, PlaysTheSamplesThemselvesWhereTheDeviceDoesTheRate) {
   session_->setDevice(FakeDevices::device("Fine", {44100, 48000}, 48000));
   EXPECT_EQ(devices_.format(), (host::AudioFormat{44100, 2}));
   EXPECT_EQ(session_->output()->sampleRate(), 44100U);
-  EXPECT_EQ(session_->output()->latency(), FakeDevices::latency);
+  EXPECT_EQ(session_->output()->latency(), FakeDevices::kLatency);
   session_->player().play();
   EXPECT_TRUE(devices_.play(44100).planes == sound_.planes);
 }
