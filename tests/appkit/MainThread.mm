@@ -70,6 +70,7 @@ class Turns {
   /// Lets the application end.
   void end() {
     giveTurn([this] {
+      isEnding_ = true;
       runInRealTime();
       [NSApp stop:nil];
       // Who waits for an event looks whether to stop when there is one.
@@ -92,7 +93,8 @@ class Turns {
     if (realSince_) {
       passWhatHasPassed();
     }
-    if (look(milliseconds(0))) {
+    // In the end nobody waits any more, and every loop looks whether it should stop.
+    if (look(milliseconds(0)) || isEnding_) {
       return true;
     }
     if (isServing_) {
@@ -121,9 +123,9 @@ class Turns {
   }
 
  private:
-  void runInRealTime(nanoseconds time = nanoseconds::max()) {
+  void runInRealTime() {
     realSince_ = realTime();
-    left_ = time;
+    left_ = nanoseconds::max();
   }
 
   void pass(nanoseconds time) {
@@ -183,6 +185,7 @@ class Turns {
   nanoseconds left_{};
   /// While it runs in real time: up to when that has been let pass.
   std::optional<Moment> realSince_;
+  bool isEnding_ = false;
 };
 
 Turns& turns() {
