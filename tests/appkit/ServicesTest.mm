@@ -41,10 +41,16 @@ std::filesystem::path temporary(const char* name) {
   return std::filesystem::temp_directory_path() / (std::to_string(getpid()) + name);
 }
 
+/// The locale that the program was started with.
+std::string userLocale() {
+  const char* name = std::getenv("VELK_LOCALE");
+  return name != nullptr ? name : "en_US";
+}
+
 TEST(Localization, WritesWhatIcuWrites) {
   onMain([] {
     const ui::appkit::FoundationLocalization foundation;
-    const auto icu = ui::makeLocalization("en_US");
+    const auto icu = ui::makeLocalization(userLocale());
     for (const std::int64_t value : {0L, 7L, 1234L, 1234567L, -5L}) {
       EXPECT_EQ(foundation.plain(value), icu->plain(value));
     }
@@ -61,14 +67,16 @@ TEST(Localization, WritesWhatIcuWrites) {
 TEST(ResultsFile, IsTheSameByteForByteThroughFoundationAndThroughIcu) {
   onMain([] {
     const ui::appkit::FoundationLocalization foundation;
-    const auto icu = ui::makeLocalization("en_US");
+    const auto icu = ui::makeLocalization(userLocale());
     NSBundle* native = [NSBundle bundleWithPath:ui::appkit::nsString(VELK_BUNDLE)];
     const ui::appkit::FoundationBundle nativeBundle(native);
-    const ui::Bundle bundle(VELK_RESOURCES, {"en"});
+    const ui::Bundle bundle(VELK_RESOURCES, {userLocale().substr(0, 2)});
+    EXPECT_EQ(nativeBundle.language(), bundle.language());
     const auto write = [](const ui::Bundle& texts, const ui::Localization& localization,
                           auto&& writeMacRoman, const char* name) {
       const velk::TestResults results = {localization.longDateShortTime(kMoment),
-                                         "AAC VBRC 256 Kbps \u2013 \u00E4", 21, 13};
+                                         "AAC VBRC 256 Kbps \u2013 \u00E4\u00F6\u00FC\u00E9\u00E8",
+                                         21, 13};
       const std::filesystem::path file = temporary(name);
       EXPECT_TRUE(
           writeMacRoman(file, velk::resultsText(results, velk::TestTexts(texts, localization))));
