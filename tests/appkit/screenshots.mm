@@ -1,11 +1,13 @@
 // Draws every page and sheet of the view into PNG files of a folder.
-// usage: velk_appkit_screenshots FOLDER   (in a display: tests/appkit/with-display)
+// usage: velk_appkit_screenshots -folder FOLDER   (in a display: tests/appkit/with-display)
+// A bare argument would be a document to the toolkit.
 
 #import <AppKit/AppKit.h>
 
 #include <cstdio>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "appkit/Application.h"
 #include "appkit/MainThread.h"
@@ -114,11 +116,11 @@ class Album {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: velk_appkit_screenshots FOLDER\n");
+  if (argc != 3 || std::string_view(argv[1]) != "-folder") {
+    std::fprintf(stderr, "usage: velk_appkit_screenshots -folder FOLDER\n");
     return 2;
   }
-  const std::filesystem::path folder = argv[1];
+  const std::filesystem::path folder = argv[2];
   std::filesystem::create_directories(folder);
   const appkit_test::Application application;
   return appkit_test::runApplication([&] {
