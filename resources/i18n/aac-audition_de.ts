@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>AAC Audition %1</source>
+        <translation>AAC Audition %1</translation>
+    </message>
+    <message>
+        <source>Hear, measure and judge what AAC encoding does to a mix before it is delivered.
+
+MIT licence. Encodes with FDK AAC and decodes with FFmpeg’s libavcodec, which have licences of their own: a build with both is not to be passed on.</source>
+        <translation>Hören, messen und beurteilen, was die AAC-Codierung aus einem Mix macht, bevor er abgegeben wird.
+
+MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eigene Lizenzen haben: Ein Programm mit beiden darf nicht weitergegeben werden.</translation>
+    </message>
+</context>
+<context>
     <name>StatusText</name>
     <message>
         <source>%1 mode %2</source>
@@ -391,6 +410,14 @@
     <message>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About AAC Audition</source>
+        <translation>&amp;Über AAC Audition</translation>
     </message>
     <message>
         <source>&amp;Playback</source>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AboutBox</name>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>AAC Audition %1</source>
+        <translation>AAC Audition %1</translation>
+    </message>
+    <message>
+        <source>Hear, measure and judge what AAC encoding does to a mix before it is delivered.
+
+MIT licence. Encodes with FDK AAC and decodes with FFmpeg’s libavcodec, which have licences of their own: a build with both is not to be passed on.</source>
+        <translation>Écouter, mesurer et juger ce que l’encodage AAC fait d’un mixage avant sa livraison.
+
+Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont leurs propres licences : un programme compilé avec les deux ne doit pas être distribué.</translation>
+    </message>
+</context>
+<context>
     <name>StatusText</name>
     <message>
         <source>%1 mode %2</source>
@@ -231,11 +250,11 @@
     </message>
     <message>
         <source>Encoded: no overs</source>
-        <translation>Encodé : aucun dépassement</translation>
+        <translation>Encodé : aucun over</translation>
     </message>
     <message>
         <source>Encoded overs: %1</source>
-        <translation>Dépassements encodés : %1</translation>
+        <translation>Overs encodés : %1</translation>
     </message>
     <message>
         <source>Analysis stopped</source>
@@ -393,6 +412,14 @@
         <translation>&amp;Quitter</translation>
     </message>
     <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;About AAC Audition</source>
+        <translation>À &amp;propos d’AAC Audition</translation>
+    </message>
+    <message>
         <source>&amp;Playback</source>
         <translation>&amp;Lecture</translation>
     </message>
@@ -527,11 +554,11 @@
     </message>
     <message>
         <source>▼ Source overs: %1</source>
-        <translation>▼ Dépassements de la source : %1</translation>
+        <translation>▼ Overs de la source : %1</translation>
     </message>
     <message>
         <source>▲ Encoded overs: %1</source>
-        <translation>▲ Dépassements encodés : %1</translation>
+        <translation>▲ Overs encodés : %1</translation>
     </message>
     <message>
         <source>Waveform</source>

@@ -3,13 +3,9 @@
 #include <CLI/CLI.hpp>
 
 #include "host/Failure.h"
+#include "host/Version.h"
 
 namespace host {
-namespace {
-
-constexpr const char* kVersion = "0.1.0";
-
-}  // namespace
 
 std::optional<HelpText> parseArguments(CLI::App& app, int argc, const char* const* argv) {
   app.set_version_flag("--version", app.get_name() + " " + kVersion, "Print the version and exit");

@@ -38,7 +38,7 @@ QString analysisText(const Analysis::State& state) {
 
 AnalysisIndicator::AnalysisIndicator(QWidget* parent)
     : QWidget(parent),
-      label_(new ElidedLabel(Qt::ElideRight, this)),
+      label_(new ElidedLabel(Qt::ElideMiddle, this)),
       button_(new QToolButton(this)) {
   button_->setAutoRaise(true);
   button_->setFocusPolicy(Qt::TabFocus);

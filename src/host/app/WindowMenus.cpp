@@ -1,7 +1,9 @@
 #include <QAction>
 #include <QKeySequence>
 #include <QMenuBar>
+#include <QMessageBox>
 
+#include "host/app/AboutBox.h"
 #include "host/app/MainWindow.h"
 
 namespace host::app {
@@ -30,6 +32,9 @@ void MainWindow::makeMenus() {
   addLoop(*playback);
   playback->addSeparator();
   addZoom(*playback);
+  menuBar()->addMenu(tr("&Help"))->addAction(tr("&About AAC Audition"), this, [this] {
+    aboutBox(this)->open();
+  });
 }
 
 void MainWindow::addTransport(QMenu& menu) {

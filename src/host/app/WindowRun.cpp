@@ -26,8 +26,8 @@ std::vector<Device> wantedDevices(const std::optional<std::string>& name,
   return devices;
 }
 
-/// Opens what the command line asks for, before the window is shown. Gives the file of which the
-/// user has to be asked something first.
+/// Opens what the command line asks for, before the window is shown. Gives the file that did not
+/// open by itself: of which the user has to be asked or told something.
 std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& options,
                                      const SavedSession* last) {
   try {
@@ -40,7 +40,7 @@ std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& 
   } catch (const Failure& failure) {
     if (last == nullptr) throw;
     warn(failure.what());
-    return std::nullopt;
+    return last->file;
   }
 }
 

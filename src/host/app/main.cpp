@@ -1,3 +1,4 @@
+#include <QIcon>
 #include <clocale>
 #include <cstdlib>
 #include <exception>
@@ -41,6 +42,8 @@ int run(const host::AuditionOptions& options, const char* program) {
   host::app::Application application(count, arguments);
   host::app::speakLanguageOf(QLocale(), application);
   QApplication::setApplicationName("aac-audition");
+  QApplication::setDesktopFileName("aac-audition");
+  QApplication::setWindowIcon(QIcon::fromTheme("aac-audition", QIcon(":/icons/aac-audition.svg")));
   // Numbers for machines keep their point whatever the user's language.
   std::setlocale(LC_NUMERIC, "C");
   return options.headless ? host::app::runHeadless(options, std::move(files), signals)

@@ -161,6 +161,19 @@ TEST_P(Language, IsThatOfTheWindow) {
   EXPECT_EQ(window.width(), 560);
 }
 
+TEST_P(Language, LeavesRoomForTheCountOfOvers) {
+  const Speaking speaking{QLocale(QString(GetParam()))};
+  host::app::MainWindow window;
+  auto& transport = window.transport();
+  transport.showTime(0, std::int64_t{599} * 48000, 48000);
+  transport.analysis().showState({host::Analysis::Step::Done, 1, {}, 99999});
+  window.show();
+  auto* const label = transport.analysis().findChild<host::app::ElidedLabel*>();
+  ASSERT_NE(label, nullptr);
+  EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width())
+      << label->text().toStdString();
+}
+
 TEST_P(Language, IsThatOfWhatCannotBeDone) {
   const Speaking speaking{QLocale(QString(GetParam()))};
   const bool german = std::string(GetParam()) == "de";

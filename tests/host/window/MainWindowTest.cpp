@@ -4,6 +4,10 @@
 #include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QIcon>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
@@ -12,6 +16,7 @@
 
 #include "PlainView.h"
 #include "host/Failure.h"
+#include "host/Version.h"
 #include "host/app/MainWindow.h"
 
 using host::app::MainWindow;
@@ -119,6 +124,7 @@ TEST_F(Window, GivesTheViewTheKeyboard) {
   window_.activateWindow();
   EXPECT_EQ(window_.focusWidget(), &view);
   for (auto* const button : window_.findChildren<QAbstractButton*>()) {
+    if (!button->isVisible()) continue;
     const auto* const menuButton = qobject_cast<QPushButton*>(button);
     if (menuButton == nullptr || menuButton->menu() == nullptr) {
       QTest::mouseClick(button, Qt::LeftButton);
@@ -200,6 +206,25 @@ TEST_F(Window, AsksToPlayAndToMoveOnlyWhileThereIsSomethingToPlay) {
   EXPECT_EQ(move[0][0].toInt(), -5000);
   EXPECT_EQ(move[1][0].toInt(), 5000);
   EXPECT_EQ(rewind.count(), 1);
+}
+
+TEST_F(Window, TellsWhatItIsAndGivesTheKeyboardBackToTheView) {
+  auto& view = showView();
+  auto* const help = window_.menuBar()->actions().back()->menu();
+  ASSERT_NE(help, nullptr);
+  help->actions().front()->trigger();
+  auto* const box = window_.findChild<QMessageBox*>();
+  ASSERT_NE(box, nullptr);
+  EXPECT_TRUE(box->isVisible());
+  EXPECT_TRUE(box->text().contains(host::kVersion)) << box->text().toStdString();
+  QTest::keyClick(box, Qt::Key_Escape);
+  settle();
+  EXPECT_EQ(window_.findChild<QMessageBox*>(), nullptr);
+  EXPECT_EQ(window_.focusWidget(), &view);
+}
+
+TEST(WindowIcon, IsInTheProgram) {
+  EXPECT_FALSE(QIcon(":/icons/aac-audition.svg").pixmap(48).isNull());
 }
 
 TEST_F(Window, IsStillWholeWhenItTellsThatItCloses) {
