@@ -10,8 +10,9 @@
 #include "converter/InterSampleBounds.h"
 #include "converter/VectorClones.h"
 
-// Clang would not see that the lanes of a loop over so few of them never overlap.
-#ifdef __clang__
+// Clang would not see that the lanes of a loop over so few of them never overlap. Under sanitizers
+// it makes no vectors at all, and would warn of that.
+#if defined(__clang__) && !defined(VELK_SANITIZED)
 #define VELK_INDEPENDENT_LANES _Pragma("clang loop vectorize(assume_safety)")
 #else
 #define VELK_INDEPENDENT_LANES
