@@ -22,10 +22,10 @@ void chooseFonts() {
   for (NSString* font :
        {@"NSFont", @"NSUserFont", @"NSControlContentFont", @"NSLabelFont", @"NSMenuFont",
         @"NSMessageFont", @"NSPaletteFont", @"NSTitleBarFont", @"NSToolTipsFont"}) {
-    [defaults setObject:@"FreeSans" forKey:font];
+    [defaults setObject:@"DejaVuSans" forKey:font];
     [defaults setObject:@"12" forKey:[font stringByAppendingString:@"Size"]];
   }
-  [defaults setObject:@"FreeSansBold" forKey:@"NSBoldFont"];
+  [defaults setObject:@"DejaVuSans-Bold" forKey:@"NSBoldFont"];
   [defaults setObject:@"12" forKey:@"NSBoldFontSize"];
   [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
 }

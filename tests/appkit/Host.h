@@ -36,15 +36,20 @@ class Host {
   /// The first button of a sheet with that title.
   static NSButton* buttonWithTitle(NSView* content, std::string_view title);
 
-  /// As the toolkit itself clicks a button: it is shown pressed for a moment.
+  /// The left mouse button pressed and released in the middle of the button. A click is an event:
+  /// the application takes it when its run loop runs.
   static void click(NSButton* button);
-  /// The left mouse button pressed and released at a point of the view.
+  /// The same at a point of a view.
   static void click(NSView* view, NSPoint point);
+  /// Pressed at a point of the view and released at another.
+  static void drag(NSView* view, NSPoint from, NSPoint to);
   static void clickSegment(NSSegmentedControl* control, int segment);
   static void clickTab(NSTabView* tabs, int index);
   static void pickItem(NSPopUpButton* popUp, int index);
   static void dragSlider(NSSlider* slider, double value);
-  /// A press of the key at that position (virtual key code).
+  /// A press of the key at that position (virtual key code), whatever has the focus.
+  void typeKey(std::uint16_t keyCode, NSString* characters = @"");
+  /// The same while the view has it.
   void pressKey(std::uint16_t keyCode, NSString* characters = @"");
 
   void moveToOtherSuperview();

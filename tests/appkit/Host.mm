@@ -123,6 +123,10 @@ void Host::click(NSButton* button) {
 }
 
 void Host::click(NSView* view, NSPoint point) {
+  drag(view, point, point);
+}
+
+void Host::drag(NSView* view, NSPoint from, NSPoint to) {
   NSWindow* window = [view window];
   if (![window isKeyWindow]) {
     // The first click into a window would only bring it to the front.
@@ -130,9 +134,13 @@ void Host::click(NSView* view, NSPoint point) {
   }
   // Some views place what they hold only when they are drawn.
   [window displayIfNeeded];
-  const NSPoint place = [view convertPoint:point toView:nil];
-  [NSApp postEvent:mouseEvent(NSLeftMouseDown, window, place) atStart:NO];
-  [NSApp postEvent:mouseEvent(NSLeftMouseUp, window, place) atStart:NO];
+  const NSPoint start = [view convertPoint:from toView:nil];
+  const NSPoint end = [view convertPoint:to toView:nil];
+  [NSApp postEvent:mouseEvent(NSLeftMouseDown, window, start) atStart:NO];
+  if (!NSEqualPoints(start, end)) {
+    [NSApp postEvent:mouseEvent(NSLeftMouseDragged, window, end) atStart:NO];
+  }
+  [NSApp postEvent:mouseEvent(NSLeftMouseUp, window, end) atStart:NO];
 }
 
 void Host::clickSegment(NSSegmentedControl* control, int segment) {
@@ -170,6 +178,10 @@ void Host::dragSlider(NSSlider* slider, double value) {
 
 void Host::pressKey(std::uint16_t keyCode, NSString* characters) {
   [window() makeFirstResponder:view()];
+  typeKey(keyCode, characters);
+}
+
+void Host::typeKey(std::uint16_t keyCode, NSString* characters) {
   [window() sendEvent:[NSEvent keyEventWithType:NSKeyDown
                                              location:NSZeroPoint
                                         modifierFlags:0
