@@ -2,23 +2,35 @@
 
 #import <AppKit/AppKit.h>
 
-#include "ui/Bundle.h"
 #include "ui/HelpPage.h"
 #include "ui/Log.h"
+#include "ui/appkit/FoundationBundle.h"
 #include "ui/appkit/Strings.h"
 
 #ifdef GNUSTEP
 /// Not every version of the toolkit has it.
 @interface NSHelpManager (Velk_Books)
 - (void)openHelpAnchor:(NSString*)anchor inBook:(NSString*)book;
+- (BOOL)registerBooksInBundle:(NSBundle*)bundle;
 @end
 #endif
 
 namespace ui::appkit {
 
+namespace {
+
+/// A bundle that is no application has to be registered, which fails when it has no book.
+bool opensBooks(NSHelpManager* manager, NSBundle* bundle) {
+  return [manager respondsToSelector:@selector(openHelpAnchor:inBook:)] &&
+         (![manager respondsToSelector:@selector(registerBooksInBundle:)] ||
+          [manager registerBooksInBundle:bundle] == YES);
+}
+
+}  // namespace
+
 void AppKitHelpManager::openHelpAnchor(const std::string& anchor, const std::string& book) {
   NSHelpManager* manager = [NSHelpManager sharedHelpManager];
-  if ([manager respondsToSelector:@selector(openHelpAnchor:inBook:)]) {
+  if (opensBooks(manager, bundle_.native())) {
     [manager openHelpAnchor:nsString(anchor) inBook:nsString(book)];
     return;
   }

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "ui/TabView.h"
 #include "ui/appkit/Adapter.h"
 #include "ui/appkit/Retained.h"
@@ -18,13 +15,10 @@ class TabViewAdapter final : public Adapter<TabView, NSTabView> {
   ~TabViewAdapter() override;
 
   int indexOfSelectedItem() const override;
-  int indexOfItem(const TabViewItem* item) const override;
-  TabViewItem* itemAtIndex(int index) override;
   void selectItemAtIndex(int index) override;
   void setDelegate(TabViewDelegate* delegate) override;
 
  private:
-  std::vector<std::unique_ptr<TabViewItem>> items_;
   Retained<Velk_TabViewDelegate*> nativeDelegate_;
 };
 

@@ -51,9 +51,7 @@ namespace ui::appkit {
 TabViewAdapter::TabViewAdapter(NSTabView* tabs)
     : Adapter(tabs),
       nativeDelegate_(Retained<Velk_TabViewDelegate*>::adopt([[Velk_TabViewDelegate alloc] init])) {
-  for (NSInteger index = 0; index < [tabs numberOfTabViewItems]; ++index) {
-    items_.push_back(std::make_unique<TabViewItem>());
-  }
+  makeItems(static_cast<int>([tabs numberOfTabViewItems]));
   [tabs setDelegate:nativeDelegate_.get()];
 }
 
@@ -64,21 +62,6 @@ TabViewAdapter::~TabViewAdapter() {
 
 int TabViewAdapter::indexOfSelectedItem() const {
   return static_cast<int>([control() indexOfTabViewItem:[control() selectedTabViewItem]]);
-}
-
-int TabViewAdapter::indexOfItem(const TabViewItem* item) const {
-  for (std::size_t index = 0; index < items_.size(); ++index) {
-    if (items_[index].get() == item) {
-      return static_cast<int>(index);
-    }
-  }
-  return -1;
-}
-
-TabViewItem* TabViewAdapter::itemAtIndex(int index) {
-  return index >= 0 && index < static_cast<int>(items_.size())
-             ? items_[static_cast<std::size_t>(index)].get()
-             : nullptr;
 }
 
 void TabViewAdapter::selectItemAtIndex(int index) {
