@@ -15,7 +15,6 @@
 #include "ui/PopUpButton.h"
 #include "ui/RunLoop.h"
 #include "ui/Sheets.h"
-#include "ui/TabView.h"
 
 AUCocoaUIBase::~AUCocoaUIBase() = default;
 
@@ -31,9 +30,6 @@ SegmentedControl::~SegmentedControl() = default;
 Slider::~Slider() = default;
 MenuItem::~MenuItem() = default;
 PopUpButton::~PopUpButton() = default;
-TabViewItem::~TabViewItem() = default;
-TabViewDelegate::~TabViewDelegate() = default;
-TabView::~TabView() = default;
 Window::~Window() = default;
 Sheet::~Sheet() = default;
 

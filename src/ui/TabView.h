@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "ui/Controls.h"
 
 namespace ui {
@@ -25,11 +28,20 @@ class UI_EXPORT TabView : public View {
  public:
   ~TabView() override;
   virtual int indexOfSelectedItem() const = 0;
-  virtual int indexOfItem(const TabViewItem* item) const = 0;
-  virtual TabViewItem* itemAtIndex(int index) = 0;
+  /// -1 for an item of another tab view.
+  int indexOfItem(const TabViewItem* item) const;
+  /// Null where there is none.
+  TabViewItem* itemAtIndex(int index);
   virtual void selectItemAtIndex(int index) = 0;
   /// Not owned; null removes it.
   virtual void setDelegate(TabViewDelegate* delegate) = 0;
+
+ protected:
+  /// One for every page; once.
+  void makeItems(int count);
+
+ private:
+  std::vector<std::unique_ptr<TabViewItem>> items_;
 };
 
 }  // namespace ui

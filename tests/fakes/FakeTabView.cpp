@@ -5,8 +5,7 @@
 namespace fakes {
 
 FakeTabView::FakeTabView(CallLog& log, std::string name) : FakeControl(log, std::move(name)) {
-  items_.push_back(std::make_unique<ui::TabViewItem>());
-  items_.push_back(std::make_unique<ui::TabViewItem>());
+  makeItems(2);
 }
 
 void FakeTabView::userClicks(int index) {
@@ -18,20 +17,6 @@ void FakeTabView::userClicks(int index) {
     delegate_->willSelectTabViewItem(item);
   }
   selected_ = index;
-}
-
-int FakeTabView::indexOfItem(const ui::TabViewItem* item) const {
-  for (std::size_t index = 0; index < items_.size(); ++index) {
-    if (items_[index].get() == item) {
-      return static_cast<int>(index);
-    }
-  }
-  return -1;
-}
-
-ui::TabViewItem* FakeTabView::itemAtIndex(int index) {
-  const auto place = static_cast<std::size_t>(index);
-  return index >= 0 && place < items_.size() ? items_[place].get() : nullptr;
 }
 
 void FakeTabView::selectItemAtIndex(int index) {

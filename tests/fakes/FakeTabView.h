@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "fakes/FakeControls.h"
 #include "ui/TabView.h"
 
@@ -17,13 +14,10 @@ class FakeTabView final : public FakeControl<ui::TabView> {
   ui::TabViewDelegate* delegate() const { return delegate_; }
 
   int indexOfSelectedItem() const override { return selected_; }
-  int indexOfItem(const ui::TabViewItem* item) const override;
-  ui::TabViewItem* itemAtIndex(int index) override;
   void selectItemAtIndex(int index) override;
   void setDelegate(ui::TabViewDelegate* delegate) override;
 
  private:
-  std::vector<std::unique_ptr<ui::TabViewItem>> items_;
   int selected_ = 0;
   ui::TabViewDelegate* delegate_ = nullptr;
 };

@@ -24,21 +24,6 @@ int TabViewAdapter::indexOfSelectedItem() const {
   return selected_;
 }
 
-int TabViewAdapter::indexOfItem(const TabViewItem* item) const {
-  for (std::size_t index = 0; index < items_.size(); ++index) {
-    if (items_[index].get() == item) {
-      return static_cast<int>(index);
-    }
-  }
-  return -1;
-}
-
-TabViewItem* TabViewAdapter::itemAtIndex(int index) {
-  return index >= 0 && index < static_cast<int>(items_.size())
-             ? items_[static_cast<std::size_t>(index)].get()
-             : nullptr;
-}
-
 void TabViewAdapter::selectItemAtIndex(int index) {
   TabViewItem* item = itemAtIndex(index);
   if (item == nullptr) {
@@ -56,12 +41,6 @@ void TabViewAdapter::selectItemAtIndex(int index) {
 
 void TabViewAdapter::setDelegate(TabViewDelegate* delegate) {
   delegate_ = delegate;
-}
-
-void TabViewAdapter::makeItems(int count) {
-  for (int index = 0; index < count; ++index) {
-    items_.push_back(std::make_unique<TabViewItem>());
-  }
 }
 
 void TabViewAdapter::showPage(int index) {

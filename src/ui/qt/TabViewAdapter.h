@@ -3,8 +3,6 @@
 #include <QObject>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <memory>
-#include <vector>
 
 #include "ui/TabView.h"
 #include "ui/qt/Adapter.h"
@@ -19,20 +17,16 @@ class TabViewAdapter final : public Adapter<TabView, QWidget> {
   explicit TabViewAdapter(QStackedWidget& pages);
 
   int indexOfSelectedItem() const override;
-  int indexOfItem(const TabViewItem* item) const override;
-  TabViewItem* itemAtIndex(int index) override;
   void selectItemAtIndex(int index) override;
   void setDelegate(TabViewDelegate* delegate) override;
 
  private:
-  void makeItems(int count);
   void showPage(int index);
   /// Qt has changed the page already when it says so: takes that back and asks first.
   void userSelected(int index);
 
   QTabWidget* tabs_ = nullptr;
   QStackedWidget* pages_ = nullptr;
-  std::vector<std::unique_ptr<TabViewItem>> items_;
   TabViewDelegate* delegate_ = nullptr;
   int selected_ = 0;
 };
