@@ -33,10 +33,13 @@ class SpscQueue {
   /// Reader: gives the oldest item back.
   void pop() { read_.store(read_.load(std::memory_order_relaxed) + 1, std::memory_order_release); }
 
-  /// Either thread: whether the reader has given back all that was pushed.
-  bool empty() const {
-    return read_.load(std::memory_order_acquire) == written_.load(std::memory_order_acquire);
+  /// Either thread: what was pushed and the reader has not given back yet.
+  std::size_t size() const {
+    // In this order, that what the other thread does meanwhile never makes it negative.
+    const std::size_t read = read_.load(std::memory_order_acquire);
+    return written_.load(std::memory_order_acquire) - read;
   }
+  bool empty() const { return size() == 0; }
 
   /// While neither thread uses the queue.
   void clear() {
