@@ -106,12 +106,14 @@ SoundFile::~SoundFile() = default;
 
 void SoundFile::open() {
   SF_INFO info{};
+  std::string why;
   {
     const QuietStandardError quiet;
     file_.reset(sf_open(path_.c_str(), SFM_READ, &info));
+    // The library has one reason for all threads, and the next to open a file clears it.
+    if (!file_) why = sf_strerror(nullptr);
   }
   if (!file_) {
-    std::string why = sf_strerror(nullptr);
     while (!why.empty() && (why.back() == '.' || why.back() == '\n')) why.pop_back();
     std::replace(why.begin(), why.end(), '\n', ' ');
     refuse(path_, Message::words("%1; give a WAV, AIFF, FLAC, Ogg or MP3 file"), {why});
