@@ -7,8 +7,8 @@
 #include <ctime>
 #include <stdexcept>
 
-#include "converter/SignalMeters.h"
-#include "converter/TruePeakMeter.h"
+#include "converter/meters/SignalMeters.h"
+#include "converter/meters/TruePeakMeter.h"
 
 namespace bench {
 namespace {

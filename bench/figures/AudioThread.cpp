@@ -7,7 +7,7 @@
 #include "Figure.h"
 #include "RandomOperator.h"
 #include "Rig.h"
-#include "converter/ThreadPriority.h"
+#include "converter/stream/ThreadPriority.h"
 
 namespace figures {
 namespace {

@@ -4,8 +4,8 @@
 #include "Clock.h"
 #include "Figure.h"
 #include "Rig.h"
-#include "converter/Decoder.h"
-#include "converter/Encoder.h"
+#include "converter/codec/Decoder.h"
+#include "converter/codec/Encoder.h"
 
 namespace figures {
 namespace {

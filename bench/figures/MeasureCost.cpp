@@ -10,9 +10,9 @@
 #include "Clock.h"
 #include "Figure.h"
 #include "Signals.h"
-#include "converter/Decoder.h"
-#include "converter/Encoder.h"
-#include "host/measure/JobQueue.h"
+#include "converter/codec/Decoder.h"
+#include "converter/codec/Encoder.h"
+#include "programs/measure/JobQueue.h"
 
 namespace figures {
 namespace {

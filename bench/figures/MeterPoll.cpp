@@ -4,12 +4,12 @@
 #include "Clock.h"
 #include "Figure.h"
 #include "Rig.h"
-#include "factory/InterfaceObjects.h"
-#include "factory/Velk_AUAACConverterFactory.h"
-#include "fakes/CallLog.h"
-#include "fakes/FakeInterfaceLoader.h"
-#include "fakes/FakeNativeView.h"
-#include "fakes/FakeToolkit.h"
+#include "view/factory/InterfaceObjects.h"
+#include "view/factory/Velk_AUAACConverterFactory.h"
+#include "view/fakes/CallLog.h"
+#include "view/fakes/FakeInterfaceLoader.h"
+#include "view/fakes/FakeNativeView.h"
+#include "view/fakes/FakeToolkit.h"
 
 namespace figures {
 namespace {

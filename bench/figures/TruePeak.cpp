@@ -2,7 +2,7 @@
 
 #include "Figure.h"
 #include "MeterSignals.h"
-#include "converter/TruePeakMeter.h"
+#include "converter/meters/TruePeakMeter.h"
 #include "true_peak_speed.h"
 
 namespace figures {

@@ -14,7 +14,7 @@
 #include "Clock.h"
 #include "Figure.h"
 #include "Rig.h"
-#include "host/ViewBundle.h"
+#include "host/unit/ViewBundle.h"
 #include "ui/CustomView.h"
 
 namespace figures {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "converter/InterSampleGrid.h"
+#include "converter/meters/InterSampleGrid.h"
 
 using converter::EighthGrid;
 using converter::HalfGrid;

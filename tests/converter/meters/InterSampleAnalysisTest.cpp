@@ -7,7 +7,7 @@
 
 #include "EveryPoint.h"
 #include "MeterSignals.h"
-#include "converter/InterSampleAnalysis.h"
+#include "converter/meters/InterSampleAnalysis.h"
 
 using converter::analyseIntervals;
 using converter::InterSampleReadings;

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "SameStatistics.h"
-#include "converter/PeakStatisticsExchange.h"
-#include "converter/TruePeakMeter.h"
+#include "converter/meters/PeakStatisticsExchange.h"
+#include "converter/meters/TruePeakMeter.h"
 
 using converter::clearedPeakStatistics;
 using converter::PeakStatisticsExchange;

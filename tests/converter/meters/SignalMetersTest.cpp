@@ -7,7 +7,7 @@
 #include "AllocationCount.h"
 #include "MeterSignals.h"
 #include "SameStatistics.h"
-#include "converter/SignalMeters.h"
+#include "converter/meters/SignalMeters.h"
 
 using converter::clearedPeakStatistics;
 using converter::SignalMeters;

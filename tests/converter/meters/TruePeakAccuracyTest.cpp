@@ -7,7 +7,7 @@
 #include <string>
 
 #include "MeterSignals.h"
-#include "converter/TruePeakMeter.h"
+#include "converter/meters/TruePeakMeter.h"
 
 using converter::TruePeakMeter;
 using meter_signals::Samples;

@@ -10,7 +10,7 @@
 #include "EveryPoint.h"
 #include "MeterSignals.h"
 #include "SameStatistics.h"
-#include "converter/TruePeakMeter.h"
+#include "converter/meters/TruePeakMeter.h"
 
 using converter::kMeterFloorDecibels;
 using converter::TruePeakMeter;

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "Rig.h"
-#include "host/demo/DemoMix.h"
+#include "programs/demo_mix/DemoMix.h"
 
 namespace {
 
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Of, UnitReadings, testing::ValuesIn(kCases),
 class UnitReadingsOfTheDemoMix : public UnitReadings {};
 
 TEST_P(UnitReadingsOfTheDemoMix, AreThoseOfLibebur128AndOfAPlainCount) {
-  const auto mix = host::demo::demoMix(24);
+  const auto mix = host::demo_mix::demoMix(24);
   Signal source;
   for (const auto& samples : {mix.left, mix.right}) {
     source.emplace_back(samples.begin(), samples.end());

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "audio_unit/Framework.h"
+
+/// Properties that this converter has beyond what the view needs: for hosts. Global scope, element
+/// 0, read only unless it says otherwise.
+namespace converter {
+
+/// `EffectiveSetting`.
+inline constexpr AudioUnitPropertyID kConverterProperty_EffectiveSetting = 5310;
+/// `BitRate`.
+inline constexpr AudioUnitPropertyID kConverterProperty_BitRate = 5311;
+/// UInt64: frames of encoded signal that came too late since the unit was made, or that no codec
+/// could be opened for, and were silence.
+inline constexpr AudioUnitPropertyID kConverterProperty_MissedFrames = 5312;
+/// UInt64: codecs that could not be opened since the unit was made, and access units that could not
+/// be made or decoded. 0 as long as all is well.
+inline constexpr AudioUnitPropertyID kConverterProperty_CodecFailures = 5313;
+/// UInt32, may be written: 0 while what the unit renders is not metered, because nobody hears it
+/// and it only leads up to what follows, as before the place that a player was sent to;
+/// otherwise 1.
+inline constexpr AudioUnitPropertyID kConverterProperty_Metering = 5314;
+
+/// The setting really used: the nearest that works where the parameters ask for one that the
+/// encoder cannot do at this rate and channel count. Where the codec could not be opened in
+/// mid-play, the one that goes on in its place.
+struct EffectiveSetting {
+  UInt32 format;
+  UInt32 strategy;
+  /// ABR: the encoder's target. VBRC: the peak rate. VBR: 0. bit/s.
+  UInt32 bitRate;
+  /// VBR: the encoder's mode, 1 to 5. Otherwise 0.
+  UInt32 vbrMode;
+};
+
+/// Bits of the access units, without any transport.
+struct BitRate {
+  /// Over the last seconds, kbit/s; 0 before the first access unit.
+  Float32 recentKbps;
+  /// Since the last change of setting or reset of the unit, kbit/s; 0 before the first access unit.
+  Float32 averageKbps;
+};
+
+}  // namespace converter

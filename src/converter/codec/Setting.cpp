@@ -1,0 +1,106 @@
+#include "converter/codec/Setting.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "contract/ConverterInterface.h"
+
+namespace converter {
+namespace {
+
+/// The code that the value stands for, by truncation toward zero, moved into 0 to `highest`.
+std::uint32_t codeOf(float value, std::uint32_t highest) {
+  if (!(value > 0)) return 0;
+  return static_cast<std::uint32_t>(std::min(value, static_cast<float>(highest)));
+}
+
+/// Spectral band replication and parametric stereo leave the core encoder one channel less or half
+/// the rate to work on; the limits follow the core.
+struct Core {
+  double sampleRate;
+  std::uint32_t channels;
+};
+
+Core coreOf(Format format, const UnitFormat& unit) {
+  return {format == Format::lc ? unit.sampleRate : unit.sampleRate / 2,
+          format == Format::heV2 ? 1U : unit.channels};
+}
+
+constexpr double kCoreFrameLength = 1024;
+
+/// Most bits that an AAC decoder has to take per channel and frame (ISO/IEC 14496-3, the size of
+/// its input buffer).
+constexpr double kMostBitsPerChannelAndFrame = 6144;
+
+std::uint32_t highestRate(Format format, const UnitFormat& unit) {
+  const Core core = coreOf(format, unit);
+  return static_cast<std::uint32_t>(kMostBitsPerChannelAndFrame * core.channels * core.sampleRate /
+                                    kCoreFrameLength);
+}
+
+/// Lowest rates that FDK AAC 2.0.2 takes without raising them itself, as its own read-back shows.
+std::uint32_t lowestRate(Format format, const UnitFormat& unit) {
+  const Core core = coreOf(format, unit);
+  if (format == Format::lc) {
+    const double bitsPerFrame = core.channels == 1 ? 248 : 288;
+    return static_cast<std::uint32_t>(std::ceil(bitsPerFrame * core.sampleRate / kCoreFrameLength));
+  }
+  // Where the replication's tuning tables begin.
+  if (core.channels == 1) {
+    if (unit.sampleRate < 44100) return 8000;
+    if (unit.sampleRate < 88200) return 12000;
+    return unit.sampleRate < 96000 ? 24000 : 32000;
+  }
+  if (unit.sampleRate < 88200) return 16000;
+  return unit.sampleRate < 96000 ? 32000 : 36000;
+}
+
+/// Peak rates between which FDK AAC 2.0.2 starts and keeps the constraint. A single core channel
+/// with band replication falls back to a poorer tuning, or forgets the constraint, at 256 kbit/s.
+std::uint32_t lowestPeak(Format format, const UnitFormat& unit) {
+  return coreOf(format, unit).channels == 1 ? 32000 : 40000;
+}
+std::uint32_t highestPeak(Format format, const UnitFormat& unit) {
+  return format != Format::lc && coreOf(format, unit).channels == 1 ? 224000 : 320000;
+}
+
+/// The five modes share the qualities 0 to 127 evenly.
+std::uint8_t vbrModeOf(float quality) {
+  return static_cast<std::uint8_t>(1 + codeOf(quality, 127) * 5 / 128);
+}
+
+}  // namespace
+
+Format highestFormat(const EncoderAbilities& abilities, UInt32 channels) {
+  if (!abilities.highEfficiency) return Format::lc;
+  return channels == 1 ? Format::he : Format::heV2;
+}
+
+Setting nearestSetting(const ParameterValues& values, const UnitFormat& unit,
+                       const EncoderAbilities& abilities) {
+  const auto highest = static_cast<std::uint32_t>(highestFormat(abilities, unit.channels));
+  Setting setting;
+  setting.format = static_cast<Format>(codeOf(values.format, highest));
+  setting.strategy = static_cast<Strategy>(codeOf(values.strategy, 2));
+  if (setting.strategy == Strategy::vbr) {
+    setting.vbrMode = vbrModeOf(values.rateOrQuality);
+    return setting;
+  }
+  const std::uint32_t rate =
+      1000 * velk::bitRates[codeOf(values.rateOrQuality, velk::bitRates.size() - 1)];
+  if (setting.strategy == Strategy::constrainedVbr && !abilities.constrainedVbr) {
+    setting.strategy = Strategy::abr;
+  }
+  setting.bitRate =
+      setting.strategy == Strategy::abr
+          ? std::clamp(rate, lowestRate(setting.format, unit), highestRate(setting.format, unit))
+          : std::clamp(rate, lowestPeak(setting.format, unit), highestPeak(setting.format, unit));
+  return setting;
+}
+
+EffectiveSetting effectiveSetting(const Setting& setting) {
+  return {static_cast<UInt32>(setting.format), static_cast<UInt32>(setting.strategy),
+          setting.bitRate, setting.vbrMode};
+}
+
+}  // namespace converter

@@ -1,0 +1,94 @@
+#include "converter/stream/Renderer.h"
+
+#include <algorithm>
+
+#include "converter/transcoder/CodecPair.h"
+#include "converter/transcoder/Latency.h"
+
+namespace converter {
+namespace {
+
+/// Room for all that can be under way at once, and some for a worker that is late.
+std::size_t queueBlocks(const UnitFormat& unit) {
+  return (latencyFor(unit) + unit.maximumFrames) / kBlockFrames + 4;
+}
+
+std::array<float*, kMaximumChannels> pointers(
+    std::array<std::vector<float>, kMaximumChannels>& planes) {
+  return {planes[0].data(), planes[1].data()};
+}
+
+}  // namespace
+
+Renderer::Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder& open)
+    : unit_(unit),
+      controls_(controls),
+      latency_(latencyFor(unit)),
+      worker_(unit, queueBlocks(unit), open),
+      feeder_(worker_, unit),
+      reader_(worker_),
+      delay_(unit.channels, latency_, unit.maximumFrames),
+      meters_(unit.channels),
+      monitor_(unit.sampleRate) {
+  for (auto& plane : source_) plane.resize(unit.maximumFrames);
+  for (auto& plane : encoded_) plane.resize(unit.maximumFrames);
+  // Says at once whether the codec works here, and spares the worker the libraries' slow first use.
+  const UnitFormat codec = codecFormat(unit);
+  const CodecPair trial(open(controls.setting.load(), codec), codec, 0);
+  worker_.setUrgent(true);
+  worker_.start();
+}
+
+void Renderer::render(const float* const* input, float* const* output, UInt32 frames) noexcept {
+  for (UInt32 done = 0; done < frames;) {
+    const UInt32 slice = std::min(frames - done, unit_.maximumFrames);
+    std::array<const float*, kMaximumChannels> in{};
+    std::array<float*, kMaximumChannels> out{};
+    for (UInt32 channel = 0; channel < unit_.channels; ++channel) {
+      in[channel] = input[channel] + done;
+      out[channel] = output[channel] + done;
+    }
+    renderSlice(in.data(), out.data(), slice);
+    done += slice;
+  }
+}
+
+void Renderer::renderSlice(const float* const* input, float* const* output, UInt32 frames) {
+  const bool wait = controls_.offline.load(std::memory_order_relaxed);
+  const bool monitorSource = controls_.monitorSource.load(std::memory_order_relaxed);
+  const Position position = feeder_.position() - latency_;
+  const auto source = pointers(source_);
+  const auto encoded = pointers(encoded_);
+
+  feeder_.request(controls_.setting.load(std::memory_order_relaxed));
+  feeder_.feed(input, unit_.channels, frames, wait);
+  delay_.process(input, source.data(), frames);
+  const UInt32 missed = reader_.read(position, frames, encoded.data(), unit_.channels, wait);
+  if (missed > 0) controls_.missedFrames.fetch_add(missed, std::memory_order_relaxed);
+  if (controls_.metering.load(std::memory_order_relaxed)) {
+    meters_.process(source.data(), encoded.data(), frames);
+  } else {
+    meters_.pass(source.data(), encoded.data(), frames);
+  }
+  monitor_.process(source.data(), encoded.data(), output, unit_.channels, frames, monitorSource);
+}
+
+void Renderer::reset() {
+  worker_.stop();
+  feeder_.clear();
+  delay_.clear();
+  meters_.abandon();
+  worker_.start();
+}
+
+void Renderer::waitForCodec() {
+  worker_.waitUntil([this] { return worker_.source().empty(); });
+}
+
+void Renderer::setBitStreamSink(BitStreamSink* sink) {
+  worker_.stop();
+  worker_.setBitStreamSink(sink);
+  reset();
+}
+
+}  // namespace converter

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "converter/meters/SignalMeters.h"
+#include "converter/stream/Controls.h"
+#include "converter/stream/DelayLine.h"
+#include "converter/stream/EncodedReader.h"
+#include "converter/stream/MonitorSwitch.h"
+#include "converter/stream/SourceFeeder.h"
+#include "converter/stream/Worker.h"
+
+namespace converter {
+
+/// What the unit does with audio: feeds the worker, delays the source to meet the encoded signal,
+/// and sends one of the two on.
+class Renderer {
+ public:
+  /// Throws `std::runtime_error` when a codec cannot be opened.
+  Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder& open);
+
+  /// As the operations of `ConverterUnit`.
+  void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
+  void reset();
+  void finish() { meters_.finish(); }
+  void waitForCodec();
+  void setBitStreamSink(BitStreamSink* sink);
+
+  UInt32 latency() const { return latency_; }
+  /// Any thread.
+  const CodecStatus& codec() const { return worker_.codec(); }
+  void setUrgent(bool urgent) { worker_.setUrgent(urgent); }
+  velk::PeakStatistics peakStatistics() const { return meters_.read(); }
+  void resetPeakStatistics() { meters_.requestReset(); }
+
+ private:
+  using Planes = std::array<std::vector<float>, kMaximumChannels>;
+
+  void renderSlice(const float* const* input, float* const* output, UInt32 frames);
+
+  UnitFormat unit_;
+  Controls& controls_;
+  UInt32 latency_;
+  Worker worker_;
+  SourceFeeder feeder_;
+  EncodedReader reader_;
+  DelayLine delay_;
+  SignalMeters meters_;
+  MonitorSwitch monitor_;
+  Planes source_;
+  Planes encoded_;
+};
+
+}  // namespace converter

@@ -1,0 +1,38 @@
+#include "converter/stream/ThreadPriority.h"
+
+#include <pthread.h>
+#include <sched.h>
+#include <sys/resource.h>
+
+namespace converter {
+namespace {
+
+/// Where the system begins to look for the lowest that it allows: above most of a desktop.
+constexpr int kBestNice = -11;
+
+/// Linux has a nice value for each thread, and takes 0 for the calling one.
+bool setNice(int nice) {
+  return setpriority(PRIO_PROCESS, 0, nice) == 0;
+}
+
+}  // namespace
+
+ThreadPriority raiseThreadPriority() {
+  sched_param lowest{};
+  lowest.sched_priority = sched_get_priority_min(SCHED_RR);
+  if (pthread_setschedparam(pthread_self(), SCHED_RR, &lowest) == 0) {
+    return ThreadPriority::realTime;
+  }
+  for (int nice = kBestNice; nice < 0; ++nice) {
+    if (setNice(nice)) return ThreadPriority::raised;
+  }
+  return ThreadPriority::ordinary;
+}
+
+void dropThreadPriority() {
+  const sched_param none{};
+  pthread_setschedparam(pthread_self(), SCHED_OTHER, &none);
+  if (getpriority(PRIO_PROCESS, 0) < 0) setNice(0);
+}
+
+}  // namespace converter

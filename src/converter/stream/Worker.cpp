@@ -1,0 +1,73 @@
+#include "converter/stream/Worker.h"
+
+#include <pthread.h>
+
+#include <utility>
+
+#include "converter/stream/ThreadPriority.h"
+
+namespace converter {
+namespace {
+
+/// Whoever waits for the worker, which goes at its own pace then, is woken when so many blocks are
+/// left to it: to be woken for each costs several percent of the codec's time.
+constexpr std::size_t kLeftWhenWaking = 1;
+
+}  // namespace
+
+Worker::Worker(const UnitFormat& unit, std::size_t queueBlocks, OpenEncoder open)
+    : source_(queueBlocks),
+      encoded_(queueBlocks),
+      transcoder_(makeTranscoder(unit, std::move(open))) {}
+
+void Worker::start() {
+  source_.clear();
+  encoded_.clear();
+  transcoder_->clear();
+  codec_.publish(transcoder_->report());
+  isUrgent_ = false;
+  stopping_ = false;
+  thread_ = std::thread([this] { run(); });
+}
+
+void Worker::stop() {
+  if (!thread_.joinable()) return;
+  stopping_ = true;
+  work_.release();
+  thread_.join();
+}
+
+void Worker::run() {
+  pthread_setname_np(pthread_self(), "aac-converter");
+  while (!stopping_) {
+    takeUpUrgency();
+    processWaiting();
+    work_.acquire();
+  }
+}
+
+void Worker::takeUpUrgency() {
+  const bool urgent = urgent_.load(std::memory_order_relaxed);
+  if (urgent == isUrgent_) return;
+  isUrgent_ = urgent;
+  if (urgent) {
+    raiseThreadPriority();
+  } else {
+    dropThreadPriority();
+  }
+}
+
+void Worker::processWaiting() {
+  while (const SourceBlock* block = source_.front()) {
+    if (stopping_) return;
+    AudioBlock* encoded = encoded_.claim();
+    transcoder_->process(*block, encoded != nullptr ? *encoded : surplus_);
+    if (encoded != nullptr) encoded_.push();
+    codec_.publish(transcoder_->report());
+    source_.pop();
+    const bool wakes = source_.size() <= kLeftWhenWaking;
+    if (wakes && waiting_.exchange(false, std::memory_order_acq_rel)) progress_.release();
+  }
+}
+
+}  // namespace converter

@@ -1,0 +1,90 @@
+#include "converter/transcoder/CodecPair.h"
+
+#include <algorithm>
+
+namespace converter {
+namespace {
+
+/// The grid position of the frame from which an encoder has to start.
+Position firstFrame(const CodecTiming& timing, Position start) {
+  const Position length = timing.frameLength;
+  const Position containing = (start + timing.delay) / length;
+  return (containing - timing.primingFrames) * length;
+}
+
+}  // namespace
+
+CodecPair::CodecPair(std::unique_ptr<Encoder> encoder, const UnitFormat& unit, Position start,
+                     BitStreamSink* sink)
+    : encoder_(std::move(encoder)),
+      timing_(encoder_->timing()),
+      decoder_(openDecoder(encoder_->configuration(), unit, timing_.frameLength)),
+      bitRate_(unit.sampleRate, timing_.frameLength),
+      channels_(unit.channels),
+      nextFrame_(firstFrame(timing_, start)),
+      start_(start),
+      sink_(sink),
+      lookaheadLeft_(timing_.lookaheadFrames),
+      decodedBegin_(nextFrame_ - timing_.delay),
+      decodedEnd_(decodedBegin_) {
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    decoded_[channel].resize(std::size_t{kBlockFrames} + timing_.frameLength);
+  }
+  if (sink_ != nullptr) {
+    sink_->streamBegan(
+        {encoder_->configuration(), unit.sampleRate, unit.channels, timing_.frameLength});
+  }
+}
+
+void CodecPair::render(const SourceHistory& history, Position position, UInt32 frames,
+                       std::span<float* const> output) {
+  const Position end = position + frames;
+  while (decodedEnd_ < end) {
+    keepFrom(position);
+    codeFrame(history);
+  }
+  const Position offset = position - decodedBegin_;
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    std::copy_n(decoded_[channel].begin() + offset, frames, output[channel]);
+  }
+}
+
+void CodecPair::keepFrom(Position position) {
+  const Position kept = std::min(std::max(position, decodedBegin_), decodedEnd_);
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    auto& plane = decoded_[channel];
+    std::copy(plane.begin() + (kept - decodedBegin_), plane.begin() + (decodedEnd_ - decodedBegin_),
+              plane.begin());
+  }
+  decodedBegin_ = kept;
+}
+
+void CodecPair::codeFrame(const SourceHistory& history) {
+  std::array<const float*, kMaximumChannels> frame{};
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    frame[channel] = history.frame(channel, nextFrame_);
+  }
+  const auto accessUnit = encoder_->encode(frame.data());
+  nextFrame_ += timing_.frameLength;
+  if (lookaheadLeft_ > 0) {
+    --lookaheadLeft_;
+    return;
+  }
+  if (sink_ != nullptr && !accessUnit.empty()) sink_->accessUnitMade({accessUnit, decodedEnd_});
+  const Position decodedNext = decodedEnd_ + timing_.frameLength;
+  if (decodedNext > start_) bitRate_.count(accessUnit.size());
+  // A failure leaves a frame of silence rather than everything behind it out of place.
+  const float* const* planes = accessUnit.empty() ? nullptr : decoder_->decode(accessUnit);
+  if (planes == nullptr) ++failures_;
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    const auto to = decoded_[channel].begin() + (decodedEnd_ - decodedBegin_);
+    if (planes != nullptr) {
+      std::copy_n(planes[channel], timing_.frameLength, to);
+    } else {
+      std::fill_n(to, timing_.frameLength, 0.0F);
+    }
+  }
+  decodedEnd_ = decodedNext;
+}
+
+}  // namespace converter

@@ -1,0 +1,114 @@
+#include "converter/transcoder/ResampledTranscoder.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "converter/transcoder/Latency.h"
+
+namespace converter {
+namespace {
+
+constexpr Position kRatio = 2;
+
+}  // namespace
+
+ResampledTranscoder::ResampledTranscoder(const UnitFormat& unit, OpenEncoder open)
+    : channels_(unit.channels),
+      behind_(converter::encodedBehindSource(unit)),
+      codec_(codecFormat(unit), std::move(open)),
+      down_(RateChange::Direction::halve, unit.channels, kBlockFrames),
+      up_(RateChange::Direction::doubleUp, unit.channels, kBlockFrames) {}
+
+void ResampledTranscoder::process(const SourceBlock& source, AudioBlock& encoded) {
+  if (expected_ != source.audio.position) restart(source);
+  expected_ = source.audio.end();
+  if (source.change) {
+    const Position halved = (source.change->position + kRatio - 1) / kRatio;
+    changes_.push_back({halved, source.change->setting});
+  }
+  std::array<const float*, kMaximumChannels> input{};
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    input[channel] = source.audio.planes[channel].data();
+  }
+  const std::size_t frames = down_.process(input, kBlockFrames);
+  takeHalved(std::array{down_.plane(0), down_.plane(channels_ - 1)}.data(), frames);
+  encoded.position = source.audio.position - behind_;
+  give(encoded);
+}
+
+void ResampledTranscoder::clear() {
+  expected_.reset();
+  codec_.clear();
+}
+
+/// The codec's blocks lie on the grid of its own rate, so the first one may begin with silence.
+void ResampledTranscoder::restart(const SourceBlock& source) {
+  codec_.clear();
+  down_.clear();
+  up_.clear();
+  changes_.clear();
+  begin_ = source.audio.position;
+  const Position start = begin_ / kRatio;
+  halved_.setting = source.setting;
+  halved_.audio.position = start - start % kBlockFrames;
+  halvedFrames_ = static_cast<UInt32>(start - halved_.audio.position);
+  for (auto& plane : halved_.audio.planes) std::fill_n(plane.begin(), halvedFrames_, 0.0F);
+  for (auto& plane : doubled_) plane.clear();
+  doubledBegin_ = kRatio * (halved_.audio.position - kEncodedBehindSource);
+}
+
+void ResampledTranscoder::takeHalved(const float* const* planes, std::size_t frames) {
+  for (std::size_t done = 0; done < frames;) {
+    const std::size_t step = std::min<std::size_t>(frames - done, kBlockFrames - halvedFrames_);
+    for (UInt32 channel = 0; channel < channels_; ++channel) {
+      std::copy_n(planes[channel] + done, step,
+                  halved_.audio.planes[channel].begin() + halvedFrames_);
+    }
+    halvedFrames_ += static_cast<UInt32>(step);
+    done += step;
+    if (halvedFrames_ == kBlockFrames) code();
+  }
+}
+
+void ResampledTranscoder::code() {
+  halved_.audio.begin = halved_.audio.position;
+  halved_.change.reset();
+  if (!changes_.empty() && changes_.front().position < halved_.audio.end()) {
+    halved_.change = changes_.front();
+    changes_.pop_front();
+  }
+  codec_.process(halved_, coded_);
+  if (halved_.change) halved_.setting = halved_.change->setting;
+  halved_.audio.position += kBlockFrames;
+  halvedFrames_ = 0;
+
+  if (coded_.begin > coded_.position) begin_ = std::max(begin_, kRatio * coded_.begin);
+  std::array<const float*, kMaximumChannels> input{};
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    auto& plane = coded_.planes[channel];
+    std::fill_n(plane.begin(), coded_.begin - coded_.position, 0.0F);
+    input[channel] = plane.data();
+  }
+  const std::size_t frames = up_.process(input, kBlockFrames);
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    const float* made = up_.plane(channel);
+    doubled_[channel].insert(doubled_[channel].end(), made, made + frames);
+  }
+}
+
+/// A block that the resamplers keep back too long is missing, and counted as such.
+void ResampledTranscoder::give(AudioBlock& encoded) {
+  const Position end = encoded.end();
+  const bool isThere = doubledBegin_ + static_cast<Position>(doubled_[0].size()) >= end;
+  encoded.begin = isThere ? std::clamp(begin_, encoded.position, end) : end;
+  if (!isThere || doubledBegin_ >= end) return;
+  for (UInt32 channel = 0; channel < channels_; ++channel) {
+    auto& plane = doubled_[channel];
+    std::copy_n(plane.begin() + (encoded.begin - doubledBegin_), end - encoded.begin,
+                encoded.planes[channel].begin() + (encoded.begin - encoded.position));
+    plane.erase(plane.begin(), plane.begin() + (end - doubledBegin_));
+  }
+  doubledBegin_ = end;
+}
+
+}  // namespace converter

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include "converter/transcoder/RateChange.h"
+#include "converter/transcoder/Transcoder.h"
+
+namespace converter {
+
+/// A transcoder for units above the highest rate of AAC: halves the rate before the codec and
+/// doubles it behind.
+class ResampledTranscoder final : public BlockTranscoder {
+ public:
+  ResampledTranscoder(const UnitFormat& unit, OpenEncoder open);
+
+  void process(const SourceBlock& source, AudioBlock& encoded) override;
+  void setBitStreamSink(BitStreamSink* sink) override { codec_.setBitStreamSink(sink); }
+  CodecReport report() const override { return codec_.report(); }
+  void clear() override;
+
+ private:
+  void restart(const SourceBlock& source);
+  void takeHalved(const float* const* planes, std::size_t frames);
+  void code();
+  void give(AudioBlock& encoded);
+
+  UInt32 channels_;
+  Position behind_;
+  Transcoder codec_;
+  RateChange down_;
+  RateChange up_;
+  std::optional<Position> expected_;
+  /// Where the encoded signal begins, at the unit's rate.
+  Position begin_ = 0;
+  /// At the codec's rate, still to be handed on.
+  std::deque<SettingChange> changes_;
+  /// Being filled, at the codec's rate.
+  SourceBlock halved_;
+  UInt32 halvedFrames_ = 0;
+  AudioBlock coded_;
+  /// The encoded signal at the unit's rate from `doubledBegin_` on.
+  std::array<std::vector<float>, kMaximumChannels> doubled_;
+  Position doubledBegin_ = 0;
+};
+
+}  // namespace converter

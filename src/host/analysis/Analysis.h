@@ -1,0 +1,85 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "contract/ConverterInterface.h"
+#include "host/analysis/BackgroundWork.h"
+#include "host/analysis/SharedOverview.h"
+#include "host/files/AudioSource.h"
+#include "host/messages/Message.h"
+#include "host/unit/EncoderSetting.h"
+
+namespace host {
+
+/// Fills a file's overview in the background: first the waveform, then where the encoded signal
+/// exceeds full scale, anew whenever the encoder's setting has changed. Until that is known, what
+/// playing reaches is marked.
+///
+/// While a listening test runs, everything stands still. One thread, the work aside.
+class Analysis {
+ public:
+  using Clock = std::chrono::steady_clock;
+  /// Opens the file once more; called on other threads.
+  using Open = std::function<std::unique_ptr<AudioSource>()>;
+
+  enum class Step { Waveform, Encoded, Done, Cancelled, Failed };
+  struct State {
+    Step step = Step::Waveform;
+    /// Of the step.
+    double share = 0;
+    /// Why it failed.
+    Message failure;
+    /// Inter-sample overs of all channels in the whole encoded file, once it is done.
+    std::int64_t encodedOvers = 0;
+  };
+
+  /// A setting has to stay for so long before the encoded signal is analysed.
+  static constexpr auto kSettling = std::chrono::milliseconds(400);
+
+  Analysis(Open open, AudioFormat format);
+  ~Analysis();
+
+  /// Another one after the waveform was cancelled and is drawn again.
+  const std::shared_ptr<SharedOverview>& overview() const { return overview_; }
+  State state() const;
+
+  /// To be called now and then.
+  void update(const EncoderSetting& setting, bool testRuns, Clock::time_point now);
+  /// What the unit in use has metered up to `frame`, which leaves it next. To be called now and
+  /// then, and after every jump.
+  void follow(const velk::PeakStatistics& peaks, std::int64_t frame);
+  /// Stops what is being done; what is known stays. A change of the setting starts the analysis of
+  /// the encoded signal again.
+  void cancel();
+  /// Does what was cancelled or has failed.
+  void restart();
+
+ private:
+  void startWaveform();
+  void startEncoded();
+  void takeUp(const EncoderSetting& setting, Clock::time_point now);
+  void takeResult();
+
+  Open open_;
+  AudioFormat format_;
+  std::shared_ptr<SharedOverview> overview_;
+  std::optional<EncoderSetting> setting_;
+  Clock::time_point settledAt_;
+  bool testRuns_ = false;
+  Step step_ = Step::Waveform;
+  bool waveformIsKnown_ = false;
+  Message failure_;
+  std::shared_ptr<velk::PeakStatistics> result_;
+  std::int64_t encodedOvers_ = 0;
+  velk::PeakStatistics heard_{};
+  std::int64_t heardUpTo_ = 0;
+  bool hears_ = false;
+  /// Ends before what it works on.
+  std::unique_ptr<BackgroundWork> work_;
+};
+
+}  // namespace host

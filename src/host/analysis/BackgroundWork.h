@@ -1,0 +1,38 @@
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+#include "host/analysis/Progress.h"
+#include "host/messages/Message.h"
+
+namespace host {
+
+/// Runs work once on a thread of its own, behind everything that is more urgent.
+class BackgroundWork {
+ public:
+  /// Begins at once. What the work throws ends it.
+  explicit BackgroundWork(std::function<void(Progress&)> work);
+  BackgroundWork(const BackgroundWork&) = delete;
+  BackgroundWork& operator=(const BackgroundWork&) = delete;
+  /// Stops it and waits until it has.
+  ~BackgroundWork();
+
+  Progress& progress() { return progress_; }
+  const Progress& progress() const { return progress_; }
+  /// Whether it has ended, however that came.
+  bool hasEnded() const { return ended_.load(std::memory_order_acquire); }
+  /// Once it has ended: what went wrong, or nothing.
+  const Message& failure() const { return failure_; }
+
+ private:
+  void run(const std::function<void(Progress&)>& work) noexcept;
+
+  Progress progress_;
+  Message failure_;
+  std::atomic<bool> ended_{false};
+  std::thread thread_;
+};
+
+}  // namespace host

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "host/files/AtomicFile.h"
+#include "host/files/AudioSource.h"
+#include "host/messages/Message.h"
+#include "host/playback/BlockRenderer.h"
+#include "host/playback/SampleRing.h"
+
+namespace host {
+
+/// Writes what it hears to a 32-bit float WAV file (RF64 beyond 4 GB), on a thread of its own.
+class Recorder : public AudioTap {
+ public:
+  /// Takes over the file. Throws `Failure`.
+  Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format);
+  /// Without `finish` nothing is left behind.
+  ~Recorder() override;
+
+  void hear(const float* const* planes, std::uint32_t frames) noexcept override;
+  /// What went wrong so far, or nothing. Any thread but the audio thread.
+  Message failure() const;
+  /// Waits until a block of `frames` frames fits. For rendering faster than real time.
+  void waitForRoom(std::uint32_t frames);
+  /// Writes what is left and gives the file its name. Throws `Failure` when anything was lost on
+  /// the way. After the last `hear`.
+  void finish();
+
+ private:
+  struct Close {
+    void operator()(void* file) const;
+  };
+
+  void write();
+  void writeReadable(std::unique_lock<std::mutex>& lock);
+  void stop();
+
+  std::unique_ptr<AtomicFile> target_;
+  AudioFormat format_;
+  SampleRing ring_;
+  std::vector<float> incoming_;
+  std::vector<float> outgoing_;
+  std::atomic<std::uint64_t> lostFrames_{0};
+  std::unique_ptr<void, Close> file_;
+
+  mutable std::mutex mutex_;
+  std::condition_variable wakeWriter_;
+  std::condition_variable madeRoom_;
+  bool stop_ = false;
+  Message error_;
+  std::thread writer_;
+};
+
+}  // namespace host

@@ -1,0 +1,154 @@
+#include <rtaudio/RtAudio.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <mutex>
+
+#include "host/messages/Failure.h"
+#include "host/messages/QuietStandardError.h"
+#include "host/playback/Devices.h"
+
+namespace host {
+namespace {
+
+constexpr unsigned preferredBlock = 512;
+/// A device that has gone can keep warning; one that merely stumbles warns less often.
+constexpr int manyWarnings = 4;
+constexpr auto longestPause = std::chrono::seconds(3);
+
+class RtAudioOutput : public Output {
+ public:
+  RtAudioOutput(const Device& device, AudioFormat format, BlockRenderer& renderer);
+  ~RtAudioOutput() override;
+
+  std::string name() const override { return name_; }
+  bool isSilent() const override { return false; }
+  std::uint32_t sampleRate() const override { return format_.sampleRate; }
+  std::uint32_t latency() const override { return latency_; }
+  Message failure() override;
+
+  void hearOfError(RtAudioError::Type type, const std::string& text);
+
+ private:
+  void start(const Device& device);
+  int render(float* samples, unsigned frames) noexcept;
+
+  const std::string name_;
+  const AudioFormat format_;
+  BlockRenderer& renderer_;
+  RtAudio audio_;
+  unsigned deviceChannels_;
+  std::uint32_t latency_ = 0;
+
+  std::atomic<std::uint64_t> blocks_{0};
+  std::atomic<int> warnings_{0};
+  std::atomic<bool> failed_{false};
+  std::mutex mutex_;
+  std::string error_;
+  std::uint64_t blocksSeen_ = 0;
+  std::chrono::steady_clock::time_point lastBlockSeen_;
+};
+
+/// RtAudio tells its error function nothing of the stream, and the program opens one at a time.
+std::atomic<RtAudioOutput*> openOutput{nullptr};
+
+Failure cannotPlay(const Device& device, const Message& why) {
+  return Failure(Message::words("cannot play to '%1': %2; choose another device"),
+                 {device.name, why});
+}
+
+RtAudioOutput::RtAudioOutput(const Device& device, AudioFormat format, BlockRenderer& renderer)
+    : name_(device.name),
+      format_(format),
+      renderer_(renderer),
+      audio_(static_cast<RtAudio::Api>(device.system)),
+      deviceChannels_(std::min(device.channels, 2U)),
+      lastBlockSeen_(std::chrono::steady_clock::now()) {
+  if (deviceChannels_ < format.channels) throw cannotPlay(device, Message::words("it is mono"));
+  audio_.showWarnings(false);
+  openOutput = this;
+  try {
+    start(device);
+  } catch (const RtAudioError& error) {
+    openOutput = nullptr;
+    throw cannotPlay(device, error.getMessage());
+  }
+}
+
+void RtAudioOutput::start(const Device& device) {
+  RtAudio::StreamParameters parameters;
+  parameters.deviceId = device.index;
+  parameters.nChannels = deviceChannels_;
+  RtAudio::StreamOptions options;
+  options.flags = RTAUDIO_NONINTERLEAVED | RTAUDIO_SCHEDULE_REALTIME;
+  options.streamName = "aac-audition";
+  auto frames = preferredBlock;
+  audio_.openStream(
+      &parameters, nullptr, RTAUDIO_FLOAT32, format_.sampleRate, &frames,
+      [](void* output, void* /*input*/, unsigned count, double /*time*/,
+         RtAudioStreamStatus /*status*/, void* self) {
+        return static_cast<RtAudioOutput*>(self)->render(static_cast<float*>(output), count);
+      },
+      this, &options,
+      [](RtAudioError::Type type, const std::string& text) {
+        if (auto* const output = openOutput.load()) output->hearOfError(type, text);
+      });
+  audio_.startStream();
+  latency_ = static_cast<std::uint32_t>(std::max(audio_.getStreamLatency(), 0L));
+}
+
+RtAudioOutput::~RtAudioOutput() {
+  const QuietStandardError quiet;
+  try {
+    if (audio_.isStreamOpen()) audio_.closeStream();
+  } catch (const RtAudioError&) {
+    // The device has gone already.
+    failed_ = true;
+  }
+  openOutput = nullptr;
+}
+
+int RtAudioOutput::render(float* samples, unsigned frames) noexcept {
+  const std::array<float*, 2> planes = {samples, samples + (deviceChannels_ > 1 ? frames : 0)};
+  if (failed_.load(std::memory_order_relaxed)) {
+    // A device that has gone may ask for blocks without end; nothing of the file is lost to it.
+    std::fill_n(samples, std::size_t{frames} * deviceChannels_, 0.0F);
+    return 0;
+  }
+  renderer_.renderBlock(planes.data(), frames);
+  if (format_.channels == 1 && deviceChannels_ == 2) std::copy_n(planes[0], frames, planes[1]);
+  blocks_.fetch_add(1, std::memory_order_relaxed);
+  return 0;
+}
+
+void RtAudioOutput::hearOfError(RtAudioError::Type type, const std::string& text) {
+  const bool warns = type == RtAudioError::WARNING || type == RtAudioError::DEBUG_WARNING;
+  if (warns && ++warnings_ < manyWarnings) return;
+  const std::lock_guard lock(mutex_);
+  if (error_.empty()) error_ = text;
+  failed_ = true;
+}
+
+Message RtAudioOutput::failure() {
+  const auto now = std::chrono::steady_clock::now();
+  const auto blocks = blocks_.load(std::memory_order_relaxed);
+  if (blocks != blocksSeen_) {
+    blocksSeen_ = blocks;
+    lastBlockSeen_ = now;
+  }
+  if (!failed_ && now - lastBlockSeen_ < longestPause) return {};
+  const std::lock_guard lock(mutex_);
+  return error_.empty() ? Message::words("it has stopped") : Message(error_);
+}
+
+}  // namespace
+
+std::unique_ptr<Output> openDevice(const Device& device, AudioFormat format,
+                                   BlockRenderer& renderer) {
+  const QuietStandardError quiet;
+  return std::make_unique<RtAudioOutput>(device, format, renderer);
+}
+
+}  // namespace host

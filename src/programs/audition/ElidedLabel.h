@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+namespace host::audition {
+
+/// A line of text that ends in an ellipsis where it does not fit; the tool tip has all of it.
+class ElidedLabel : public QLabel {
+ public:
+  explicit ElidedLabel(Qt::TextElideMode mode, QWidget* parent = nullptr);
+
+  void setFullText(const QString& text);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  QSize minimumSizeHint() const override;
+
+ private:
+  Qt::TextElideMode mode_;
+};
+
+}  // namespace host::audition

@@ -1,0 +1,126 @@
+#include <QApplication>
+#include <QTimer>
+#include <array>
+#include <exception>
+#include <functional>
+#include <vector>
+
+#include "converter/unit/ConverterUnit.h"
+#include "host/messages/Failure.h"
+#include "host/unit/CarriedSetting.h"
+#include "programs/audition/Report.h"
+#include "programs/audition/Run.h"
+#include "programs/audition/Words.h"
+
+namespace host::audition {
+namespace {
+
+constexpr std::uint32_t kBlockFrames = 1024;
+/// Between two turns of the event loop: half a second of audio or so.
+constexpr int kBlocksPerTurn = 20;
+/// The view polls its meters every 75 ms: long enough for the last readings to show.
+constexpr int kSettlingMilliseconds = 250;
+constexpr int kRefreshMilliseconds = 50;
+constexpr int kRestingMilliseconds = 10;
+
+/// Renders block after block while the event loop turns.
+class Pump {
+ public:
+  Pump(Session& session, Recorder* recorder) : session_(session), recorder_(recorder) {
+    session.player().setOffline(true);
+  }
+
+  /// False once everything has been rendered.
+  bool turn() {
+    auto& player = session_.player();
+    const std::array<float*, 2> planes = {samples_.data(), samples_.data() + kBlockFrames};
+    for (int block = 0; block < kBlocksPerTurn && !player.isFinished(); ++block) {
+      if (recorder_ != nullptr) recorder_->waitForRoom(kBlockFrames);
+      player.renderBlock(planes.data(), kBlockFrames);
+    }
+    return !player.isFinished();
+  }
+
+ private:
+  Session& session_;
+  Recorder* recorder_;
+  std::vector<float> samples_ = std::vector<float>(std::size_t{kBlockFrames} * 2);
+};
+
+/// Lets the application run, calling `work` every so many milliseconds, until it says that it is
+/// done or the user ends the program.
+void turnWhile(const std::function<bool()>& work, const bool& interrupted, int milliseconds = 0) {
+  std::exception_ptr error;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    try {
+      if (!interrupted && work()) return;
+    } catch (...) {
+      error = std::current_exception();
+    }
+    timer.stop();
+    QApplication::exit();
+  });
+  timer.start(milliseconds);
+  QApplication::exec();
+  if (error) std::rethrow_exception(error);
+}
+
+void settle(const bool& interrupted) {
+  if (interrupted) return;
+  QTimer::singleShot(kSettlingMilliseconds, [] { QApplication::exit(); });
+  QApplication::exec();
+}
+
+void requireDevice(const std::optional<std::string>& name) {
+  if (name && *name != "none") static_cast<void>(requiredDevice(outputDevices(), *name));
+}
+
+}  // namespace
+
+int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
+  // Nothing sounds, but a wrong name should not wait until somebody listens.
+  requireDevice(options.device);
+  auto file = openedForPlaying(*options.file, options.channels);
+  Audition audition(options, std::move(files.record), std::nullopt);
+  // A picture shows the whole waveform.
+  audition.setAnalysing(files.screenshot != nullptr);
+  audition.open(std::move(file));
+  if (options.seconds) limitLength(audition, *options.seconds);
+  bool interrupted = false;
+  const auto listening = signals.listen([&] {
+    interrupted = true;
+    QApplication::exit();
+  });
+  audition.window().show();
+  QTimer refresh;
+  QObject::connect(&refresh, &QTimer::timeout, [&] { audition.refresh(); });
+  refresh.start(kRefreshMilliseconds);
+
+  Pump pump(*audition.session(), audition.recorder());
+  audition.session()->player().play();
+  turnWhile([&] { return pump.turn(); }, interrupted);
+  // The encoder is ahead of what was heard: its bit rate counts when it has come to rest, so that
+  // equal runs give equal readings.
+  audition.session()->unit().waitForCodec();
+  if (files.screenshot) {
+    const auto goesOn = [&] {
+      audition.refresh();
+      return audition.isAnalysing();
+    };
+    turnWhile(goesOn, interrupted, kRestingMilliseconds);
+    settle(interrupted);
+  }
+  if (interrupted) throw Failure(Message::words("interrupted; nothing was written"));
+
+  refresh.stop();
+  audition.refresh();
+  audition.finish();
+  const auto readings = readingsAfter(audition);
+  if (const auto carried = carriedOtherwise(&audition.session()->unit())) warn(*carried);
+  if (files.screenshot) writeScreenshot(audition.window(), *files.screenshot);
+  say(options.json ? asJson(readings) + "\n" : asText(readings));
+  return 0;
+}
+
+}  // namespace host::audition

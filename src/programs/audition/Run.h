@@ -1,0 +1,15 @@
+#pragma once
+
+#include "programs/audition/CommandLine.h"
+#include "programs/audition/OutputFiles.h"
+#include "programs/audition/TerminationSignals.h"
+
+namespace host::audition {
+
+/// Runs the program with its window until it is closed. Gives the exit status; throws `Failure`.
+int runWithWindow(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals);
+
+/// Runs the file off screen as fast as it goes. Gives the exit status; throws `Failure`.
+int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals);
+
+}  // namespace host::audition

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QWidget>
+
+#include "programs/audition/AnalysisIndicator.h"
+#include "programs/audition/ElidedLabel.h"
+#include "programs/audition/PlayButton.h"
+#include "programs/audition/TimeDisplay.h"
+#include "programs/audition/WaveformView.h"
+
+namespace host::audition {
+
+/// The rows above the view: what plays and to which device, the waveform, and where it is.
+class TransportBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit TransportBar(QWidget* parent = nullptr);
+
+  void setFileName(const QString& name);
+  void setTransportEnabled(bool enabled);
+  void setOpenEnabled(bool enabled);
+  void setPlaying(bool playing);
+  void showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate);
+  /// The loop that there is, and whether it is in use.
+  void setLoop(const std::optional<LoopRange>& loop, bool isOn, std::uint32_t sampleRate);
+  void setDeviceName(const QString& name);
+  /// Filled by its `aboutToShow`.
+  QMenu* deviceMenu() { return deviceMenu_; }
+  WaveformView& waveform() { return *waveform_; }
+  AnalysisIndicator& analysis() { return *analysis_; }
+
+ Q_SIGNALS:
+  void openClicked();
+  void playClicked();
+  void loopToggled();
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void layOut();
+  void showLoopState();
+
+  QPushButton* open_;
+  ElidedLabel* file_;
+  QPushButton* device_;
+  QMenu* deviceMenu_;
+  WaveformView* waveform_;
+  PlayButton* play_;
+  TimeDisplay* time_;
+  QLabel* total_;
+  AnalysisIndicator* analysis_;
+  QPushButton* loop_;
+  bool loopShines_ = false;
+};
+
+}  // namespace host::audition

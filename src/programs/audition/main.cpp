@@ -1,0 +1,70 @@
+#include <QIcon>
+#include <clocale>
+#include <cstdlib>
+#include <exception>
+
+#include "host/messages/Failure.h"
+#include "programs/audition/Application.h"
+#include "programs/audition/CommandLine.h"
+#include "programs/audition/Languages.h"
+#include "programs/audition/Run.h"
+#include "programs/audition/ToolkitMessages.h"
+#include "programs/audition/Words.h"
+
+namespace {
+
+bool hasDisplay() {
+  for (const char* const name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+    if (!qEnvironmentVariableIsEmpty(name)) return true;
+  }
+  return false;
+}
+
+void choosePlatform(bool headless) {
+  if (headless && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  if (!hasDisplay()) {
+    throw host::Failure(
+        host::Message::words("there is no display to open a window on; add --headless FILE"));
+  }
+}
+
+int run(const host::AuditionOptions& options, const char* program) {
+  choosePlatform(options.headless);
+  // First, so that whatever is claimed is given up again.
+  host::audition::TerminationSignals signals;
+  auto files = host::audition::claimedOutputFiles(options);
+  // The toolkit's own options are not this program's: it only gets its name.
+  int count = 1;
+  char* arguments[] = {const_cast<char*>(program), nullptr};
+  host::audition::tameToolkitMessages();
+  host::audition::Application application(count, arguments);
+  host::audition::speakLanguageOf(QLocale(), application);
+  QApplication::setApplicationName("aac-audition");
+  QApplication::setDesktopFileName("aac-audition");
+  QApplication::setWindowIcon(QIcon::fromTheme("aac-audition", QIcon(":/icons/aac-audition.svg")));
+  // Numbers for machines keep their point whatever the user's language.
+  std::setlocale(LC_NUMERIC, "C");
+  return options.headless ? host::audition::runHeadless(options, std::move(files), signals)
+                          : host::audition::runWithWindow(options, std::move(files), signals);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const auto parsed = host::parsedAuditionArguments(argc, argv);
+    if (const auto* const help = std::get_if<host::HelpText>(&parsed)) {
+      host::audition::say(help->text);
+      return EXIT_SUCCESS;
+    }
+    return run(std::get<host::AuditionOptions>(parsed), argv[0]);
+  } catch (const host::UsageError& error) {
+    host::audition::complain(std::string(error.what()) + " (aac-audition --help tells more)");
+    return 2;
+  } catch (const std::exception& error) {
+    host::audition::complain(error.what());
+    return EXIT_FAILURE;
+  }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "host/unit/EncoderSetting.h"
+
+namespace host::measure {
+
+/// An encoder setting, chosen by itself or as a preset.
+struct EncoderChoice {
+  std::optional<std::uint32_t> preset;
+  EncoderSetting setting;
+};
+
+/// plus, 128k, streaming or high. Throws `UsageError`.
+EncoderChoice presetChoice(std::string_view name);
+/// "FORMAT,STRATEGY,RATE". Throws `UsageError`.
+EncoderChoice settingChoice(std::string_view text);
+/// All presets in their order.
+std::vector<EncoderChoice> everyPreset();
+
+/// The same setting twice would only be measured twice.
+void addUnlessThere(std::vector<EncoderChoice>& choices, const EncoderChoice& choice);
+
+/// Throws `Failure` when the unit does not do it.
+void apply(const EncoderChoice& choice, AudioUnit unit);
+
+}  // namespace host::measure

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "programs/measure/Job.h"
+
+namespace host::measure {
+
+/// The row as one JSON object on one line, without a line end: that of the readings, and of the
+/// trim where there is one.
+std::string asJson(const Row& row);
+
+}  // namespace host::measure

@@ -1,0 +1,10 @@
+#include "skins/appkit/Exceptions.h"
+
+NSException* Velk_exceptionOf(void (*work)(void* context), void* context) {
+  @try {
+    work(context);
+  } @catch (NSException* exception) {
+    return exception;
+  }
+  return nil;
+}

@@ -1,0 +1,138 @@
+#include "skins/appkit/FoundationNotificationCenter.h"
+
+#include <exception>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "skins/appkit/ActionTarget.h"
+#include "skins/appkit/Strings.h"
+
+using Deliver = std::function<void(const ui::Notification&)>;
+
+namespace ui::appkit {
+
+namespace {
+
+/// Both ways between the core's objects and those that stand for them.
+class Representatives {
+ public:
+  void set(const void* object, id native) {
+    tokens_.erase(object);
+    if (native != nil) {
+      natives_[object] = native;
+    } else {
+      natives_.erase(object);
+    }
+  }
+
+  id native(const void* object) {
+    if (object == nullptr) {
+      return nil;
+    }
+    const auto found = natives_.find(object);
+    if (found != natives_.end()) {
+      return found->second;
+    }
+    // Only its identity counts, so there has to be one of it.
+    auto& token = tokens_[object];
+    if (token.get() == nil) {
+      token = Retained<id>([NSValue valueWithPointer:object]);
+    }
+    return token.get();
+  }
+
+  const void* object(id native) const {
+    for (const auto& [object, representative] : natives_) {
+      if (representative == native) {
+        return object;
+      }
+    }
+    return [native isKindOfClass:[NSValue class]] ? [native pointerValue] : nullptr;
+  }
+
+ private:
+  std::map<const void*, id> natives_;
+  std::map<const void*, Retained<id>> tokens_;
+};
+
+Representatives& representatives() {
+  // Never destroyed: views may outlive every static object.
+  static Representatives& all = *new Representatives;
+  return all;
+}
+
+/// What an observer has thrown during the innermost post. It has to pass the centre by: that is not
+/// made for exceptions of C++.
+std::exception_ptr& failure() {
+  static std::exception_ptr exception;
+  return exception;
+}
+
+void receive(NSNotification* notification, const Deliver& deliver) {
+  if (failure()) {
+    return;
+  }
+  const std::string name = utf8([notification name]);
+  try {
+    deliver({name, representatives().object([notification object])});
+  } catch (...) {
+    failure() = std::current_exception();
+  }
+}
+
+}  // namespace
+
+void representObject(const void* object, id native) {
+  representatives().set(object, native);
+}
+
+id nativeObject(const void* object) {
+  return representatives().native(object);
+}
+
+class FoundationNotificationCenter::Observers {
+ public:
+  // Shared with the deliveries under way.
+  std::multimap<const void*, std::shared_ptr<OwnedTarget>> registrations;
+};
+
+FoundationNotificationCenter::FoundationNotificationCenter()
+    : observers_(std::make_unique<Observers>()) {}
+
+FoundationNotificationCenter::~FoundationNotificationCenter() = default;
+
+void FoundationNotificationCenter::addObserver(const void* observer, std::string_view name,
+                                               const void* object, Deliver deliver) {
+  auto target = std::make_shared<OwnedTarget>([deliver = std::move(deliver)](id notification) {
+    receive(static_cast<NSNotification*>(notification), deliver);
+  });
+  [[NSNotificationCenter defaultCenter] addObserver:target->get()
+                                           selector:@selector(perform:)
+                                               name:nsString(name)
+                                             object:nativeObject(object)];
+  observers_->registrations.emplace(observer, std::move(target));
+}
+
+void FoundationNotificationCenter::removeObserver(const void* observer) {
+  std::vector<std::shared_ptr<OwnedTarget>> removed;
+  const auto [first, last] = observers_->registrations.equal_range(observer);
+  for (auto next = first; next != last; ++next) {
+    removed.push_back(next->second);
+  }
+  observers_->registrations.erase(first, last);
+  for (const auto& target : removed) {
+    [[NSNotificationCenter defaultCenter] removeObserver:target->get()];
+  }
+}
+
+void FoundationNotificationCenter::post(std::string_view name, const void* object) {
+  const std::exception_ptr outer = std::exchange(failure(), nullptr);
+  [[NSNotificationCenter defaultCenter] postNotificationName:nsString(name)
+                                                      object:nativeObject(object)];
+  if (const std::exception_ptr thrown = std::exchange(failure(), outer)) {
+    std::rethrow_exception(thrown);
+  }
+}
+
+}  // namespace ui::appkit

@@ -1,0 +1,58 @@
+#include "skins/appkit/bundle/Velk_AUAACConverterFactory.h"
+
+#include <type_traits>
+
+#include "skins/appkit/Adapter.h"
+#include "skins/appkit/AppKitInterfaceLoader.h"
+#include "skins/appkit/AppKitView.h"
+#include "skins/appkit/FoundationServices.h"
+#include "skins/appkit/Strings.h"
+#include "skins/appkit/bundle/InterfaceClasses.h"
+#include "view/factory/Velk_AUAACConverterFactory.h"
+
+static_assert(std::is_same_v<AudioUnit, audio_unit::Unit*>);
+
+using ui::appkit::AppKitInterfaceLoader;
+using ui::appkit::AppKitView;
+
+@implementation Velk_AUAACConverterFactory
+
+@synthesize uiFreshlyLoadedView;
+
+- (instancetype)init {
+  self = [super init];
+  if (self != nil) {
+    ui::appkit::useFoundationServices();
+    _factory = new velk::Velk_AUAACConverterFactory(
+        std::make_unique<AppKitInterfaceLoader>(AppKitInterfaceLoader::Files{
+            [NSBundle bundleForClass:[self class]],
+            self,
+            @"uiFreshlyLoadedView",
+            {{"view", [Velk_AUAACConverterCustomView class]},
+             {"auditionController", [Velk_AACEncodingViewAuditionController class]},
+             {"listeningTestController", [Velk_AACEncodingViewListeningTestController class]},
+             {"settingsController", [Velk_AACEncodingViewSettingsController class]},
+             {"keyController", [Velk_AACEncodingViewKeyController class]}}}));
+  }
+  return self;
+}
+
+- (void)dealloc {
+  delete _factory;
+  [super dealloc];
+}
+
+- (unsigned)interfaceVersion {
+  return _factory->interfaceVersion();
+}
+
+- (NSString*)description {
+  return ui::appkit::nsString(_factory->description());
+}
+
+- (NSView*)uiViewForAudioUnit:(AudioUnit)unit withSize:(NSSize)size {
+  auto view = _factory->uiViewForAudioUnit(unit, ui::appkit::sizeOf(size));
+  return view ? AppKitView::handOver(std::move(view)) : nil;
+}
+
+@end

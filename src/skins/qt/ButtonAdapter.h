@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include "skins/qt/Adapter.h"
+
+namespace ui::qt {
+
+/// A push button; one that is checkable is an on/off button or a check box. Its dynamic property
+/// `tag` is its tag.
+class ButtonAdapter final : public Adapter<Button, QAbstractButton>, public ActionSource {
+ public:
+  explicit ButtonAdapter(QAbstractButton& button);
+
+  int state() const override;
+  void setState(int state) override;
+  void performClick() override;
+  int tag() const override;
+  void setAction(Action action) override;
+
+ private:
+  Action action_;
+};
+
+}  // namespace ui::qt

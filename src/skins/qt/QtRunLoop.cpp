@@ -1,0 +1,54 @@
+#include "skins/qt/QtRunLoop.h"
+
+#include <QTimer>
+#include <cmath>
+#include <utility>
+
+#include "ui/Log.h"
+
+namespace ui::qt {
+
+namespace {
+
+class RepeatingTimer final : public Timer {
+ public:
+  RepeatingTimer(double interval, std::function<void()> fire) {
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.setInterval(static_cast<int>(std::lround(interval * 1000.0)));
+    // The work is copied for the call: it may destroy this timer.
+    QObject::connect(&timer_, &QTimer::timeout,
+                     [fire = std::move(fire)] { guarded(std::function<void()>(fire)); });
+    timer_.start();
+  }
+
+  void addToMode(RunLoopMode /*mode*/) override {}
+  void invalidate() override { timer_.stop(); }
+
+ private:
+  QTimer timer_;
+};
+
+class Later final : public Deferred {
+ public:
+  explicit Later(std::function<void()> work) {
+    timer_.setSingleShot(true);
+    QObject::connect(&timer_, &QTimer::timeout,
+                     [work = std::move(work)] { guarded(std::function<void()>(work)); });
+    timer_.start(0);
+  }
+
+ private:
+  QTimer timer_;
+};
+
+}  // namespace
+
+std::unique_ptr<Timer> QtRunLoop::scheduledTimer(double interval, std::function<void()> fire) {
+  return std::make_unique<RepeatingTimer>(interval, std::move(fire));
+}
+
+std::unique_ptr<Deferred> QtRunLoop::performLater(std::function<void()> work) {
+  return std::make_unique<Later>(std::move(work));
+}
+
+}  // namespace ui::qt

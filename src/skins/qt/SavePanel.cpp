@@ -1,0 +1,58 @@
+#include "skins/qt/SavePanel.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPointer>
+#include <QStandardPaths>
+
+namespace ui::qt {
+
+namespace {
+
+/// Asks for a file of one type. The toolkit's own dialog takes what follows a dot for a type of the
+/// user's: "mix v1.2" would stay without one.
+class TypedFileDialog final : public QFileDialog {
+ public:
+  TypedFileDialog(QWidget* parent, const QString& title, const QString& folder, const QString& type)
+      : QFileDialog(parent, title, folder, "*." + type), ending_("." + type) {
+    setAcceptMode(QFileDialog::AcceptSave);
+    setDefaultSuffix(type);
+  }
+
+  void accept() override {
+    const QString file = selectedFiles().value(0);
+    if (!file.isEmpty() && !file.endsWith(ending_, Qt::CaseInsensitive) &&
+        !QFileInfo(file).isDir()) {
+      selectFile(file + ending_);
+    }
+    // Asks before it takes a file that exists.
+    QFileDialog::accept();
+  }
+
+ private:
+  QString ending_;
+};
+
+}  // namespace
+
+std::optional<std::filesystem::path> runSavePanel(const SavePanelTexts& texts, QWidget& parent) {
+  const QString type = QString::fromStdString(texts.allowedFileType);
+  // The parent may be destroyed while the dialog runs, and takes the dialog with it.
+  const QPointer<QFileDialog> dialog = new TypedFileDialog(
+      &parent, QString::fromStdString(texts.title),
+      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), type);
+  dialog->selectFile(QString::fromStdString(texts.proposedName));
+
+  std::optional<std::filesystem::path> place;
+  if (dialog->exec() == QDialog::Accepted && dialog != nullptr &&
+      !dialog->selectedFiles().isEmpty()) {
+    place = dialog->selectedFiles().constFirst().toStdString();
+    if (!place->has_extension()) {
+      *place += "." + texts.allowedFileType;
+    }
+  }
+  delete dialog;
+  return place;
+}
+
+}  // namespace ui::qt

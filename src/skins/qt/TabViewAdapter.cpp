@@ -1,0 +1,62 @@
+#include "skins/qt/TabViewAdapter.h"
+
+namespace ui::qt {
+
+TabViewAdapter::TabViewAdapter(QTabWidget& tabs) : Adapter(tabs), tabs_(&tabs) {
+  makeItems(tabs.count());
+  selected_ = tabs.currentIndex();
+  QObject::connect(&tabs, &QTabWidget::currentChanged, receiver(),
+                   [this](int index) { userSelected(index); });
+  // A click on the tab that is selected already changes nothing in Qt, yet the delegate is asked.
+  QObject::connect(&tabs, &QTabWidget::tabBarClicked, receiver(), [this](int index) {
+    if (index >= 0 && index == selected_) {
+      guarded([&] { selectItemAtIndex(index); });
+    }
+  });
+}
+
+TabViewAdapter::TabViewAdapter(QStackedWidget& pages) : Adapter(pages), pages_(&pages) {
+  makeItems(pages.count());
+  selected_ = pages.currentIndex();
+}
+
+int TabViewAdapter::indexOfSelectedItem() const {
+  return selected_;
+}
+
+void TabViewAdapter::selectItemAtIndex(int index) {
+  TabViewItem* item = itemAtIndex(index);
+  if (item == nullptr) {
+    return;
+  }
+  if (delegate_ != nullptr) {
+    if (!delegate_->shouldSelectTabViewItem(item)) {
+      return;
+    }
+    delegate_->willSelectTabViewItem(item);
+  }
+  selected_ = index;
+  showPage(index);
+}
+
+void TabViewAdapter::setDelegate(TabViewDelegate* delegate) {
+  delegate_ = delegate;
+}
+
+void TabViewAdapter::showPage(int index) {
+  if (tabs_ != nullptr) {
+    tabs_->setCurrentIndex(index);
+  } else {
+    pages_->setCurrentIndex(index);
+  }
+}
+
+void TabViewAdapter::userSelected(int index) {
+  if (index == selected_) {
+    return;
+  }
+  showPage(selected_);
+  guarded([&] { selectItemAtIndex(index); });
+}
+
+}  // namespace ui::qt

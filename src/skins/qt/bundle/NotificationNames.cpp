@@ -1,0 +1,22 @@
+#include <QString>
+
+#include "ui/Export.h"
+#include "view/main/Notifications.h"
+
+/// The names of the view's notifications as symbols of the bundle, in the toolkit's string type.
+#define EXPORT_NAME(constant)                  \
+  extern "C" UI_EXPORT const QString constant; \
+  const QString constant =                     \
+      QString::fromUtf8(velk::constant.data(), qsizetype(velk::constant.size()))
+
+EXPORT_NAME(monitorSourceActionPerformedNotification);
+EXPORT_NAME(monitorEncodedActionPerformedNotification);
+EXPORT_NAME(clearClipActionPerformedNotification);
+EXPORT_NAME(listeningTestMonitorSourceActionPerformedNotification);
+EXPORT_NAME(listeningTestMonitorAActionPerformedNotification);
+EXPORT_NAME(listeningTestMonitorBActionPerformedNotification);
+EXPORT_NAME(listeningTestChooseAActionPerformedNotification);
+EXPORT_NAME(listeningTestChooseBActionPerformedNotification);
+EXPORT_NAME(auAACSourceSelectionChangedNotification);
+EXPORT_NAME(auAACResetStatsNotification);
+EXPORT_NAME(auAACListeningTestStateChangedNotification);

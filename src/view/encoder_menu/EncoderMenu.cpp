@@ -1,0 +1,79 @@
+#include "view/encoder_menu/EncoderSetting.h"
+#include "view/encoder_menu/EncoderTexts.h"
+#include "view/main/Velk_AUAACConverterCustomView.h"
+
+/// The encoder menu: it names the unit's setting and keeps the custom settings that were seen.
+namespace velk {
+
+namespace {
+
+constexpr int kOndaraPlusIndex = 0;
+constexpr int kHighQualityTag = 4;
+/// Newest custom entry first, from here down to the fixed last item.
+constexpr int kFirstCustomIndex = 5;
+constexpr int kMostItems = 16;
+
+}  // namespace
+
+std::string Velk_AUAACConverterCustomView::stringForFormat(float format) const {
+  return formatName(format, toolkit_.bundle);
+}
+
+std::string Velk_AUAACConverterCustomView::stringForStrategy(float strategy) const {
+  return strategyName(strategy, toolkit_.bundle);
+}
+
+std::string Velk_AUAACConverterCustomView::stringForBitRate(float rate) const {
+  return bitRateText(rate, toolkit_.localization);
+}
+
+void Velk_AUAACConverterCustomView::updatePopup() {
+  if (isEncoderOndaraPlus()) {
+    encoderPopup->selectItemAtIndex(kOndaraPlusIndex);
+    return;
+  }
+  if (isEncoderHighQuality()) {
+    encoderPopup->selectItemAtIndex(encoderPopup->indexOfItemWithTag(kHighQualityTag));
+    return;
+  }
+  const float format = getFormat();
+  const float strategy = getStrategy();
+  const float rateQuality = getParameterValue(kConverterParam_RateQuality);
+  const ui::Dictionary setting = encoderSetting(format, strategy, rateQuality);
+  const int known = encoderPopup->indexOfItemWithRepresentedObject(setting);
+  if (known >= 0) {
+    encoderPopup->selectItemAtIndex(known);
+    return;
+  }
+
+  const bool isVBR = getStrategy() == kStrategy_VBR;
+  const std::string title =
+      settingTitle(format, strategy, rateQuality, isVBR, toolkit_.bundle, toolkit_.localization);
+  if (encoderPopup->numberOfItems() >= kMostItems) {
+    encoderPopup->removeItemAtIndex(encoderPopup->numberOfItems() - 2);
+  }
+  encoderPopup->insertItemWithTitle(title, kFirstCustomIndex);
+  if (ui::MenuItem* item = encoderPopup->itemAtIndex(kFirstCustomIndex)) {
+    item->setRepresentedObject(setting);
+    item->setAction([this](ui::Object* sender) { setCustomFormat(sender); });
+  }
+  encoderPopup->selectItemAtIndex(kFirstCustomIndex);
+}
+
+void Velk_AUAACConverterCustomView::setCustomFormat(ui::Object* sender) {
+  const auto* item = dynamic_cast<ui::MenuItem*>(sender);
+  if (item == nullptr || item->representedObject() == nullptr) {
+    return;
+  }
+  // A copy, since the item may leave the menu before the last value is written.
+  const ui::Dictionary setting = *item->representedObject();
+  setFormat(setting.at(kFormatEntry));
+  setStrategy(setting.at(kStrategyEntry));
+  setParameterValue(kConverterParam_RateQuality, setting.at(kRateQualityEntry));
+}
+
+std::string Velk_AUAACConverterCustomView::getEncoderName() const {
+  return encoderPopup->titleOfSelectedItem();
+}
+
+}  // namespace velk

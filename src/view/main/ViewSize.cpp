@@ -1,0 +1,37 @@
+#include "view/audition/Velk_AACEncodingViewAuditionController.h"
+#include "view/audition/ViewHeight.h"
+#include "view/main/Velk_AUAACConverterCustomView.h"
+
+/// The view has no free size: a size that somebody else asks for stands for a page or the details.
+namespace velk {
+
+namespace {
+
+constexpr int kListeningTestPage = 1;
+
+}  // namespace
+
+void Velk_AUAACConverterCustomView::changeHeight(double height) {
+  allowSizeChange = true;
+  setFrameSize({native_.frameSize().width, height});
+  allowSizeChange = false;
+}
+
+void Velk_AUAACConverterCustomView::setFrameSize(ui::Size size) {
+  if (allowSizeChange) {
+    native_.applyFrameSize(size);
+    return;
+  }
+  if (isTornDown()) {
+    return;
+  }
+  if (size.height == kListeningTestHeight) {
+    tabView->selectItemAtIndex(kListeningTestPage);
+    native_.applyFrameSize({size.width, kListeningTestHeight});
+  } else if (size.height > kCollapsedAuditionHeight) {
+    // Later, because the host is still in the middle of its own resizing.
+    pendingExpand_ = toolkit_.runLoop.performLater([this] { auditionController->expand(); });
+  }
+}
+
+}  // namespace velk

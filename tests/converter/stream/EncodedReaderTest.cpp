@@ -1,0 +1,114 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "converter/stream/EncodedReader.h"
+
+namespace {
+
+using converter::AudioBlock;
+using converter::kBlockFrames;
+using converter::Position;
+
+/// The worker's part is played by the test: its thread never starts.
+class Reader : public testing::Test {
+ protected:
+  /// A block whose samples are its positions plus one.
+  void deliver(Position position, Position begin) {
+    AudioBlock* block = worker_.encoded().claim();
+    ASSERT_NE(block, nullptr);
+    block->position = position;
+    block->begin = begin;
+    for (std::size_t i = 0; i < kBlockFrames; ++i) {
+      block->planes[0][i] = static_cast<float>(position + static_cast<Position>(i) + 1);
+    }
+    worker_.encoded().push();
+  }
+  void deliver(Position position) { deliver(position, position); }
+
+  /// Reads up to `end`; 0 stands for silence.
+  UInt32 readTo(Position end) {
+    std::vector<float> samples(static_cast<std::size_t>(end - position_), 99);
+    float* planes[] = {samples.data()};
+    const UInt32 missing =
+        reader_.read(position_, static_cast<UInt32>(samples.size()), planes, 1, false);
+    output_.insert(output_.end(), samples.begin(), samples.end());
+    position_ = end;
+    return missing;
+  }
+
+  void expectSignal(Position begin, Position end, bool isThere) {
+    for (Position i = begin; i < end; ++i) {
+      ASSERT_EQ(output_[static_cast<std::size_t>(i - kStart)],
+                isThere ? static_cast<float>(i + 1) : 0.0F)
+          << i;
+    }
+  }
+
+  static constexpr Position kStart = -3000;
+
+  converter::Worker worker_{{.sampleRate = 44100, .channels = 1, .maximumFrames = 512}, 8};
+  converter::EncodedReader reader_{worker_};
+  Position position_ = kStart;
+  std::vector<float> output_;
+};
+
+TEST_F(Reader, DoesNotWaitForAWorkerThatThereIsNot) {
+  // Something to do, and nobody to do it.
+  ASSERT_NE(worker_.source().claim(), nullptr);
+  worker_.source().push();
+  std::vector<float> samples(100, 99);
+  float* planes[] = {samples.data()};
+  EXPECT_EQ(reader_.read(0, 100, planes, 1, true), 100U);
+  EXPECT_EQ(samples, std::vector<float>(100, 0.0F));
+}
+
+TEST_F(Reader, DoesNotMissWhatIsBeforeTheFirstSample) {
+  EXPECT_EQ(readTo(0), 0U);
+  expectSignal(kStart, 0, false);
+}
+
+TEST_F(Reader, TakesBlocksByTheirPositions) {
+  deliver(-962, 0);
+  deliver(1086);
+  EXPECT_EQ(readTo(700), 0U);
+  EXPECT_EQ(readTo(3134), 0U);
+  expectSignal(kStart, 0, false);
+  expectSignal(0, 3134, true);
+}
+
+TEST_F(Reader, CountsWhatHasNotCome) {
+  deliver(-962, 0);
+  EXPECT_EQ(readTo(1500), 414U);
+  expectSignal(0, 1086, true);
+  expectSignal(1086, 1500, false);
+}
+
+TEST_F(Reader, DropsWhatComesTooLateAndKeepsTheRestInPlace) {
+  EXPECT_EQ(readTo(1500), 1500U);
+  deliver(-962, 0);
+  deliver(1086);
+  EXPECT_EQ(readTo(3134), 0U);
+  expectSignal(0, 1500, false);
+  expectSignal(1500, 3134, true);
+}
+
+TEST_F(Reader, CountsAGapBetweenTwoBlocks) {
+  deliver(-962, 0);
+  deliver(9278);
+  EXPECT_EQ(readTo(10000), 9278U - 1086U);
+  expectSignal(0, 1086, true);
+  expectSignal(1086, 9278, false);
+  expectSignal(9278, 10000, true);
+}
+
+TEST_F(Reader, CountsTheStretchBeforeABlockBegins) {
+  deliver(-962, 0);
+  deliver(1086, 3134);
+  deliver(3134, 4000);
+  EXPECT_EQ(readTo(5000), 4000U - 1086U);
+  expectSignal(1086, 4000, false);
+  expectSignal(4000, 5000, true);
+}
+
+}  // namespace

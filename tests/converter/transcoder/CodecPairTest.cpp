@@ -1,0 +1,63 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "PairSignal.h"
+#include "converter/codec/Encoder.h"
+
+namespace {
+
+using converter::Format;
+using converter::kBlockFrames;
+using converter::Position;
+using converter::Setting;
+
+constexpr converter::UnitFormat kUnit{.sampleRate = 44100, .channels = 2, .maximumFrames = 512};
+
+class Pair : public testing::TestWithParam<Format> {
+ protected:
+  Pair() {
+    setting_ = nearestSetting({static_cast<float>(GetParam()), 0, 9}, kUnit,
+                              converter::encoderAbilities());
+  }
+
+  /// The encoded signal from `start` to where the source ends, by a pair that began for it.
+  std::vector<float> encodedFrom(Position start) const {
+    return encodeFrom(setting_, kUnit, source_, start)[0];
+  }
+
+  /// Error against the source at [place, place + 512), dB; `encoded` begins at `begin`.
+  double errorAt(const std::vector<float>& encoded, Position begin, Position place) const {
+    double error = 0;
+    double power = 0;
+    for (Position i = place; i < place + 512; ++i) {
+      const double sample = source_[0][static_cast<std::size_t>(i)];
+      const double difference = encoded[static_cast<std::size_t>(i - begin)] - sample;
+      error += difference * difference;
+      power += sample * sample;
+    }
+    return 10 * std::log10(error / power);
+  }
+
+  static constexpr Position kFrames = 40 * Position{kBlockFrames};
+  const Signal source_ = smoothNoise(2, kFrames, 44100, 4000);
+  Setting setting_;
+};
+
+TEST_P(Pair, StartedAmidTheSignalIsAsGoodAsOneThatRanAllAlong) {
+  const std::vector<float> running = encodedFrom(0);
+  for (Position start = 20 * Position{kBlockFrames}; start < 21 * Position{kBlockFrames};
+       start += 256) {
+    EXPECT_LT(errorAt(encodedFrom(start), start, start), errorAt(running, 0, start) + 3) << start;
+  }
+}
+
+constexpr const char* kNames[] = {"Lc", "He", "HeV2"};
+
+INSTANTIATE_TEST_SUITE_P(Of, Pair, testing::Values(Format::lc, Format::he, Format::heV2),
+                         [](const auto& test) {
+                           return std::string(kNames[static_cast<int>(test.param)]);
+                         });
+
+}  // namespace

@@ -1,0 +1,196 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <stdexcept>
+#include <vector>
+
+#include "Signals.h"
+#include "contract/ConverterInterface.h"
+#include "converter/codec/Encoder.h"
+#include "converter/unit/AacConverter.h"
+
+namespace {
+
+using converter::Encoder;
+using converter::Setting;
+using converter::UnitFormat;
+
+constexpr UnitFormat kUnit{.sampleRate = 44100, .channels = 2, .maximumFrames = 512};
+
+/// Makes nothing of some frames.
+class FailingEncoder final : public Encoder {
+ public:
+  FailingEncoder(std::unique_ptr<Encoder> whole, int first, int count)
+      : whole_(std::move(whole)), first_(first), count_(count) {}
+
+  std::span<const std::uint8_t> encode(const float* const* planes) override {
+    const auto unit = whole_->encode(planes);
+    const int number = number_++;
+    if (number < first_ || number >= first_ + count_) return unit;
+    return {};
+  }
+  std::span<const std::uint8_t> configuration() const override { return whole_->configuration(); }
+  converter::CodecTiming timing() const override { return whole_->timing(); }
+
+ private:
+  std::unique_ptr<Encoder> whole_;
+  int first_;
+  int count_;
+  int number_ = 0;
+};
+
+/// A unit some or all of whose encoders do not open.
+class CodecFailure : public testing::Test {
+ protected:
+  CodecFailure()
+      : unit_(kUnit, [this](const Setting& setting, const UnitFormat& format) {
+          if (isRefused(setting)) throw std::runtime_error("no encoder today");
+          return openEncoder(setting, format);
+        }) {
+    const UInt32 one = 1;
+    unit_.setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &one,
+                      sizeof one);
+  }
+
+  template <typename Value>
+  Value property(AudioUnitPropertyID id) {
+    Value value{};
+    UInt32 size = sizeof value;
+    EXPECT_EQ(unit_.getProperty(id, kAudioUnitScope_Global, 0, &value, size), noErr);
+    return value;
+  }
+  UInt64 failures() { return property<UInt64>(converter::kConverterProperty_CodecFailures); }
+  UInt64 missed() { return property<UInt64>(converter::kConverterProperty_MissedFrames); }
+  UInt32 effectiveRate() {
+    return property<converter::EffectiveSetting>(converter::kConverterProperty_EffectiveSetting)
+        .bitRate;
+  }
+  void setRate(float index) {
+    unit_.setParameter(velk::kConverterParam_Strategy, kAudioUnitScope_Global, 0, 0, 0);
+    unit_.setParameter(velk::kConverterParam_RateQuality, kAudioUnitScope_Global, 0, index, 0);
+  }
+
+  Signal render(const Signal& input) {
+    Signal output = silence(2, input[0].size());
+    for (std::size_t at = 0; at + 500 <= input[0].size(); at += 500) {
+      const std::array<const float*, 2> in{input[0].data() + at, input[1].data() + at};
+      const std::array<float*, 2> out{output[0].data() + at, output[1].data() + at};
+      unit_.render(in.data(), out.data(), 500);
+    }
+    return output;
+  }
+
+  static constexpr std::uint32_t kNone = 2;
+  static constexpr std::uint32_t kAll = 1;
+
+  bool isRefused(const Setting& setting) const {
+    return refusedRate_ == kAll || refusedRate_ == setting.bitRate;
+  }
+
+  /// Of the settings whose encoder does not open, or none or all of them.
+  std::atomic<std::uint32_t> refusedRate_{kNone};
+  converter::AacConverter unit_;
+  const Signal input_ = music(2, 50000, 44100);
+};
+
+TEST_F(CodecFailure, IsNoneAsLongAsAllIsWell) {
+  render(input_);
+  EXPECT_EQ(failures(), 0U);
+}
+
+TEST_F(CodecFailure, InMidPlayLeavesTheOldCodecGoingAndShowsItsSetting) {
+  setRate(10);
+  render(input_);
+  refusedRate_ = 64000;
+  setRate(7);
+  EXPECT_EQ(effectiveRate(), 64000U) << "nothing has been tried yet";
+  const Signal output = render(input_);
+  EXPECT_EQ(failures(), 1U);
+  EXPECT_EQ(effectiveRate(), 128000U);
+  EXPECT_EQ(missed(), 0U);
+  EXPECT_GT(rms(output[0], 40000, 50000), 0.01);
+  float written = 0;
+  unit_.getParameter(velk::kConverterParam_RateQuality, kAudioUnitScope_Global, 0, written);
+  EXPECT_EQ(written, 7);
+}
+
+TEST_F(CodecFailure, IsForgottenWithTheNextSettingThatWorks) {
+  setRate(10);
+  render(input_);
+  refusedRate_ = 64000;
+  setRate(7);
+  render(input_);
+  setRate(12);
+  render(input_);
+  EXPECT_EQ(effectiveRate(), 192000U);
+  refusedRate_ = kNone;
+  setRate(7);
+  render(input_);
+  EXPECT_EQ(effectiveRate(), 64000U);
+  EXPECT_EQ(failures(), 1U);
+}
+
+TEST_F(CodecFailure, AfterAResetIsSilenceThatIsCountedUntilACodecOpens) {
+  render(input_);
+  unit_.reset();
+  refusedRate_ = kAll;
+  const Signal silent = render(input_);
+  EXPECT_EQ(rms(silent[0], 0, 50000), 0);
+  EXPECT_GT(failures(), 1U) << "every block tries again";
+  const UInt64 missedAtFirst = missed();
+  EXPECT_EQ(missedAtFirst, 50000 - unit_.latency());
+  refusedRate_ = kNone;
+  const Signal output = render(input_);
+  // What the worker was given before stays silent, and the rest is in its place. It may have been
+  // some blocks behind.
+  const std::size_t latency = unit_.latency();
+  const auto codecBegin = static_cast<std::size_t>(missed() - missedAtFirst);
+  EXPECT_GT(codecBegin, 0U);
+  EXPECT_LE(codecBegin, latency + 2048);
+  EXPECT_EQ(rms(output[0], 0, codecBegin), 0);
+  Signal delayed = silence(2, 50000);
+  std::copy(input_[0].begin(), input_[0].end() - static_cast<std::ptrdiff_t>(latency),
+            delayed[0].begin() + static_cast<std::ptrdiff_t>(latency));
+  EXPECT_LT(residual(delayed[0], output[0], latency + 4096, 50000), -10);
+}
+
+TEST(CodecFailureOfAUnit, AtTheStartIsThrown) {
+  EXPECT_THROW(
+      converter::AacConverter(kUnit,
+                              [](const Setting&, const UnitFormat&) -> std::unique_ptr<Encoder> {
+                                throw std::runtime_error("no encoder today");
+                              }),
+      std::runtime_error);
+}
+
+TEST(CodecFailureOfAnAccessUnit, IsCountedAndLeavesTheRestInItsPlace) {
+  const auto render = [](converter::AacConverter& unit, const Signal& input) {
+    const UInt32 one = 1;
+    unit.setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &one, sizeof one);
+    Signal output = silence(2, input[0].size());
+    for (std::size_t at = 0; at + 500 <= input[0].size(); at += 500) {
+      const std::array<const float*, 2> in{input[0].data() + at, input[1].data() + at};
+      const std::array<float*, 2> out{output[0].data() + at, output[1].data() + at};
+      unit.render(in.data(), out.data(), 500);
+    }
+    return output;
+  };
+  const Signal input = music(2, 80000, 44100);
+  converter::AacConverter whole(kUnit);
+  converter::AacConverter failing(kUnit, [](const Setting& setting, const UnitFormat& unit) {
+    return std::make_unique<FailingEncoder>(openEncoder(setting, unit), 20, 3);
+  });
+  const Signal expected = render(whole, input);
+  const Signal output = render(failing, input);
+  UInt64 failures = 0;
+  UInt32 size = sizeof failures;
+  failing.getProperty(converter::kConverterProperty_CodecFailures, kAudioUnitScope_Global, 0,
+                      &failures, size);
+  EXPECT_EQ(failures, 3U);
+  EXPECT_LT(residual(expected[0], output[0], 60000, 80000), -60);
+  EXPECT_GT(residual(expected[0], output[0], 15000, 60000), -30) << "nothing was lost";
+}
+
+}  // namespace

@@ -1,0 +1,45 @@
+#include "skins/appkit/Application.h"
+
+#import <AppKit/AppKit.h>
+
+#include <cstdio>
+#include <initializer_list>
+
+namespace appkit_test {
+
+namespace {
+
+/// What takes the process down should say so.
+void sayUncaught(NSException* exception) {
+  std::fprintf(stderr, "Uncaught exception %s: %s\n", [[exception name] UTF8String],
+               [[exception reason] UTF8String]);
+}
+
+/// With its own choice the toolkit does not find its font in every start, and it takes a size that
+/// nobody has set from wherever its processor left a number.
+void chooseFonts() {
+  NSMutableDictionary* defaults = [NSMutableDictionary dictionary];
+  for (NSString* font :
+       {@"NSFont", @"NSUserFont", @"NSControlContentFont", @"NSLabelFont", @"NSMenuFont",
+        @"NSMessageFont", @"NSPaletteFont", @"NSTitleBarFont", @"NSToolTipsFont"}) {
+    [defaults setObject:@"DejaVuSans" forKey:font];
+    [defaults setObject:@"12" forKey:[font stringByAppendingString:@"Size"]];
+  }
+  [defaults setObject:@"DejaVuSans-Bold" forKey:@"NSBoldFont"];
+  [defaults setObject:@"12" forKey:@"NSBoldFontSize"];
+  [[NSUserDefaults standardUserDefaults] registerDefaults:defaults];
+}
+
+}  // namespace
+
+Application::Application() : pool_([[NSAutoreleasePool alloc] init]) {
+  NSSetUncaughtExceptionHandler(sayUncaught);
+  chooseFonts();
+  [NSApplication sharedApplication];
+}
+
+Application::~Application() {
+  [static_cast<NSAutoreleasePool*>(pool_) drain];
+}
+
+}  // namespace appkit_test

@@ -1,0 +1,59 @@
+#import <AppKit/AppKit.h>
+#include <gtest/gtest.h>
+
+#include "skins/appkit/MainThread.h"
+
+/// Where GNUstep differs from the system that the skin is written for. A test that fails here says
+/// that a difference is gone, and with it the reason for something that is left out or done
+/// otherwise.
+
+@interface VelkTest_Moving : NSView {
+  int _removals;
+}
+- (int)removals;
+@end
+
+@implementation VelkTest_Moving
+
+- (void)viewWillMoveToSuperview:(NSView*)superview {
+  _removals += superview == nil ? 1 : 0;
+}
+
+- (int)removals {
+  return _removals;
+}
+
+@end
+
+namespace {
+
+using appkit_test::onMain;
+
+TEST(GNUstep, RemovesAViewFromItsSuperviewBeforeItAddsItToAnother) {
+  onMain([] {
+    NSView* one = [[[NSView alloc] init] autorelease];
+    NSView* other = [[[NSView alloc] init] autorelease];
+    VelkTest_Moving* view = [[[VelkTest_Moving alloc] init] autorelease];
+    [one addSubview:view];
+    const int before = [view removals];
+    [other addSubview:view];
+    EXPECT_EQ([view removals] - before, 1)
+        << "Teardown.AViewThatMovesToAnotherSuperviewGoesOnAsBefore can be played now";
+  });
+}
+
+TEST(GNUstep, OpensNoHelpBooks) {
+  onMain([] {
+    // The tests' stand-in is all that there is.
+    EXPECT_FALSE([NSHelpManager instancesRespondToSelector:@selector(registerBooksInBundle:)]);
+  });
+}
+
+TEST(GNUstep, ShowsASheetOnlyWhileTheCallLasts) {
+  onMain([] {
+    EXPECT_FALSE([NSWindow
+        instancesRespondToSelector:NSSelectorFromString(@"beginSheet:completionHandler:")]);
+  });
+}
+
+}  // namespace

@@ -1,0 +1,97 @@
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QWidget>
+#include <filesystem>
+#include <memory>
+
+#include "ui/AUCocoaUIBase.h"
+#include "view/fakes/FakeConverter.h"
+#include "view/fakes/LogCapture.h"
+
+namespace {
+
+/// The bundle as a host has it: loaded once, and kept.
+void* bundle() {
+  static void* const handle = dlopen(VELK_BUNDLE "/Velk_NordaAACConverter", RTLD_NOW | RTLD_LOCAL);
+  return handle;
+}
+
+std::unique_ptr<AUCocoaUIBase> instantiate(const char* className) {
+  const auto entry =
+      reinterpret_cast<VelkInstantiateClassFunction>(dlsym(bundle(), kVelkInstantiateClassSymbol));
+  return std::unique_ptr<AUCocoaUIBase>(entry != nullptr ? entry(className) : nullptr);
+}
+
+TEST(Bundle, GivesItsFactoryByTheClassName) {
+  ASSERT_NE(bundle(), nullptr) << dlerror();
+  const auto factory = instantiate("Velk_AUAACConverterFactory");
+  ASSERT_NE(factory, nullptr);
+  EXPECT_EQ(factory->interfaceVersion(), 0U);
+  EXPECT_EQ(factory->description(), "Norda AAC Dravo Converter");
+}
+
+TEST(Bundle, KnowsNoOtherClass) {
+  ASSERT_NE(bundle(), nullptr) << dlerror();
+  EXPECT_EQ(instantiate("Velk_AUAACConverterCustomView"), nullptr);
+  EXPECT_EQ(instantiate(""), nullptr);
+  EXPECT_EQ(instantiate(nullptr), nullptr);
+}
+
+TEST(Bundle, FindsItsResourcesBesideItself) {
+  ASSERT_NE(bundle(), nullptr) << dlerror();
+  fakes::CallLog calls;
+  fakes::FakeConverter unit(calls);
+  const fakes::LogCapture log(calls);
+  const auto factory = instantiate("Velk_AUAACConverterFactory");
+  ASSERT_NE(factory, nullptr);
+  QWidget window;
+  auto view = factory->uiViewForAudioUnit(&unit, {0, 0});
+  ASSERT_NE(view, nullptr) << testing::PrintToString(log.lines());
+  auto* widget = dynamic_cast<QWidget*>(view.get());
+  ASSERT_NE(widget, nullptr);
+  EXPECT_EQ(view->frameSize(), (ui::Size{560, 195}));
+  widget->setParent(&window);
+  static_cast<void>(view.release());
+}
+
+TEST(Bundle, HoldsItsResources) {
+  for (const char* file : {"Velk_NordaAACConverter.ui", "en.lproj/AUDravoAACStrings.strings",
+                           "de.lproj/AUDravoAACStrings.strings",
+                           "fr.lproj/AUDravoAACStrings.strings", "help/index.html"}) {
+    EXPECT_TRUE(
+        std::filesystem::is_regular_file(std::filesystem::path(VELK_BUNDLE) / "Resources" / file))
+        << file;
+  }
+}
+
+TEST(Bundle, ExportsTheNamesOfItsNotifications) {
+  ASSERT_NE(bundle(), nullptr) << dlerror();
+  const std::pair<const char*, std::string_view> names[] = {
+      {"monitorSourceActionPerformedNotification", "aac_monitorSourceActionPerformedNotification"},
+      {"monitorEncodedActionPerformedNotification",
+       "aac_monitorEncodedActionPerformedNotification"},
+      {"clearClipActionPerformedNotification", "aac_clearClipActionPerformedNotification"},
+      {"listeningTestMonitorSourceActionPerformedNotification",
+       "aac_listeningTestMonitorSourceActionPerformedNotification"},
+      {"listeningTestMonitorAActionPerformedNotification",
+       "aac_monitorAActionPerformedNotification"},
+      {"listeningTestMonitorBActionPerformedNotification",
+       "aac_monitorBActionPerformedNotification"},
+      {"listeningTestChooseAActionPerformedNotification",
+       "aac_listeningTestChooseAActionPerformedNotification"},
+      {"listeningTestChooseBActionPerformedNotification",
+       "aac_listeningTestChooseBActionPerformedNotification"},
+      {"auAACSourceSelectionChangedNotification", "auAACSourceSelectionChangedNotification"},
+      {"auAACResetStatsNotification", "auAACResetStatsNotification"},
+      {"auAACListeningTestStateChangedNotification", "auAACListeningTestStateChangedNotification"}};
+  for (const auto& [symbol, text] : names) {
+    const auto* name = static_cast<const QString*>(dlsym(bundle(), symbol));
+    ASSERT_NE(name, nullptr) << symbol;
+    EXPECT_EQ(name->toStdString(), text);
+  }
+}
+
+}  // namespace
