@@ -1,6 +1,6 @@
 #pragma once
 
-#include "audio_unit/AudioUnitTypes.h"
+#include "contract/ConverterExtensions.h"
 
 namespace converter {
 
