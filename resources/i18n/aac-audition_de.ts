@@ -239,7 +239,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::AnalysisIndicator</name>
+    <name>host::audition::AnalysisIndicator</name>
     <message>
         <source>Reading: %1 %</source>
         <translation>Lesen: %1 %</translation>
@@ -274,7 +274,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::Audition</name>
+    <name>host::audition::Audition</name>
     <message>
         <source>%1 kHz, played as %2 kHz</source>
         <translation>%1 kHz, gespielt mit %2 kHz</translation>
@@ -313,7 +313,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::ChannelDialog</name>
+    <name>host::audition::ChannelDialog</name>
     <message>
         <source>Choose Channels</source>
         <translation>Kanäle wählen</translation>
@@ -348,7 +348,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::DeviceMenu</name>
+    <name>host::audition::DeviceMenu</name>
     <message>
         <source>No Device (silent)</source>
         <translation>Kein Gerät (stumm)</translation>
@@ -359,7 +359,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::FileOpening</name>
+    <name>host::audition::FileOpening</name>
     <message>
         <source>Open Sound File</source>
         <translation>Tondatei öffnen</translation>
@@ -386,7 +386,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::MainWindow</name>
+    <name>host::audition::MainWindow</name>
     <message>
         <source>Open a sound file, or drop one here</source>
         <translation>Öffnen Sie eine Tondatei oder legen Sie eine hier ab</translation>
@@ -465,7 +465,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::PlayButton</name>
+    <name>host::audition::PlayButton</name>
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
@@ -476,7 +476,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::TimeDisplay</name>
+    <name>host::audition::TimeDisplay</name>
     <message>
         <source>Remaining time</source>
         <translation>Restzeit</translation>
@@ -495,7 +495,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::TransportBar</name>
+    <name>host::audition::TransportBar</name>
     <message>
         <source>Open…</source>
         <translation>Öffnen …</translation>
@@ -535,7 +535,7 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
     </message>
 </context>
 <context>
-    <name>host::app::WaveformView</name>
+    <name>host::audition::WaveformView</name>
     <message>
         <source>No file</source>
         <translation>Keine Datei</translation>

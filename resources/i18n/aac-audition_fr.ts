@@ -239,7 +239,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::AnalysisIndicator</name>
+    <name>host::audition::AnalysisIndicator</name>
     <message>
         <source>Reading: %1 %</source>
         <translation>Lecture : %1 %</translation>
@@ -274,7 +274,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::Audition</name>
+    <name>host::audition::Audition</name>
     <message>
         <source>%1 kHz, played as %2 kHz</source>
         <translation>%1 kHz, lu à %2 kHz</translation>
@@ -313,7 +313,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::ChannelDialog</name>
+    <name>host::audition::ChannelDialog</name>
     <message>
         <source>Choose Channels</source>
         <translation>Choisir les canaux</translation>
@@ -348,7 +348,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::DeviceMenu</name>
+    <name>host::audition::DeviceMenu</name>
     <message>
         <source>No Device (silent)</source>
         <translation>Aucun appareil (muet)</translation>
@@ -359,7 +359,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::FileOpening</name>
+    <name>host::audition::FileOpening</name>
     <message>
         <source>Open Sound File</source>
         <translation>Ouvrir un fichier audio</translation>
@@ -386,7 +386,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::MainWindow</name>
+    <name>host::audition::MainWindow</name>
     <message>
         <source>Open a sound file, or drop one here</source>
         <translation>Ouvrez un fichier audio ou déposez-en un ici</translation>
@@ -465,7 +465,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::PlayButton</name>
+    <name>host::audition::PlayButton</name>
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
@@ -476,7 +476,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::TimeDisplay</name>
+    <name>host::audition::TimeDisplay</name>
     <message>
         <source>Remaining time</source>
         <translation>Temps restant</translation>
@@ -495,7 +495,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::TransportBar</name>
+    <name>host::audition::TransportBar</name>
     <message>
         <source>Open…</source>
         <translation>Ouvrir…</translation>
@@ -535,7 +535,7 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
     </message>
 </context>
 <context>
-    <name>host::app::WaveformView</name>
+    <name>host::audition::WaveformView</name>
     <message>
         <source>No file</source>
         <translation>Aucun fichier</translation>

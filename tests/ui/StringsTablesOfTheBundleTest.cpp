@@ -135,8 +135,7 @@ const std::set<std::string> kTextsOfTheView = {
 /// Of all that the bundle is made of.
 std::set<std::string> keysInSources() {
   std::set<std::string> keys;
-  for (const char* room :
-       {"audition", "encoder", "factory", "keys", "listening_test", "ui", "view"}) {
+  for (const char* room : {"skins", "ui", "view"}) {
     for (const char* extension : {".cpp", ".mm"}) {
       for (const fs::path& file : filesIn(fs::path(kSources) / room, extension)) {
         keys.merge(lookedUpKeys(readBytes(file)));
