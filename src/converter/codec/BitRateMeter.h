@@ -7,10 +7,10 @@
 
 namespace converter {
 
-/// The running bit rate of a stream of access units.
+/// Measures the running bit rate of a stream of access units. One thread at a time.
 class BitRateMeter {
  public:
-  /// Length of the stretch that the recent rate is taken over.
+  /// Window of the recent rate.
   static constexpr double kRecentSeconds = 3;
 
   BitRateMeter(double sampleRate, UInt32 frameLength);

@@ -7,34 +7,33 @@
 
 namespace converter {
 
-/// A run of access units that one encoder makes, and what decoding them takes.
+/// A run of access units from one encoder, and what is needed to decode them.
 struct BitStream {
   /// AudioSpecificConfig (ISO/IEC 14496-3). Valid during the call.
   std::span<const std::uint8_t> configuration;
-  /// Of the signal that the encoder was given and that a decoder gives, Hz: the unit's, or half of
-  /// it above 96 kHz.
+  /// Rate at which the codec runs, Hz: the unit's, or half of it above 96 kHz.
   double sampleRate;
   UInt32 channels;
-  /// Samples per channel that every access unit holds: 1024 or 2048.
+  /// Samples per channel in each access unit: 1024 or 2048.
   UInt32 frameLength;
 };
 
 struct AccessUnit {
-  /// Without any transport. Valid during the call.
+  /// Raw, without a transport. Valid during the call.
   std::span<const std::uint8_t> bytes;
-  /// Place in the source, in samples at the stream's rate counted from the last reset, of the first
-  /// of the `frameLength` samples that a decoder gives for this unit. A stream starts with units of
-  /// run-up, which lie before the stretch that it is for and which a decoder needs; in the first
-  /// stream after a reset their positions are negative.
+  /// Position in the source of the first of the `frameLength` samples that this unit decodes to, in
+  /// samples at the stream's rate since the last reset. A stream starts with priming units, which a
+  /// decoder needs and whose audio lies before the part that the stream is for; in the first stream
+  /// after a reset their positions are negative.
   std::int64_t position;
 };
 
-/// Is shown the very bits that the encoded signal is decoded from. Called on the unit's worker
-/// thread, in order; what takes long makes the encoded signal late. Nothing may be thrown.
+/// Receives the very access units that the encoded signal is decoded from. Called in order on the
+/// unit's worker thread; a slow sink makes the encoded signal late.
 ///
-/// Off line, all units of the encoded signal that `render` has put out have been shown, and perhaps
-/// some more. Once the sink has been taken away nothing is shown any more, so that other threads
-/// may look at what it has kept.
+/// In an offline render the sink has received every unit of the encoded signal that `render` has
+/// returned, and perhaps a few more. Once it has been detached from the unit it is not called
+/// again, so other threads may then read what it has collected.
 class BitStreamSink {
  public:
   BitStreamSink() = default;
@@ -42,13 +41,13 @@ class BitStreamSink {
   BitStreamSink& operator=(const BitStreamSink&) = delete;
   virtual ~BitStreamSink() = default;
 
-  /// Another encoder has begun, because the audio did or the setting has changed. The units of the
-  /// one before end here, although a cross-fade still uses some more.
-  virtual void streamBegan(const BitStream& stream) noexcept = 0;
+  /// Starts the stream of another encoder, opened at the start of the audio or for a new setting.
+  /// It ends the stream before, although the cross-fade still uses a few more of its units.
+  virtual void startStream(const BitStream& stream) noexcept = 0;
 
-  /// The next unit, `frameLength` behind the last one; only a unit that the encoder failed to make
-  /// is left out.
-  virtual void accessUnitMade(const AccessUnit& unit) noexcept = 0;
+  /// Takes the next unit, `frameLength` after the last one. Only units that the encoder failed to
+  /// produce are left out.
+  virtual void writeAccessUnit(const AccessUnit& unit) noexcept = 0;
 };
 
 }  // namespace converter

@@ -4,15 +4,15 @@
 
 namespace converter {
 
-/// The highest rate that AAC knows, Hz.
+/// The highest sample rate of AAC, Hz.
 inline constexpr double kHighestCodecRate = 96000;
 
-/// Samples of the unit for each one of the codec: 2 above the highest rate of AAC, otherwise 1.
+/// The unit's sample rate over the codec's: 2 above the highest rate of AAC, otherwise 1.
 constexpr UInt32 resamplingRatio(const UnitFormat& unit) {
   return unit.sampleRate > kHighestCodecRate ? 2 : 1;
 }
 
-/// What the codec works in.
+/// The format in which the codec works.
 constexpr UnitFormat codecFormat(const UnitFormat& unit) {
   return {unit.sampleRate / resamplingRatio(unit), unit.channels, unit.maximumFrames};
 }

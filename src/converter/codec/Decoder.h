@@ -8,8 +8,8 @@
 
 namespace converter {
 
-/// An AAC decoder whose samples are floats that nothing clips, so that overs stay visible. It adds
-/// no delay. One thread at a time; allocates in every call.
+/// An AAC decoder with unclipped float output, so that overs survive. It adds no delay. One thread
+/// at a time; every call may allocate.
 class Decoder {
  public:
   Decoder() = default;
@@ -22,7 +22,8 @@ class Decoder {
   virtual const float* const* decode(std::span<const std::uint8_t> accessUnit) = 0;
 };
 
-/// `configuration` is the encoder's. Throws `std::runtime_error` when the decoder refuses.
+/// `configuration` is `Encoder::configuration()`. Throws `std::runtime_error` when the decoder
+/// cannot be opened.
 std::unique_ptr<Decoder> openDecoder(std::span<const std::uint8_t> configuration,
                                      const UnitFormat& unit, UInt32 frameLength);
 

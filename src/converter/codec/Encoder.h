@@ -9,15 +9,15 @@
 
 namespace converter {
 
-/// When the samples of one encoder, decoded again, come out. All in samples.
+/// Delay and start-up of one encoder together with its decoder.
 struct CodecTiming {
   /// Samples per access unit and channel: 1024 or 2048.
   UInt32 frameLength;
-  /// Place in the decoded signal of the first sample that was encoded.
+  /// Index, in the decoded signal, of the first sample that was encoded.
   UInt32 delay;
-  /// Access units after which an encoder that starts amid a signal gives that signal.
+  /// Access units before the output of an encoder opened in mid-signal can be used.
   UInt32 primingFrames;
-  /// Frames that the encoder swallows before its first access unit.
+  /// Frames that the encoder takes in before its first access unit.
   UInt32 lookaheadFrames;
 };
 
@@ -30,8 +30,8 @@ class Encoder {
   virtual ~Encoder() = default;
 
   /// Encodes the next `frameLength` samples of each plane. Samples above full scale are clipped,
-  /// and those that are no number are silence. Returns the access unit, valid until the next call;
-  /// it is empty during the `lookaheadFrames`, and later only after a failure.
+  /// and NaNs become silence. Returns the access unit, valid until the next call; it is empty
+  /// during the `lookaheadFrames`, and after that only on failure.
   virtual std::span<const std::uint8_t> encode(const float* const* planes) = 0;
 
   /// The decoder's configuration (AudioSpecificConfig).
@@ -40,14 +40,14 @@ class Encoder {
   virtual CodecTiming timing() const = 0;
 };
 
-/// Throws `std::runtime_error` when the encoder refuses.
+/// Throws `std::runtime_error` when the encoder refuses the setting or the format.
 std::unique_ptr<Encoder> openEncoder(const Setting& setting, const UnitFormat& unit);
 
-/// What opens a unit's encoders: `openEncoder`, or something in its place.
+/// Opens a unit's encoders: `openEncoder`, or a test's replacement.
 using OpenEncoder =
     std::function<std::unique_ptr<Encoder>(const Setting& setting, const UnitFormat& unit)>;
 
-/// Of the encoder that this build has.
+/// What the encoder in this build can do.
 EncoderAbilities encoderAbilities();
 
 }  // namespace converter

@@ -20,9 +20,9 @@ using Handle = std::unique_ptr<AACENCODER, CloseEncoder>;
 /// More than the largest access unit of two channels, 2 * 6144 bits.
 constexpr std::size_t kLargestAccessUnit = 4096;
 
-/// Audio band of LC in Hz, 0 for the encoder's own choice, which ends at 17 kHz whatever the rate.
-/// Where the bits of a channel afford more, the difference to the source is less with it, measured
-/// on bright music; at 96 to 128 kbit/s it must not be more on dark music either.
+/// Audio bandwidth of LC in Hz; 0 leaves it to the encoder, which stops at 17 kHz at any bit rate.
+/// Where the bits suffice, a wider band was measured to bring bright music closer to the source;
+/// between 96 and 128 kbit/s per channel it is widened only as far as dark music does not suffer.
 UINT lcBandwidth(std::uint32_t bitRatePerChannel, double sampleRate) {
   if (bitRatePerChannel >= 128000) return 20000;
   if (bitRatePerChannel < 96000) return 0;
@@ -42,12 +42,12 @@ UINT objectType(Format format) {
   return AOT_AAC_LC;
 }
 
-/// Samples that HE is given late. Its own delay is odd, and a container that counts in samples of
-/// the core coder, which are two of these, could not say where the source begins.
+/// Extra delay of HE's input, in samples. The encoder's own delay is odd, and a container that
+/// counts samples at the core coder's half rate could not express where the source starts.
 constexpr UInt32 kHeldBackByHe = 1;
 
-/// Delays measured band by band against the decoder in use: the band replication lies one sample
-/// ahead of what the encoder reports for HE.
+/// Delays as measured band by band with the decoder in use: with band replication HE is one sample
+/// earlier than the encoder reports.
 CodecTiming timingOf(Format format) {
   switch (format) {
     case Format::lc:
@@ -94,8 +94,8 @@ void configure(AACENCODER* encoder, const Setting& setting, const UnitFormat& un
   }
 }
 
-/// Every call is given exactly one frame: the library loses its bit-exactness, and with HEv2 its
-/// memory safety, when it has to collect smaller blocks itself.
+/// Always hands the library exactly one frame: given smaller blocks, HEv2's output depends on their
+/// sizes and the library may overflow its buffers.
 class FdkEncoder final : public Encoder {
  public:
   FdkEncoder(const Setting& setting, const UnitFormat& unit)
@@ -105,7 +105,7 @@ class FdkEncoder final : public Encoder {
         heldBack_(std::size_t{setting.format == Format::he ? kHeldBackByHe : 0} * unit.channels),
         input_(heldBack_ + frame_) {
     AACENCODER* encoder = nullptr;
-    // Zero modules and channels reserve all: anything smaller overflows inside the library.
+    // 0, 0: room for all modules and channels. With less, the library overflows its buffers.
     const AACENC_ERROR opened = aacEncOpen(&encoder, 0, 0);
     handle_.reset(encoder);
     if (opened != AACENC_OK) throw std::runtime_error("the AAC encoder cannot be opened");
@@ -150,7 +150,7 @@ class FdkEncoder final : public Encoder {
   AACENC_InfoStruct info_{};
   CodecTiming timing_;
   UInt32 channels_;
-  /// Samples of all channels.
+  /// In samples of all channels together, like `heldBack_`.
   std::size_t frame_;
   std::size_t heldBack_;
   std::vector<std::int16_t> input_;

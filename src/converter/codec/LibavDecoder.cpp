@@ -8,8 +8,8 @@
 namespace converter {
 namespace {
 
-/// Mono HE comes out of libavcodec as two equal channels, because parametric stereo could follow;
-/// the planes beyond the unit's are left alone.
+/// libavcodec decodes mono HE to two equal channels, because parametric stereo could follow; planes
+/// beyond the unit's channels are ignored.
 class LibavDecoder final : public Decoder {
  public:
   LibavDecoder(std::span<const std::uint8_t> configuration, const UnitFormat& unit,

@@ -10,10 +10,10 @@ namespace {
 
 constexpr CodecTiming kTiming{1024, 1024, 3, 1};
 
-/// Quality scales of the five modes; stereo at 44.1 kHz they give about 72 to 310 kbit/s.
+/// Quality scales of the five modes: about 72 to 310 kbit/s for 44.1 kHz stereo.
 constexpr std::array<double, 5> kQualityScales = {0.5, 0.75, 1.0, 1.4, 2.0};
 
-/// LC only: libavcodec's encoder accepts the other profiles and codes LC all the same.
+/// LC only: libavcodec's encoder accepts the other profiles but encodes LC all the same.
 class LibavEncoder final : public Encoder {
  public:
   LibavEncoder(const Setting& setting, const UnitFormat& unit)
@@ -51,7 +51,7 @@ class LibavEncoder final : public Encoder {
     if (av_frame_make_writable(frame_.get()) != 0) return {};
     for (UInt32 channel = 0; channel < channels_; ++channel) {
       std::transform(planes[channel], planes[channel] + kTiming.frameLength,
-                     reinterpret_cast<float*>(frame_->extended_data[channel]), encodable);
+                     reinterpret_cast<float*>(frame_->extended_data[channel]), toEncodable);
     }
     frame_->pts = nextTime_;
     nextTime_ += kTiming.frameLength;

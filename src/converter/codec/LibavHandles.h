@@ -21,12 +21,12 @@ using CodecContext = std::unique_ptr<AVCodecContext, FreeLibav>;
 using Frame = std::unique_ptr<AVFrame, FreeLibav>;
 using Packet = std::unique_ptr<AVPacket, FreeLibav>;
 
-/// Throws `std::runtime_error` saying what could not be done, unless it was.
+/// Throws `std::runtime_error` with the message `what` unless `done`.
 inline void require(bool done, const char* what) {
   if (!done) throw std::runtime_error(std::string("libavcodec: ") + what);
 }
 
-/// A context that works on the calling thread and keeps its remarks to itself.
+/// A context that works on the calling thread and logs nothing.
 inline CodecContext makeContext(const AVCodec* codec) {
   require(codec != nullptr, "no AAC codec");
   CodecContext context(avcodec_alloc_context3(codec));

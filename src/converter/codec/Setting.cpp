@@ -8,14 +8,14 @@
 namespace converter {
 namespace {
 
-/// The code that the value stands for, by truncation toward zero, moved into 0 to `highest`.
+/// The code that the value stands for: truncated toward zero and clamped to 0...`highest`.
 std::uint32_t codeOf(float value, std::uint32_t highest) {
   if (!(value > 0)) return 0;
   return static_cast<std::uint32_t>(std::min(value, static_cast<float>(highest)));
 }
 
-/// Spectral band replication and parametric stereo leave the core encoder one channel less or half
-/// the rate to work on; the limits follow the core.
+/// What is left to the core encoder: half the sample rate with spectral band replication, one
+/// channel with parametric stereo. The limits follow from it.
 struct Core {
   double sampleRate;
   std::uint32_t channels;
@@ -28,8 +28,7 @@ Core coreOf(Format format, const UnitFormat& unit) {
 
 constexpr double kCoreFrameLength = 1024;
 
-/// Most bits that an AAC decoder has to take per channel and frame (ISO/IEC 14496-3, the size of
-/// its input buffer).
+/// The size of an AAC decoder's input buffer (ISO/IEC 14496-3).
 constexpr double kMostBitsPerChannelAndFrame = 6144;
 
 std::uint32_t highestRate(Format format, const UnitFormat& unit) {
@@ -38,14 +37,14 @@ std::uint32_t highestRate(Format format, const UnitFormat& unit) {
                                     kCoreFrameLength);
 }
 
-/// Lowest rates that FDK AAC 2.0.2 takes without raising them itself, as its own read-back shows.
+/// The lowest rates that FDK AAC 2.0.2 does not raise by itself, as reading them back shows.
 std::uint32_t lowestRate(Format format, const UnitFormat& unit) {
   const Core core = coreOf(format, unit);
   if (format == Format::lc) {
     const double bitsPerFrame = core.channels == 1 ? 248 : 288;
     return static_cast<std::uint32_t>(std::ceil(bitsPerFrame * core.sampleRate / kCoreFrameLength));
   }
-  // Where the replication's tuning tables begin.
+  // The lowest rates in the tuning tables of band replication.
   if (core.channels == 1) {
     if (unit.sampleRate < 44100) return 8000;
     if (unit.sampleRate < 88200) return 12000;
@@ -55,8 +54,8 @@ std::uint32_t lowestRate(Format format, const UnitFormat& unit) {
   return unit.sampleRate < 96000 ? 32000 : 36000;
 }
 
-/// Peak rates between which FDK AAC 2.0.2 starts and keeps the constraint. A single core channel
-/// with band replication falls back to a poorer tuning, or forgets the constraint, at 256 kbit/s.
+/// The peak rates between which FDK AAC 2.0.2 initialises and obeys the constraint. With band
+/// replication on a single core channel, 256 kbit/s gets poorer tuning or is not obeyed.
 std::uint32_t lowestPeak(Format format, const UnitFormat& unit) {
   return coreOf(format, unit).channels == 1 ? 32000 : 40000;
 }
@@ -64,7 +63,7 @@ std::uint32_t highestPeak(Format format, const UnitFormat& unit) {
   return format != Format::lc && coreOf(format, unit).channels == 1 ? 224000 : 320000;
 }
 
-/// The five modes share the qualities 0 to 127 evenly.
+/// Maps the qualities 0 to 127 evenly to the five modes.
 std::uint8_t vbrModeOf(float quality) {
   return static_cast<std::uint8_t>(1 + codeOf(quality, 127) * 5 / 128);
 }

@@ -10,15 +10,15 @@
 #include "converter/meters/InterSampleBounds.h"
 #include "converter/meters/VectorClones.h"
 
-// Clang would not see that the lanes of a loop over so few of them never overlap. Under sanitizers
-// it makes no vectors at all, and would warn of that.
+// Clang does not see by itself that the lanes of such a short loop are independent. Under
+// sanitizers it does not vectorise, and would warn about the pragma.
 #if defined(__clang__) && !defined(VELK_SANITIZED)
 #define VELK_INDEPENDENT_LANES _Pragma("clang loop vectorize(assume_safety)")
 #else
 #define VELK_INDEPENDENT_LANES
 #endif
 
-// Everything below the entry is inlined into it, because only the entry has vector clones.
+// Only the entry point has vector clones, so everything that it calls must be inlined into it.
 #define VELK_INLINE [[gnu::always_inline]] inline
 
 namespace converter {
@@ -27,14 +27,14 @@ namespace {
 using Index = std::ptrdiff_t;
 
 constexpr std::size_t kLanes = 8;
-/// Room around a run for the points on which its first and last intervals depend.
+/// Room on both sides of a run for the points that its outer intervals depend on.
 constexpr Index kMargin = 8;
 constexpr std::size_t kWidth = kMaximumIntervals + 2 * kMargin + kRow;
 
 constexpr float kGain = static_cast<float>(interpolationGain() * 1.0001);
 constexpr float kHalfBend = static_cast<float>(distanceFromHalfGrid().bend);
 constexpr float kQuarterBend = static_cast<float>(distanceFromQuarterGrid().bend);
-/// Relative to the loudest sample: more than the rounding of all sums here can come to.
+/// Relative to the loudest sample: more than all rounding errors here can add up to.
 constexpr double kRounding = 3e-5;
 constexpr float kSlack =
     static_cast<float>(kRounding + interpolationGain() * std::max(distanceFromHalfGrid().rest,
@@ -47,8 +47,8 @@ VELK_INLINE float larger(float a, float b) {
   return a > b ? a : b;
 }
 
-/// Non-negative floats compare like their bits, and a maximum of integers may be taken in any
-/// order.
+/// Non-negative floats are ordered like their bits, and unlike a float maximum an integer maximum
+/// may be vectorised.
 VELK_INLINE std::int32_t magnitudeBits(float value) {
   return std::bit_cast<std::int32_t>(value) & 0x7fffffff;
 }
@@ -76,12 +76,13 @@ VELK_INLINE float loudestAround(const float* samples, Index count) {
   return std::bit_cast<float>(loudest);
 }
 
-/// Whether points not yet computed could change a reading.
+/// Whether the points not yet computed could change a reading.
 VELK_INLINE bool isUndecided(float bound, float known, float peak) {
   return (bound > peak) | ((bound > 1.0F) & (known <= 1.0F));
 }
 
-/// One run of intervals: what is known of each, and how far up the rest could reach.
+/// Analyses one run of intervals: keeps the largest point known of each, and refines only those
+/// whose remaining points could still change a reading.
 class Run {
  public:
   VELK_INLINE Run(const float* samples, Index count, InterSampleReadings& readings)
@@ -152,7 +153,7 @@ class Run {
     std::memset(&open_[static_cast<std::size_t>(count_)], 0, kLanes);
   }
 
-  /// Decides the `kLanes` intervals from `at` on.
+  /// Computes as many points of the `kLanes` intervals from `at` on as it takes to decide them.
   VELK_INLINE void refine(Index at) {
     alignas(32) std::array<Row<kLanes>, 11> quarters;
     alignas(32) Row<kLanes> top;

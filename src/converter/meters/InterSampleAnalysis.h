@@ -7,12 +7,12 @@
 
 namespace converter {
 
-/// Sample intervals that one call of `analyseIntervals` takes at most.
+/// The most sample intervals that one call of `analyseIntervals` takes.
 inline constexpr std::size_t kMaximumIntervals = 128;
-/// Samples before the first and after the last interval that its interpolation depends on.
+/// Samples before the first interval and after the last that the interpolation depends on.
 inline constexpr std::size_t kSamplesBefore = kHalfFilter.size() + 2;
 inline constexpr std::size_t kSamplesAfter = kHalfFilter.size() + 3;
-/// Samples after those that may be read but have no effect: work is done in rows of this many.
+/// Work is done in rows of this many, so up to as many samples beyond those are read, to no effect.
 inline constexpr std::size_t kRow = 16;
 
 /// Peak and overs of the interpolated signal.
@@ -23,12 +23,12 @@ struct InterSampleReadings {
   std::int64_t overs;
 };
 
-/// Meters the intervals that begin at `samples[0]` to `samples[count - 1]` into `readings`.
+/// Meters the intervals that start at `samples[0]` to `samples[count - 1]` into `readings`.
 ///
-/// `samples` are finite, of magnitude at most 1e30, and can be read from `-kSamplesBefore` up to
-/// `count + kSamplesAfter + kRow`; what is beyond `count + kSamplesAfter - 1` has no effect.
-/// The result is that of computing every point of every interval, to the bit, on every processor:
-/// points are left out only where a bound shows that they can change neither reading.
+/// `samples` are finite, of magnitude at most 1e30, and readable from `-kSamplesBefore` up to but
+/// not including `count + kSamplesAfter + kRow`; from `count + kSamplesAfter` on they have no
+/// effect. The result is bit for bit that of computing every point of every interval, on every
+/// processor: points are skipped only where a bound proves that they can change neither reading.
 void analyseIntervals(const float* samples, std::size_t count,
                       InterSampleReadings& readings) noexcept;
 

@@ -8,7 +8,7 @@
 
 namespace converter {
 
-/// A point of the interpolated signal as weights of `Count` coarser points.
+/// A point of the interpolated signal as a weighted sum of `Count` coarser points.
 template <std::size_t Count>
 struct PointWeights {
   std::array<double, Count> of{};
@@ -27,7 +27,8 @@ constexpr double magnitude(double value) {
   return value < 0 ? -value : value;
 }
 
-/// The sum of magnitudes: how much the point can exceed the largest of the coarser points.
+/// The sum of the weights' magnitudes: the most by which the point can exceed the largest of the
+/// coarser points, as a factor.
 template <std::size_t Count>
 constexpr double gain(const PointWeights<Count>& point) {
   double sum = 0;
@@ -35,9 +36,9 @@ constexpr double gain(const PointWeights<Count>& point) {
   return sum;
 }
 
-/// How far points can lie from the straight line between the two coarse points around them: `bend`
-/// times the largest second difference of the coarse points, plus `rest` times the largest of them.
-/// The rest comes from the headroom of the filters and is a few millionths for each weight.
+/// A bound on how far points lie from the straight line between the two coarse points around them:
+/// `bend` times the largest second difference of the coarse points, plus `rest` times the largest
+/// coarse point. `rest` stems from the filters' headroom and is less than 0.0001.
 struct DistanceFromLine {
   double bend = 0;
   double rest = 0;
@@ -49,8 +50,8 @@ struct DistanceFromLine {
 };
 
 /// The distance of one point, which lies `fraction` of the way from coarse point `left` to the
-/// next: takes the line away and writes what remains as second differences, from one end to the
-/// other.
+/// next: subtracts the line, then rewrites the remaining weights as second differences from one end
+/// to the other.
 template <std::size_t Count>
 constexpr DistanceFromLine distanceFromLine(PointWeights<Count> point, std::size_t left,
                                             double fraction) {
@@ -75,13 +76,13 @@ constexpr Grid unitGrid() {
   return grid;
 }
 
-/// The half grid of one interval in terms of the samples around it.
+/// The half grid around one interval, in terms of the samples.
 constexpr auto halfGridOfSamples() {
   constexpr std::size_t reach = kHalfFilter.size() + 3;
   std::array<PointWeights<2 * reach + 2>, 2 * reach + 2> samples{};
   for (std::size_t i = 0; i < samples.size(); ++i) samples[i].of[i] = 1;
   HalfGrid<PointWeights<2 * reach + 2>> grid{};
-  // The grid begins half-way between the third and the second sample before the interval's own.
+  // The grid starts half-way between the third and the second sample before the interval's own.
   for (std::size_t i = 0; i < grid.points.size(); ++i) {
     const auto* const sample = samples.data() + (reach - 3 + (i + 1) / 2);
     grid.points[i] = i % 2 == 0 ? midpoint(kHalfFilter, sample) : *sample;
@@ -89,8 +90,7 @@ constexpr auto halfGridOfSamples() {
   return grid;
 }
 
-/// No point of the interpolated signal exceeds the largest sample around it by more than this
-/// factor.
+/// The factor by which the interpolated signal can at most exceed the largest sample around it.
 constexpr double interpolationGain() {
   const auto half = halfGridOfSamples();
   const auto eighth = eighthGrid(quarterGrid(half));
@@ -100,8 +100,8 @@ constexpr double interpolationGain() {
   return largest;
 }
 
-/// The largest distance of all points of an interval; its own sample is coarse point `own`, and
-/// `steps` coarse steps lead to the next sample.
+/// The largest distance of all points of an interval. Its own sample is coarse point `own`, and the
+/// next sample is `steps` coarse points further.
 template <std::size_t Count>
 constexpr DistanceFromLine distanceOfInterval(const EighthGrid<PointWeights<Count>>& eighth,
                                               std::size_t own, std::size_t steps) {

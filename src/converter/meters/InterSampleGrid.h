@@ -8,17 +8,17 @@
 
 namespace converter {
 
-/// The interpolated signal on which inter-sample peaks and overs are defined: sixteen points in
-/// each sample interval, reached by doubling the grid four times. The first doubling carries the
-/// whole steepness (flat within 0.02 dB up to 0.45 of the sample rate); each further one sees a
-/// signal that is oversampled twice as much, so ever fewer neighbours do.
+/// The interpolation that defines inter-sample peaks and overs: sixteen points in each sample
+/// interval, reached by doubling the grid four times. Only the first doubling needs a steep filter
+/// (flat within 0.02 dB up to 0.45 of the sample rate); each further one works on a signal twice as
+/// oversampled and makes do with fewer neighbours.
 inline constexpr auto kHalfFilter = kaiserMidpointFilter<20>(6.0);
 inline constexpr auto kQuarterFilter = kaiserMidpointFilter<4>(6.1);
 inline constexpr auto kEighthFilter = lagrangeMidpointFilter<3>();
 inline constexpr auto kSixteenthFilter = lagrangeMidpointFilter<2>();
 
-/// A stretch of a grid around one sample interval; index 0 is the point `First` steps after the
-/// interval's own sample.
+/// The points of a grid around one sample interval, indexed by their step from the interval's own
+/// sample: `First` to `Last`.
 template <typename Value, int First, int Last>
 struct GridStretch {
   std::array<Value, Last - First + 1> points;
@@ -31,8 +31,8 @@ struct GridStretch {
   }
 };
 
-/// What the finer points of one interval depend on: two, four and eight points in a sample
-/// interval.
+/// The points that the finer points of one interval depend on, on grids of two, four and eight
+/// points per sample interval.
 template <typename Value>
 using HalfGrid = GridStretch<Value, -5, 7>;
 template <typename Value>
@@ -50,7 +50,7 @@ template <int Step, typename Coarse, std::size_t Pairs>
   }
 }
 
-/// Doubles a grid: keeps every point and puts a midpoint after it, from step `First` on.
+/// Doubles a grid from step `First` on: keeps every point and inserts a midpoint after it.
 template <typename Fine, int First, typename Coarse, std::size_t Pairs, int... Offset>
 [[gnu::always_inline]] constexpr Fine doubled(const MidpointFilter<Pairs>& filter,
                                               const Coarse& coarse,
@@ -76,7 +76,7 @@ template <typename Value, int... Step>
   return {midpoint(kSixteenthFilter, eighth.at(Step))...};
 }
 
-/// The eight points that the last doubling adds inside the interval.
+/// The eight points that the last doubling adds to the interval.
 template <typename Value>
 [[gnu::always_inline]] constexpr std::array<Value, 8> sixteenths(const EighthGrid<Value>& eighth) {
   return midpointsFrom(eighth, std::make_integer_sequence<int, 8>{});

@@ -7,13 +7,13 @@
 
 namespace converter {
 
-/// A filter that gives the value half-way between two points of an evenly sampled signal. It is
-/// symmetric, so it holds one weight for each pair of neighbours, from the nearest pair outward.
+/// A filter for the value half-way between two points of an evenly sampled signal. It is symmetric:
+/// one weight for each pair of neighbours, from the nearest pair outward.
 template <std::size_t Pairs>
 using MidpointFilter = std::array<float, Pairs>;
 
-/// How far the weights of a filter stay below a sum of 1: enough that rounding never lifts a
-/// constant full-scale signal above full scale, 17 millionths of a decibel.
+/// By how much the sum of a filter's weights is less than 1, so that rounding never lifts a
+/// constant full-scale signal above full scale. 17 millionths of a decibel.
 inline constexpr double kMidpointHeadroom = 1.0 / (1 << 19);
 
 template <std::size_t Pairs>
@@ -81,8 +81,8 @@ template <typename Value, std::size_t Pairs, std::size_t... J>
   return (... + ((*(left - J) + *(left + 1 + J)) * filter[J]));
 }
 
-/// The point half-way between `left[0]` and `left[1]`. The order of the additions is part of the
-/// result: every caller gets the same bits. Inlined, so that loops around it become vector code.
+/// The value half-way between `left[0]` and `left[1]`. The order of the additions is fixed, so that
+/// every caller gets the same bits. Inlined, so that loops over it can be vectorised.
 template <typename Value, std::size_t Pairs>
 [[gnu::always_inline]] constexpr Value midpoint(const MidpointFilter<Pairs>& filter,
                                                 const Value* left) {

@@ -27,9 +27,9 @@ bool PeakStatisticsExchange::takeResetRequest() noexcept {
   return true;
 }
 
-// Release on every word, rather than a fence, orders the mark before the words: a reader that sees
-// a new word also sees the mark or what came after it. The thread sanitizer understands it, and on
-// the processors at hand it costs nothing.
+// Release stores of every word, rather than a fence, order the mark before the words: a reader that
+// sees a new word also sees the mark or what follows it. The thread sanitizer understands this, and
+// on x86-64 it costs nothing.
 void PeakStatisticsExchange::publish(const velk::PeakStatistics& statistics) noexcept {
   const auto words = std::bit_cast<Words>(statistics);
   const std::uint64_t edition = newestEdition_.load(std::memory_order_relaxed) + 1;

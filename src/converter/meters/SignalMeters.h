@@ -9,31 +9,32 @@
 
 namespace converter {
 
-/// Meters source and encoded signal of a unit at one point, so that a reset cuts both at the same
-/// sample, and hands the readings over.
+/// Meters a unit's source and encoded signal at the same point, so that a reset affects both at the
+/// same sample, and publishes the readings.
 class SignalMeters {
  public:
-  /// Any channels from the third on are not metered; the slots of channels that do not exist stay
+  /// Only the first two channels are metered. The statistics of channels that do not exist stay
   /// cleared.
   explicit SignalMeters(std::size_t channels) noexcept;
 
-  /// Takes a pending reset, then meters one block of both signals and shows the result to the
-  /// readers. Audio thread; never allocates, locks or waits.
+  /// Carries out a pending reset, then meters one block of both signals and publishes the readings.
+  /// Audio thread; never allocates, locks or waits.
   void process(const float* const* source, const float* const* encoded,
                std::size_t frames) noexcept;
 
-  /// Takes one block of both signals without metering it; see `TruePeakMeter::pass`. A pending
-  /// reset is taken too. Audio thread; never allocates, locks or waits.
+  /// Takes one block of both signals without metering it; see `TruePeakMeter::pass`. Carries out a
+  /// pending reset, too. Audio thread; never allocates, locks or waits.
   void pass(const float* const* source, const float* const* encoded, std::size_t frames) noexcept;
 
-  /// Ends both signals, as before a seek; see `TruePeakMeter::abandon`. Not while `process` runs.
+  /// Ends both signals at a cut, such as a seek; see `TruePeakMeter::abandon`. Not while `process`
+  /// runs.
   void abandon() noexcept;
 
-  /// Ends both signals at the end of all audio; see `TruePeakMeter::finish`. Not while `process`
+  /// Ends both signals at the end of the audio; see `TruePeakMeter::finish`. Not while `process`
   /// runs.
   void finish() noexcept;
 
-  /// Clears peaks and counts, for readers at once. Any thread; wait-free.
+  /// Clears peaks and counts; readers see it at once. Any thread; wait-free.
   void requestReset() noexcept { exchange_.requestReset(); }
 
   /// Peaks and counts since the last reset. Any thread; lock-free.

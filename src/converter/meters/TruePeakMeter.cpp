@@ -17,7 +17,7 @@ struct SampleReadings {
   std::int32_t clips;
 };
 
-/// Copies the samples with those that are no sound as 0, and reads their peak and clips.
+/// Copies the samples with those that are no sound replaced by 0, and reads their peak and clips.
 VELK_VECTOR_CLONES
 SampleReadings copySound(const float* samples, std::size_t count, float* sound) noexcept {
   SampleReadings readings{0, 0};
@@ -25,7 +25,7 @@ SampleReadings copySound(const float* samples, std::size_t count, float* sound) 
     const float magnitude = std::fabs(samples[i]);
     const bool isSound = (magnitude >= kQuietest) & (magnitude <= kLoudest);
     sound[i] = isSound ? samples[i] : 0.0F;
-    // Non-negative floats compare like their bits, whose maximum may be taken in any order.
+    // Non-negative floats are ordered like their bits, and an integer maximum can be vectorised.
     const std::int32_t bits = std::bit_cast<std::int32_t>(isSound ? magnitude : 0.0F);
     readings.peakBits = std::max(readings.peakBits, bits);
     readings.clips += magnitude > 1.0F ? 1 : 0;

@@ -1,8 +1,8 @@
 #pragma once
 
-// VELK_VECTOR_CLONES before a function compiles it once more for processors with AVX2, chosen when
-// the program is loaded. Not under sanitizers: the choice runs before their run-time library is
-// ready.
+// VELK_VECTOR_CLONES before a function compiles it a second time for processors with AVX2; the
+// choice is made when the program is loaded. Not under sanitizers, because it would be made before
+// their run-time library is ready.
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || \
     __has_feature(memory_sanitizer)

@@ -6,7 +6,7 @@
 
 namespace converter {
 
-/// The worker's newest report of its codec, for any thread.
+/// The worker's latest report on its codec. Any thread may read it.
 class CodecStatus {
  public:
   /// Worker thread.
@@ -15,8 +15,9 @@ class CodecStatus {
   BitRate bitRate() const;
   UInt64 failures() const { return failures_.load(std::memory_order_relaxed); }
 
-  /// What carries `asked`: itself, unless no codec could be opened for it and another one goes on.
-  Setting carrying(const Setting& asked) const;
+  /// The setting used for `asked`: `asked` itself, unless no codec could be opened for it and the
+  /// one before goes on.
+  Setting settingUsedFor(const Setting& asked) const;
 
  private:
   /// A `BitRate`, whose own alignment is too small for one atomic word.

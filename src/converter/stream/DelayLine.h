@@ -6,15 +6,16 @@
 
 namespace converter {
 
-/// Delays planes of samples by a constant, bit for bit. Audio thread.
+/// Delays planes of samples by a constant number of samples, bit-exactly. Audio thread.
 class DelayLine {
  public:
   DelayLine(UInt32 channels, UInt32 delay, UInt32 maximumFrames);
 
-  /// Takes `frames` samples, at most the maximum, and writes those of `delay` samples before.
+  /// Takes the next `frames` samples, at most `maximumFrames`, and writes those from `delay`
+  /// samples earlier.
   void process(const float* const* input, float* const* output, UInt32 frames);
 
-  /// Silence inside.
+  /// Fills the line with silence. Not while `process` runs.
   void clear();
 
  private:

@@ -11,14 +11,14 @@ UInt32 EncodedReader::read(Position position, UInt32 frames, float* const* outpu
     const Position at = position + done;
     UInt32 step = frames - done;
     const AudioBlock* block = at < 0 ? nullptr : blockAt(at, wait);
-    const bool here = block != nullptr && block->begin <= at;
+    const bool here = block != nullptr && block->validFrom <= at;
     if (here) {
       step = static_cast<UInt32>(std::min<Position>(step, block->end() - at));
     } else if (at < 0) {
       step = static_cast<UInt32>(std::min<Position>(step, -at));
     } else {
       if (block != nullptr) {
-        step = static_cast<UInt32>(std::min<Position>(step, block->begin - at));
+        step = static_cast<UInt32>(std::min<Position>(step, block->validFrom - at));
       }
       missing += step;
     }
@@ -35,7 +35,7 @@ UInt32 EncodedReader::read(Position position, UInt32 frames, float* const* outpu
   return missing;
 }
 
-/// The first block that ends behind `position`, or null.
+/// The first block that ends after `position`, or null.
 const AudioBlock* EncodedReader::blockAt(Position position, bool wait) {
   auto& queue = worker_.encoded();
   const auto find = [&] {
@@ -49,7 +49,7 @@ const AudioBlock* EncodedReader::blockAt(Position position, bool wait) {
   if (!wait) return find();
   const AudioBlock* block = nullptr;
   worker_.waitUntil([&] {
-    // In this order: what the worker made of its last block is there once the block is gone.
+    // In this order: the worker pushes its result before it removes the source block.
     const bool idle = worker_.source().empty();
     block = find();
     return block != nullptr || idle;

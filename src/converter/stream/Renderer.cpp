@@ -8,7 +8,7 @@
 namespace converter {
 namespace {
 
-/// Room for all that can be under way at once, and some for a worker that is late.
+/// Room for all that can be in flight, and some more for a worker that is late.
 std::size_t queueBlocks(const UnitFormat& unit) {
   return (latencyFor(unit) + unit.maximumFrames) / kBlockFrames + 4;
 }
@@ -20,7 +20,7 @@ std::array<float*, kMaximumChannels> pointers(
 
 }  // namespace
 
-Renderer::Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder& open)
+Renderer::Renderer(const UnitFormat& unit, RenderControls& controls, const OpenEncoder& open)
     : unit_(unit),
       controls_(controls),
       latency_(latencyFor(unit)),
@@ -32,7 +32,8 @@ Renderer::Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder
       monitor_(unit.sampleRate) {
   for (auto& plane : source_) plane.resize(unit.maximumFrames);
   for (auto& plane : encoded_) plane.resize(unit.maximumFrames);
-  // Says at once whether the codec works here, and spares the worker the libraries' slow first use.
+  // Fails at once if the codec does not work, and takes the libraries' slow first use off the
+  // worker.
   const UnitFormat codec = codecFormat(unit);
   const CodecPair trial(open(controls.setting.load(), codec), codec, 0);
   worker_.setUrgent(true);

@@ -4,23 +4,23 @@
 #include <vector>
 
 #include "converter/meters/SignalMeters.h"
-#include "converter/stream/Controls.h"
 #include "converter/stream/DelayLine.h"
 #include "converter/stream/EncodedReader.h"
 #include "converter/stream/MonitorSwitch.h"
+#include "converter/stream/RenderControls.h"
 #include "converter/stream/SourceFeeder.h"
 #include "converter/stream/Worker.h"
 
 namespace converter {
 
-/// What the unit does with audio: feeds the worker, delays the source to meet the encoded signal,
-/// and sends one of the two on.
+/// Renders a unit's audio: feeds the worker, delays the source to align it with the encoded signal,
+/// meters both, and outputs one of them.
 class Renderer {
  public:
   /// Throws `std::runtime_error` when a codec cannot be opened.
-  Renderer(const UnitFormat& unit, Controls& controls, const OpenEncoder& open);
+  Renderer(const UnitFormat& unit, RenderControls& controls, const OpenEncoder& open);
 
-  /// As the operations of `ConverterUnit`.
+  /// See the operations of the same names in `ConverterUnit`.
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
   void reset();
   void finish() { meters_.finish(); }
@@ -40,7 +40,7 @@ class Renderer {
   void renderSlice(const float* const* input, float* const* output, UInt32 frames);
 
   UnitFormat unit_;
-  Controls& controls_;
+  RenderControls& controls_;
   UInt32 latency_;
   Worker worker_;
   SourceFeeder feeder_;

@@ -18,7 +18,7 @@ void SourceFeeder::request(const Setting& setting) {
 void SourceFeeder::feed(const float* const* input, UInt32 channels, UInt32 frames, bool wait) {
   for (UInt32 done = 0; done < frames;) {
     const auto offset = static_cast<UInt32>(position_ % kBlockFrames);
-    if (offset == 0) beginBlock(wait);
+    if (offset == 0) startBlock(wait);
     const UInt32 step = std::min(frames - done, kBlockFrames - offset);
     if (block_ != nullptr) {
       for (UInt32 channel = 0; channel < channels; ++channel) {
@@ -46,19 +46,19 @@ void SourceFeeder::clear() {
   dropping_ = false;
 }
 
-void SourceFeeder::beginBlock(bool wait) {
+void SourceFeeder::startBlock(bool wait) {
   auto& queue = worker_.source();
   if (wait) {
     worker_.waitUntil([&] { return queue.claim() != nullptr; });
   } else if (dropping_ && !queue.empty()) {
-    // Every gap makes the worker start its codec anew, so an overloaded one may catch up first.
+    // Each gap costs the worker a restart of its codec, so let an overloaded one catch up first.
     return;
   }
   block_ = queue.claim();
   dropping_ = block_ == nullptr;
   if (dropping_) return;
   block_->audio.position = position_;
-  block_->audio.begin = position_;
+  block_->audio.validFrom = position_;
   block_->setting = setting_;
   block_->change.reset();
 }

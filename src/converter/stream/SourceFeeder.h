@@ -5,40 +5,40 @@
 
 namespace converter {
 
-/// Cuts the source into blocks for the worker, with the changes of setting at their positions.
+/// Cuts the source into blocks for the worker and marks each change of setting at its position.
 /// Audio thread.
 class SourceFeeder {
  public:
   SourceFeeder(Worker& worker, const UnitFormat& unit)
       : worker_(worker), accessUnit_(accessUnitFrames(unit)) {}
 
-  /// Makes `setting` the one in force from the next sample on. A change that comes within an
-  /// access unit's length of the last one waits; the newest call after that takes effect.
+  /// Puts `setting` into effect from the next sample on. Within an access unit's length of the last
+  /// change it does nothing, so callers repeat the request with every block.
   void request(const Setting& setting);
 
-  /// Takes the next samples. When the worker is too far behind to take them they are lost to it;
-  /// `wait` waits for it instead.
+  /// Passes on the next samples. Those that the queue has no room for are dropped; with `wait` it
+  /// waits for room instead.
   void feed(const float* const* input, UInt32 channels, UInt32 frames, bool wait);
 
-  /// Where the next sample lies.
+  /// Of the next sample.
   Position position() const { return position_; }
 
-  /// Starts over at 0.
+  /// Starts over at position 0. While the worker is stopped.
   void clear();
 
  private:
-  void beginBlock(bool wait);
+  void startBlock(bool wait);
 
   Worker& worker_;
   UInt32 accessUnit_;
   Position position_ = 0;
-  /// In force up to `position_`.
+  /// In effect up to `position_`.
   Setting setting_;
-  /// In force from `position_` on.
+  /// To take effect at `position_`.
   std::optional<SettingChange> change_;
-  /// Before which no further change begins.
+  /// No further change before this position.
   Position nextChange_ = 0;
-  /// Being filled; null while samples are dropped.
+  /// The block being filled; null while samples are dropped.
   SourceBlock* block_ = nullptr;
   bool dropping_ = false;
 };

@@ -7,10 +7,10 @@
 namespace converter {
 namespace {
 
-/// Where the system begins to look for the lowest that it allows: above most of a desktop.
+/// The first nice value to try, ahead of most of a desktop; then ever weaker ones.
 constexpr int kBestNice = -11;
 
-/// Linux has a nice value for each thread, and takes 0 for the calling one.
+/// On Linux each thread has a nice value of its own, and 0 stands for the calling thread.
 bool setNice(int nice) {
   return setpriority(PRIO_PROCESS, 0, nice) == 0;
 }

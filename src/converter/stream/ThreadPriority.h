@@ -2,15 +2,15 @@
 
 namespace converter {
 
-/// What the system let a thread have.
+/// The priority that the system granted.
 enum class ThreadPriority { realTime, raised, ordinary };
 
-/// Moves the calling thread before ordinary ones: into the lowest real-time priority, which is
-/// below every audio thread, where the process may (`RLIMIT_RTPRIO`), else as far up among the
-/// ordinary ones as it may go (`RLIMIT_NICE`). Returns what came of it.
+/// Raises the calling thread above ordinary ones: to the lowest real-time priority, below any audio
+/// thread, if the process is allowed to (`RLIMIT_RTPRIO`); otherwise to the best nice value it may
+/// have (`RLIMIT_NICE`). Returns what was granted.
 ThreadPriority raiseThreadPriority();
 
-/// Puts the calling thread back among the ordinary ones.
+/// Returns the calling thread to ordinary priority.
 void dropThreadPriority();
 
 }  // namespace converter

@@ -9,8 +9,8 @@
 namespace converter {
 namespace {
 
-/// Whoever waits for the worker, which goes at its own pace then, is woken when so many blocks are
-/// left to it: to be woken for each costs several percent of the codec's time.
+/// A waiting thread is woken when no more than this many source blocks are left: a wake-up for each
+/// block costs several percent of the codec's time.
 constexpr std::size_t kLeftWhenWaking = 1;
 
 }  // namespace
@@ -40,13 +40,13 @@ void Worker::stop() {
 void Worker::run() {
   pthread_setname_np(pthread_self(), "aac-converter");
   while (!stopping_) {
-    takeUpUrgency();
-    processWaiting();
+    updatePriority();
+    processQueue();
     work_.acquire();
   }
 }
 
-void Worker::takeUpUrgency() {
+void Worker::updatePriority() {
   const bool urgent = urgent_.load(std::memory_order_relaxed);
   if (urgent == isUrgent_) return;
   isUrgent_ = urgent;
@@ -57,7 +57,7 @@ void Worker::takeUpUrgency() {
   }
 }
 
-void Worker::processWaiting() {
+void Worker::processQueue() {
   while (const SourceBlock* block = source_.front()) {
     if (stopping_) return;
     AudioBlock* encoded = encoded_.claim();

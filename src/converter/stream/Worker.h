@@ -11,38 +11,38 @@
 
 namespace converter {
 
-/// The thread that runs a unit's codec, and the two queues between it and the audio thread.
+/// Runs a unit's codec on a thread of its own, with two queues between it and the audio thread.
 class Worker {
  public:
   Worker(const UnitFormat& unit, std::size_t queueBlocks, OpenEncoder open = openEncoder);
   ~Worker() { stop(); }
 
-  /// Main thread, while the audio thread does not use the queues. Starting makes everything empty.
-  /// Throws `std::system_error` when there is no thread to be had; nothing is then made of the
-  /// source, and nobody waits for it.
+  /// Main thread, while the audio thread does not use the queues. Starting empties everything.
+  /// Throws `std::system_error` when no thread can be started; the source is then never encoded,
+  /// and `waitUntil` does not wait.
   void start();
   void stop();
-  /// While stopped. Null for none.
+  /// Null for none. Only while the worker is stopped.
   void setBitStreamSink(BitStreamSink* sink) { transcoder_->setBitStreamSink(sink); }
 
-  /// Any thread: whether the worker goes before ordinary threads, which it takes up when it wakes.
-  /// At first it does not.
+  /// Whether the worker runs above ordinary threads, from its next wake-up on; at first it does
+  /// not. Any thread.
   void setUrgent(bool urgent) { urgent_.store(urgent, std::memory_order_relaxed); }
 
-  /// Audio thread writes, and calls `wake` before it counts on what it has pushed.
+  /// Audio thread writes, and calls `wake` when it needs what it has pushed to be processed.
   SpscQueue<SourceBlock>& source() { return source_; }
   /// Audio thread reads.
   SpscQueue<AudioBlock>& encoded() { return encoded_; }
   void wake() { work_.release(); }
 
-  /// Audio thread: waits until `ready`, which the worker's progress has to make true sooner or
-  /// later. Without a worker it only looks.
+  /// Waits until `ready()`, which the worker's progress must make true in the end. Without a
+  /// running worker it does not wait. Audio thread, or another while that does not render.
   template <typename Ready>
   void waitUntil(Ready ready) {
     while (!ready() && thread_.joinable()) {
       waiting_.exchange(true, std::memory_order_acq_rel);
       wake();
-      // Either this look sees the progress, or the worker has yet to see that somebody waits.
+      // Either this check sees the progress, or the worker still has to see `waiting_`.
       if (!ready()) progress_.acquire();
       waiting_.exchange(false, std::memory_order_acq_rel);
     }
@@ -53,13 +53,13 @@ class Worker {
 
  private:
   void run();
-  void processWaiting();
-  void takeUpUrgency();
+  void processQueue();
+  void updatePriority();
 
   SpscQueue<SourceBlock> source_;
   SpscQueue<AudioBlock> encoded_;
   std::unique_ptr<BlockTranscoder> transcoder_;
-  /// Takes the encoded block that finds its queue full, so that the codec goes on all the same.
+  /// Receives the encoded block when its queue is full, so that the codec can go on.
   AudioBlock surplus_;
   Semaphore work_;
   Semaphore progress_;

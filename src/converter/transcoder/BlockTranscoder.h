@@ -9,21 +9,21 @@
 
 namespace converter {
 
-/// How the codec does.
+/// The state of the codec.
 struct CodecReport {
-  /// Of the setting last taken up.
+  /// Of the setting last adopted.
   BitRate bitRate{0, 0};
-  /// What the codec runs with; nothing while no codec can be opened.
+  /// The setting that the codec runs with; empty while no codec can be opened.
   std::optional<Setting> inUse;
-  /// The last setting asked for, where no codec could be opened for it.
+  /// The setting last requested, if no codec could be opened for it.
   std::optional<Setting> refused;
-  /// Since the transcoder was made: codecs that could not be opened, and access units that could
-  /// not be made or decoded and are silence.
+  /// Since the transcoder was made: codecs that could not be opened, plus access units that could
+  /// not be encoded or decoded and were replaced by silence.
   UInt64 failures = 0;
 };
 
-/// Turns blocks of the source into blocks of the encoded signal, and one setting into another. What
-/// comes out depends only on the blocks that went in. Worker thread.
+/// Turns blocks of the source into blocks of the encoded signal, and changes settings in mid-play.
+/// The output depends on nothing but the blocks passed in. Worker thread.
 class BlockTranscoder {
  public:
   BlockTranscoder() = default;
@@ -31,18 +31,17 @@ class BlockTranscoder {
   BlockTranscoder& operator=(const BlockTranscoder&) = delete;
   virtual ~BlockTranscoder() = default;
 
-  /// Takes the next block of the source and writes the block of the encoded signal that has become
-  /// complete, `encodedBehindSource` before it. When blocks are missing in between, the codec
-  /// starts anew, and the encoded signal begins where the source begins again, as it does with the
-  /// first block.
+  /// Takes the next block of the source and writes the block of the encoded signal that it
+  /// completes, `encodedBehindSource` before it. If blocks are missing in between, the codec is
+  /// restarted, and the encoded signal starts again where the source does, as at the first block.
   virtual void process(const SourceBlock& source, AudioBlock& encoded) = 0;
 
-  /// Takes the access units from the next encoder on. Null for none.
+  /// Sends the access units of every encoder opened from now on to `sink`; null for none.
   virtual void setBitStreamSink(BitStreamSink* sink) = 0;
 
   virtual CodecReport report() const = 0;
 
-  /// Forgets all audio.
+  /// Discards all audio; failures stay counted.
   virtual void clear() = 0;
 };
 

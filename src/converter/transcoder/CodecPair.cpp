@@ -5,7 +5,7 @@
 namespace converter {
 namespace {
 
-/// The grid position of the frame from which an encoder has to start.
+/// Where the first frame to encode starts, on the grid of frames, for output from `start` on.
 Position firstFrame(const CodecTiming& timing, Position start) {
   const Position length = timing.frameLength;
   const Position containing = (start + timing.delay) / length;
@@ -25,13 +25,13 @@ CodecPair::CodecPair(std::unique_ptr<Encoder> encoder, const UnitFormat& unit, P
       start_(start),
       sink_(sink),
       lookaheadLeft_(timing_.lookaheadFrames),
-      decodedBegin_(nextFrame_ - timing_.delay),
-      decodedEnd_(decodedBegin_) {
+      decodedStart_(nextFrame_ - timing_.delay),
+      decodedEnd_(decodedStart_) {
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     decoded_[channel].resize(std::size_t{kBlockFrames} + timing_.frameLength);
   }
   if (sink_ != nullptr) {
-    sink_->streamBegan(
+    sink_->startStream(
         {encoder_->configuration(), unit.sampleRate, unit.channels, timing_.frameLength});
   }
 }
@@ -43,20 +43,20 @@ void CodecPair::render(const SourceHistory& history, Position position, UInt32 f
     keepFrom(position);
     codeFrame(history);
   }
-  const Position offset = position - decodedBegin_;
+  const Position offset = position - decodedStart_;
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     std::copy_n(decoded_[channel].begin() + offset, frames, output[channel]);
   }
 }
 
 void CodecPair::keepFrom(Position position) {
-  const Position kept = std::min(std::max(position, decodedBegin_), decodedEnd_);
+  const Position kept = std::min(std::max(position, decodedStart_), decodedEnd_);
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     auto& plane = decoded_[channel];
-    std::copy(plane.begin() + (kept - decodedBegin_), plane.begin() + (decodedEnd_ - decodedBegin_),
+    std::copy(plane.begin() + (kept - decodedStart_), plane.begin() + (decodedEnd_ - decodedStart_),
               plane.begin());
   }
-  decodedBegin_ = kept;
+  decodedStart_ = kept;
 }
 
 void CodecPair::codeFrame(const SourceHistory& history) {
@@ -70,14 +70,14 @@ void CodecPair::codeFrame(const SourceHistory& history) {
     --lookaheadLeft_;
     return;
   }
-  if (sink_ != nullptr && !accessUnit.empty()) sink_->accessUnitMade({accessUnit, decodedEnd_});
+  if (sink_ != nullptr && !accessUnit.empty()) sink_->writeAccessUnit({accessUnit, decodedEnd_});
   const Position decodedNext = decodedEnd_ + timing_.frameLength;
   if (decodedNext > start_) bitRate_.count(accessUnit.size());
-  // A failure leaves a frame of silence rather than everything behind it out of place.
+  // Silence in place of a failed frame keeps everything after it aligned.
   const float* const* planes = accessUnit.empty() ? nullptr : decoder_->decode(accessUnit);
   if (planes == nullptr) ++failures_;
   for (UInt32 channel = 0; channel < channels_; ++channel) {
-    const auto to = decoded_[channel].begin() + (decodedEnd_ - decodedBegin_);
+    const auto to = decoded_[channel].begin() + (decodedEnd_ - decodedStart_);
     if (planes != nullptr) {
       std::copy_n(planes[channel], timing_.frameLength, to);
     } else {

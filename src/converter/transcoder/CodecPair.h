@@ -14,29 +14,28 @@
 
 namespace converter {
 
-/// An encoder and its decoder as one source of samples: asked for a stretch of the encoded signal
-/// by position in the source, it takes from the history the frames that this needs. One thread at a
-/// time.
+/// An encoder with its decoder: renders the encoded signal by position in the source, and reads the
+/// frames that this takes from the history. One thread at a time.
 class CodecPair {
  public:
-  /// Good for stretches from `start` on. Throws `std::runtime_error` when a codec refuses. `sink`
-  /// is shown the access units, unless it is null.
+  /// Can render from `start` on. Throws `std::runtime_error` when the decoder cannot be opened.
+  /// `sink` receives the access units; null for none.
   CodecPair(std::unique_ptr<Encoder> encoder, const UnitFormat& unit, Position start,
             BitStreamSink* sink = nullptr);
 
-  /// The sink belongs to another pair from now on.
-  void leaveBitStreamSink() { sink_ = nullptr; }
+  /// Stops sending access units to the sink, because another pair does.
+  void detachBitStreamSink() { sink_ = nullptr; }
 
-  /// Writes the encoded signal at [position, position + frames), at most `kBlockFrames`, in the
-  /// source's own time. Positions only ever rise. The history has to reach `delay + frameLength`
-  /// further, one frame more for each of lookahead.
+  /// Writes the encoded signal at [position, position + frames), aligned with the source; at most
+  /// `kBlockFrames`. Positions never go back. The history must reach `delay + frameLength` beyond
+  /// the end, and a frame more for each frame of lookahead.
   void render(const SourceHistory& history, Position position, UInt32 frames,
               std::span<float* const> output);
 
-  /// Of the access units since priming.
+  /// Of the access units made since priming.
   BitRate bitRate() const { return bitRate_.value(); }
 
-  /// Access units that could not be made or decoded, since the last call.
+  /// Access units that could not be encoded or decoded, since the last call.
   UInt64 takeFailures() { return std::exchange(failures_, 0); }
 
  private:
@@ -53,9 +52,9 @@ class CodecPair {
   BitStreamSink* sink_;
   UInt64 failures_ = 0;
   UInt32 lookaheadLeft_;
-  /// The decoded samples at [decodedBegin_, decodedEnd_).
+  /// The decoded samples at [decodedStart_, decodedEnd_).
   std::array<std::vector<float>, kMaximumChannels> decoded_;
-  Position decodedBegin_;
+  Position decodedStart_;
   Position decodedEnd_;
 };
 

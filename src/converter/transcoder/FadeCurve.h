@@ -4,12 +4,12 @@
 
 namespace converter {
 
-/// The gains of the signal that a cross-fade leads to: a raised cosine from above 0 to below 1, the
-/// same backwards and forwards. The two gains add up to 1, because the signals are equal but for
-/// the encoder's error.
+/// The gains of a cross-fade's incoming signal: a raised cosine, without its end points 0 and 1.
+/// The outgoing signal gets 1 minus the gain: the two signals are equal except for coding errors,
+/// so the gains, not the powers, have to add up to 1.
 std::vector<float> fadeCurve(double sampleRate);
 
-/// Length of every cross-fade.
+/// Length of every cross-fade, seconds.
 inline constexpr double kFadeSeconds = 0.010;
 
 }  // namespace converter

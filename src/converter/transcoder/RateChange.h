@@ -8,25 +8,25 @@
 
 namespace converter {
 
-/// Halves or doubles the sample rate of a signal without moving it: sample n comes out for sample
-/// 2n or n/2. What comes out depends on the samples alone as long as they come in blocks of one
-/// size. Worker thread.
+/// Halves or doubles a signal's sample rate without shifting it in time: output sample n lies at
+/// input sample 2n or n/2. The output depends only on the samples as long as all blocks have the
+/// same size. Worker thread.
 class RateChange {
  public:
   enum class Direction { halve, doubleUp };
 
-  /// `blockFrames` is the most that `process` is given. Throws `std::runtime_error` when there is
-  /// no resampler.
+  /// `blockFrames` is the largest block for `process`. Throws `std::runtime_error` when libsoxr
+  /// cannot make a resampler.
   RateChange(Direction direction, UInt32 channels, UInt32 blockFrames);
 
-  /// Takes the next samples and returns how many have come out into `planes`: at most
-  /// `kResamplerDelay` of the higher rate less than belong to what was taken since the start.
+  /// Takes the next samples and returns how many were written to the planes. In all, the output
+  /// lags behind the input by at most `kResamplerDelay` samples of the higher rate.
   std::size_t process(std::span<const float* const> input, UInt32 frames);
 
-  /// Of the last `process`, valid until the next.
+  /// Output of the last `process`, valid until the next.
   const float* plane(UInt32 channel) const { return planes_[channel].data(); }
 
-  /// The next sample is the first of a new signal.
+  /// Starts a new signal.
   void clear();
 
  private:

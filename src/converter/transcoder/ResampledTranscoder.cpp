@@ -33,7 +33,7 @@ void ResampledTranscoder::process(const SourceBlock& source, AudioBlock& encoded
   const std::size_t frames = down_.process(input, kBlockFrames);
   takeHalved(std::array{down_.plane(0), down_.plane(channels_ - 1)}.data(), frames);
   encoded.position = source.audio.position - behind_;
-  give(encoded);
+  writeEncoded(encoded);
 }
 
 void ResampledTranscoder::clear() {
@@ -41,20 +41,20 @@ void ResampledTranscoder::clear() {
   codec_.clear();
 }
 
-/// The codec's blocks lie on the grid of its own rate, so the first one may begin with silence.
+/// The codec's blocks lie on the grid of its own rate, so the first one may start with silence.
 void ResampledTranscoder::restart(const SourceBlock& source) {
   codec_.clear();
   down_.clear();
   up_.clear();
   changes_.clear();
-  begin_ = source.audio.position;
-  const Position start = begin_ / kRatio;
+  start_ = source.audio.position;
+  const Position start = start_ / kRatio;
   halved_.setting = source.setting;
   halved_.audio.position = start - start % kBlockFrames;
   halvedFrames_ = static_cast<UInt32>(start - halved_.audio.position);
   for (auto& plane : halved_.audio.planes) std::fill_n(plane.begin(), halvedFrames_, 0.0F);
   for (auto& plane : doubled_) plane.clear();
-  doubledBegin_ = kRatio * (halved_.audio.position - kEncodedBehindSource);
+  doubledStart_ = kRatio * (halved_.audio.position - kEncodedBehindSource);
 }
 
 void ResampledTranscoder::takeHalved(const float* const* planes, std::size_t frames) {
@@ -66,12 +66,12 @@ void ResampledTranscoder::takeHalved(const float* const* planes, std::size_t fra
     }
     halvedFrames_ += static_cast<UInt32>(step);
     done += step;
-    if (halvedFrames_ == kBlockFrames) code();
+    if (halvedFrames_ == kBlockFrames) codeBlock();
   }
 }
 
-void ResampledTranscoder::code() {
-  halved_.audio.begin = halved_.audio.position;
+void ResampledTranscoder::codeBlock() {
+  halved_.audio.validFrom = halved_.audio.position;
   halved_.change.reset();
   if (!changes_.empty() && changes_.front().position < halved_.audio.end()) {
     halved_.change = changes_.front();
@@ -82,11 +82,11 @@ void ResampledTranscoder::code() {
   halved_.audio.position += kBlockFrames;
   halvedFrames_ = 0;
 
-  if (coded_.begin > coded_.position) begin_ = std::max(begin_, kRatio * coded_.begin);
+  if (coded_.validFrom > coded_.position) start_ = std::max(start_, kRatio * coded_.validFrom);
   std::array<const float*, kMaximumChannels> input{};
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     auto& plane = coded_.planes[channel];
-    std::fill_n(plane.begin(), coded_.begin - coded_.position, 0.0F);
+    std::fill_n(plane.begin(), coded_.validFrom - coded_.position, 0.0F);
     input[channel] = plane.data();
   }
   const std::size_t frames = up_.process(input, kBlockFrames);
@@ -96,19 +96,20 @@ void ResampledTranscoder::code() {
   }
 }
 
-/// A block that the resamplers keep back too long is missing, and counted as such.
-void ResampledTranscoder::give(AudioBlock& encoded) {
+/// A block that the resamplers have not completed is left out; the audio thread counts it as
+/// missed.
+void ResampledTranscoder::writeEncoded(AudioBlock& encoded) {
   const Position end = encoded.end();
-  const bool isThere = doubledBegin_ + static_cast<Position>(doubled_[0].size()) >= end;
-  encoded.begin = isThere ? std::clamp(begin_, encoded.position, end) : end;
-  if (!isThere || doubledBegin_ >= end) return;
+  const bool isThere = doubledStart_ + static_cast<Position>(doubled_[0].size()) >= end;
+  encoded.validFrom = isThere ? std::clamp(start_, encoded.position, end) : end;
+  if (!isThere || doubledStart_ >= end) return;
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     auto& plane = doubled_[channel];
-    std::copy_n(plane.begin() + (encoded.begin - doubledBegin_), end - encoded.begin,
-                encoded.planes[channel].begin() + (encoded.begin - encoded.position));
-    plane.erase(plane.begin(), plane.begin() + (end - doubledBegin_));
+    std::copy_n(plane.begin() + (encoded.validFrom - doubledStart_), end - encoded.validFrom,
+                encoded.planes[channel].begin() + (encoded.validFrom - encoded.position));
+    plane.erase(plane.begin(), plane.begin() + (end - doubledStart_));
   }
-  doubledBegin_ = end;
+  doubledStart_ = end;
 }
 
 }  // namespace converter

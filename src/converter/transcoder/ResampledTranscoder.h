@@ -8,8 +8,8 @@
 
 namespace converter {
 
-/// A transcoder for units above the highest rate of AAC: halves the rate before the codec and
-/// doubles it behind.
+/// Transcodes for units above the highest rate of AAC: halves the rate before the codec and doubles
+/// it after.
 class ResampledTranscoder final : public BlockTranscoder {
  public:
   ResampledTranscoder(const UnitFormat& unit, OpenEncoder open);
@@ -22,8 +22,8 @@ class ResampledTranscoder final : public BlockTranscoder {
  private:
   void restart(const SourceBlock& source);
   void takeHalved(const float* const* planes, std::size_t frames);
-  void code();
-  void give(AudioBlock& encoded);
+  void codeBlock();
+  void writeEncoded(AudioBlock& encoded);
 
   UInt32 channels_;
   Position behind_;
@@ -31,17 +31,17 @@ class ResampledTranscoder final : public BlockTranscoder {
   RateChange down_;
   RateChange up_;
   std::optional<Position> expected_;
-  /// Where the encoded signal begins, at the unit's rate.
-  Position begin_ = 0;
-  /// At the codec's rate, still to be handed on.
+  /// Where the encoded signal starts, at the unit's rate.
+  Position start_ = 0;
+  /// Changes not yet passed to the codec; at the codec's rate.
   std::deque<SettingChange> changes_;
-  /// Being filled, at the codec's rate.
+  /// The block being filled, at the codec's rate.
   SourceBlock halved_;
   UInt32 halvedFrames_ = 0;
   AudioBlock coded_;
-  /// The encoded signal at the unit's rate from `doubledBegin_` on.
+  /// The encoded signal at the unit's rate from `doubledStart_` on.
   std::array<std::vector<float>, kMaximumChannels> doubled_;
-  Position doubledBegin_ = 0;
+  Position doubledStart_ = 0;
 };
 
 }  // namespace converter

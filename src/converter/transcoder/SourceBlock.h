@@ -6,12 +6,12 @@
 
 namespace converter {
 
-/// What the audio thread hands to the worker.
+/// A block of the source, from the audio thread to the worker.
 struct SourceBlock {
   AudioBlock audio;
-  /// In force at the block's first sample.
+  /// In effect at the block's first sample.
   Setting setting;
-  /// Inside the block; changes are at least as far apart, so there is never a second.
+  /// A change inside the block. There is never a second: changes are at least a block apart.
   std::optional<SettingChange> change;
 };
 

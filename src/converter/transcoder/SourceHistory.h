@@ -7,24 +7,24 @@
 
 namespace converter {
 
-/// The latest stretch of the source, by position: what an encoder that starts late is primed from.
-/// Silence before the first sample. Worker thread.
+/// The most recent samples of the source, by position; they prime an encoder that is opened in
+/// mid-signal. Silence before the first sample. Worker thread.
 class SourceHistory {
  public:
-  /// More than the longest way from the newest sample back to the first one that an encoder needs
-  /// (HEv2: delay, block and priming together 14,335 samples). A power of two, so that no frame
-  /// wraps.
+  /// More than an encoder can need behind the newest sample (HEv2: a block, five priming frames and
+  /// rounding to the frame grid, at most 14,335 samples). A power of two, so that no frame wraps.
   static constexpr UInt32 kFrames = 16384;
 
   explicit SourceHistory(UInt32 channels);
 
-  /// Takes the next block. What lies between the last block and this one, if anything, is silence.
+  /// Takes the next block. A gap since the last block becomes silence.
   void write(const AudioBlock& block);
 
-  /// `length` samples of a channel from `position`, a multiple of `length` that is 1024 or 2048.
+  /// The codec frame of a channel that starts at `position`, a multiple of the frame length (1024
+  /// or 2048). Contiguous.
   const float* frame(UInt32 channel, Position position) const;
 
-  /// Silence everywhere; the next block may be any.
+  /// Sets everything to silence. The next block may have any position.
   void clear();
 
  private:

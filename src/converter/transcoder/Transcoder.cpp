@@ -17,7 +17,7 @@ Transcoder::Transcoder(const UnitFormat& unit, OpenEncoder open)
 }
 
 void Transcoder::process(const SourceBlock& source, AudioBlock& encoded) {
-  // Without a codec every block tries again: what stood in the way may have passed.
+  // Without a codec, try again at every block: the cause may have gone.
   if (expected_ != source.audio.position || !pair_) restart(source);
   expected_ = source.audio.end();
   history_.write(source.audio);
@@ -25,9 +25,9 @@ void Transcoder::process(const SourceBlock& source, AudioBlock& encoded) {
 
   encoded.position = source.audio.position - kEncodedBehindSource;
   const Position end = encoded.end();
-  encoded.begin = std::clamp(begin_, encoded.position, end);
-  if (!pair_) encoded.begin = end;
-  for (Position position = encoded.begin; position < end;) {
+  encoded.validFrom = std::clamp(start_, encoded.position, end);
+  if (!pair_) encoded.validFrom = end;
+  for (Position position = encoded.validFrom; position < end;) {
     position += renderStep(position, end, encoded);
   }
   takeFailures();
@@ -56,13 +56,13 @@ void Transcoder::clear() {
 void Transcoder::restart(const SourceBlock& source) {
   fade_.reset();
   changes_.clear();
-  begin_ = source.audio.position;
+  start_ = source.audio.position;
   inUse_.reset();
-  pair_ = openPair(source.setting, begin_);
+  pair_ = openPair(source.setting, start_);
 }
 
-/// Null when the codec cannot be opened: in mid-play there is nobody to tell, but for those who
-/// read the report.
+/// Null when the codec cannot be opened. In mid-play nobody catches exceptions, so the failure goes
+/// into the report.
 std::unique_ptr<CodecPair> Transcoder::openPair(const Setting& setting, Position start) {
   try {
     auto pair = std::make_unique<CodecPair>(open_(setting, unit_), unit_, start, sink_);
@@ -77,10 +77,10 @@ std::unique_ptr<CodecPair> Transcoder::openPair(const Setting& setting, Position
 }
 
 /// Keeps the old pair when the new one cannot be opened.
-void Transcoder::beginFade(const SettingChange& change) {
+void Transcoder::startFade(const SettingChange& change) {
   auto to = openPair(change.setting, change.position);
   if (!to) return;
-  pair_->leaveBitStreamSink();
+  pair_->detachBitStreamSink();
   fade_.emplace(Fade{change.position + static_cast<Position>(curve_.size()), std::move(to)});
 }
 
@@ -89,7 +89,7 @@ void Transcoder::takeFailures() {
   if (fade_) failures_ += fade_->to->takeFailures();
 }
 
-/// Writes the samples up to the next point where something begins or ends; returns how many.
+/// Renders up to the next start or end of a fade, or to `end`; returns the number of samples.
 UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encoded) {
   if (fade_ && fade_->end <= position) {
     takeFailures();
@@ -97,7 +97,7 @@ UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encod
     fade_.reset();
   }
   if (!fade_ && !changes_.empty() && changes_.front().position <= position) {
-    beginFade(changes_.front());
+    startFade(changes_.front());
     changes_.pop_front();
   }
   Position until = end;
@@ -122,8 +122,8 @@ UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encod
 }
 
 void Transcoder::mix(std::span<float* const> output, UInt32 frames, Position position) const {
-  const Position begin = fade_->end - static_cast<Position>(curve_.size());
-  const float* gains = curve_.data() + (position - begin);
+  const Position start = fade_->end - static_cast<Position>(curve_.size());
+  const float* gains = curve_.data() + (position - start);
   for (UInt32 channel = 0; channel < unit_.channels; ++channel) {
     float* old = output[channel];
     const float* fresh = fadedIn_[channel].data();

@@ -11,7 +11,7 @@
 
 namespace converter {
 
-/// Transcodes at the unit's own rate, which the codec knows.
+/// Transcodes at the unit's own rate, which AAC supports.
 class Transcoder final : public BlockTranscoder {
  public:
   explicit Transcoder(const UnitFormat& unit, OpenEncoder open = openEncoder);
@@ -30,7 +30,7 @@ class Transcoder final : public BlockTranscoder {
   void restart(const SourceBlock& source);
   std::unique_ptr<CodecPair> openPair(const Setting& setting, Position start);
   void takeFailures();
-  void beginFade(const SettingChange& change);
+  void startFade(const SettingChange& change);
   UInt32 renderStep(Position position, Position end, AudioBlock& encoded);
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
 
@@ -40,7 +40,7 @@ class Transcoder final : public BlockTranscoder {
   std::vector<float> curve_;
   SourceHistory history_;
   std::optional<Position> expected_;
-  Position begin_ = 0;
+  Position start_ = 0;
   std::unique_ptr<CodecPair> pair_;
   std::optional<Fade> fade_;
   std::optional<Setting> inUse_;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "converter/codec/Encoder.h"
-#include "converter/stream/Controls.h"
+#include "converter/stream/RenderControls.h"
 #include "converter/stream/Renderer.h"
 #include "converter/unit/ConverterUnit.h"
 #include "converter/unit/Parameters.h"
@@ -42,7 +42,7 @@ class AacConverter final : public ConverterUnit {
   UInt32 listeningTestActive_ = 0;
   UInt32 offlineRender_ = 0;
   UInt32 metering_ = 1;
-  Controls controls_;
+  RenderControls controls_;
   Parameters parameters_;
   Renderer renderer_;
 };

@@ -106,7 +106,7 @@ M4aFile::M4aFile(std::unique_ptr<AtomicFile> file, std::int64_t frames, std::uin
 
 M4aFile::~M4aFile() = default;
 
-void M4aFile::streamBegan(const converter::BitStream& stream) noexcept {
+void M4aFile::startStream(const converter::BitStream& stream) noexcept {
   if (muxer_) return fail("the encoder began anew");
   configuration_.assign(stream.configuration.begin(), stream.configuration.end());
   stream_ = stream;
@@ -114,7 +114,7 @@ void M4aFile::streamBegan(const converter::BitStream& stream) noexcept {
   frames_ = av_rescale_rnd(sourceFrames_, std::lround(stream.sampleRate), sourceRate_, AV_ROUND_UP);
 }
 
-void M4aFile::accessUnitMade(const converter::AccessUnit& unit) noexcept {
+void M4aFile::writeAccessUnit(const converter::AccessUnit& unit) noexcept {
   // What comes behind the last frame is nothing that a player needs.
   if (!error_.empty() || unit.position >= frames_) return;
   int error = 0;

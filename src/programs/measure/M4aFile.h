@@ -20,8 +20,8 @@ class M4aFile final : public converter::BitStreamSink {
   /// Without `finish` nothing is left behind.
   ~M4aFile() override;
 
-  void streamBegan(const converter::BitStream& stream) noexcept override;
-  void accessUnitMade(const converter::AccessUnit& unit) noexcept override;
+  void startStream(const converter::BitStream& stream) noexcept override;
+  void writeAccessUnit(const converter::AccessUnit& unit) noexcept override;
 
   /// Ends the file and gives it its name. Throws `Failure` when anything went wrong on the way.
   /// After the last access unit.

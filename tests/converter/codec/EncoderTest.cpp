@@ -40,7 +40,7 @@ TEST(Encoder, RefusesASampleRateThatAacDoesNotKnow) {
   EXPECT_THROW(openEncoder({.bitRate = 128000}, unit), std::runtime_error);
 }
 
-/// Access units of two seconds of music, without those of the start.
+/// Sizes of the access units of two seconds of music, without the first six.
 std::vector<std::size_t> accessUnitBits(const converter::Setting& setting, const UnitFormat& unit) {
   const auto encoder = openEncoder(setting, unit);
   const std::size_t length = encoder->timing().frameLength;

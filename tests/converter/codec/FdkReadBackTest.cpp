@@ -9,7 +9,7 @@ namespace {
 using converter::Setting;
 using converter::UnitFormat;
 
-/// The bit rate that the library really takes; -1 when it refuses the setting.
+/// The bit rate that the library actually uses; -1 when it refuses the setting.
 int rateReadBack(const Setting& setting, const UnitFormat& unit) {
   const AUDIO_OBJECT_TYPE types[] = {AOT_AAC_LC, AOT_SBR, AOT_PS};
   AACENCODER* encoder = nullptr;

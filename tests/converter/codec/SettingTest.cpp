@@ -95,7 +95,7 @@ struct Limits {
   std::uint32_t highest;
 };
 
-/// bit/s as the encoder library reads back what it was given too little or too much.
+/// In bit/s, as read back from the encoder library after asking for too little and too much.
 constexpr Limits kAverageLimits[] = {
     {Format::lc, 1, 32000, 16000, 192000},   {Format::lc, 1, 44100, 16000, 264600},
     {Format::lc, 1, 48000, 16000, 288000},   {Format::lc, 1, 88200, 21360, 320000},

@@ -2,6 +2,6 @@
 
 #include <cstddef>
 
-/// Allocations with `new` in this program since it started, by all threads. A program that links
-/// this has its own operator new.
+/// Allocations with `new` since the program started, by all threads. Linking this replaces the
+/// global operator new.
 std::size_t allocationCount();

@@ -75,7 +75,7 @@ TEST(InterSampleAnalysis, GivesTheReadingsOfEveryPointWhereFullScaleIsJustReache
 }
 
 TEST(InterSampleAnalysis, GivesTheReadingsOfEveryPointOnSignsThatAddUpInTheFilter) {
-  // Full-scale samples with the signs of the longest filter's weights: no signal reaches higher.
+  // Full-scale samples with the signs of the longest filter's weights: the worst case.
   Samples samples(200);
   for (std::size_t i = 0; i < 20; ++i) {
     const float sign = i % 2 == 0 ? 1.0F : -1.0F;
@@ -96,7 +96,7 @@ TEST(InterSampleAnalysis, LooksNoFurtherThanItSays) {
   for (std::size_t i = 100 + count + converter::kSamplesAfter; i < samples.size(); ++i) {
     samples[i] = 50;
   }
-  // The interval after the last one depends on the sample that has just been changed.
+  // The interval after the last one does depend on the sample changed above.
   InterSampleReadings after{0, 0};
   analyseIntervals(at, count, after);
   EXPECT_EQ(after.peak, before.peak);

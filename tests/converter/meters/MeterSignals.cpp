@@ -11,7 +11,7 @@ namespace {
 
 using std::numbers::pi;
 
-/// A low-pass of `2 * reach + 1` taps under a Blackman window.
+/// A Blackman-windowed low-pass of `2 * reach + 1` taps.
 std::vector<double> lowPass(double cutoff, int reach) {
   std::vector<double> taps;
   for (int i = -reach; i <= reach; ++i) {
@@ -119,7 +119,7 @@ Samples mix(std::size_t frames, float peak, unsigned seed) {
       const double phase = uniform(random);
       for (int harmonic = 1; harmonic <= 24 && harmonic * pitch < 0.35; ++harmonic) {
         const std::size_t end = std::min(frames, start + 2 * note);
-        // A turning pointer is much faster than a sine for each sample.
+        // A rotating phasor is much faster than a sine for each sample.
         std::complex<double> pointer = std::polar(0.3 / harmonic, 2 * pi * harmonic * phase);
         const std::complex<double> turn =
             std::polar(std::exp(-1.0 / 6000), 2 * pi * harmonic * pitch);

@@ -14,7 +14,7 @@ using velk::PeakStatistics;
 
 namespace {
 
-/// A block all of whose members tell the same number, so that a mixture of two shows.
+/// Statistics whose members all encode the same number, so that a mixture of two shows.
 PeakStatistics blockOf(std::int64_t number, std::int64_t clips) {
   PeakStatistics block;
   block.fill({static_cast<float>(number), static_cast<float>(number), clips, number});
@@ -26,7 +26,7 @@ bool isWhole(const PeakStatistics& block) {
          same(block, blockOf(block[0].mInterSampleClipCount, block[0].mSampleClipCount));
 }
 
-/// Enough that a reader without its second look at the edition is caught in most runs.
+/// Enough to catch, in most runs, a reader that does not check the edition a second time.
 constexpr std::int64_t kRounds = 1000000;
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include "contract/ConverterInterface.h"
 
-/// Whether two records or blocks hold the same values.
+/// Whether two sets of statistics hold the same values.
 inline bool same(const velk::TruePeakStats& a, const velk::TruePeakStats& b) {
   return a.mSamplePeak == b.mSamplePeak && a.mInterSamplePeak == b.mInterSamplePeak &&
          a.mSampleClipCount == b.mSampleClipCount &&

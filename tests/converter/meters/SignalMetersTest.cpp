@@ -16,7 +16,7 @@ using velk::PeakStatistics;
 
 namespace {
 
-/// Feeds `frames` frames from `at` of a different signal in every plane.
+/// Planes that each hold a different signal.
 struct Feed {
   std::array<Samples, 4> planes{
       meter_signals::hotMix(20000, 2.0F, 1), meter_signals::mix(20000, 0.2F, 2),
@@ -30,7 +30,7 @@ struct Feed {
     meters.pass(from(0, at).data(), from(2, at).data(), frames);
   }
 
-  /// Two planes from the first one on.
+  /// Two planes from index `plane` on, starting at frame `at`.
   std::array<const float*, 2> from(std::size_t plane, std::size_t at) const {
     return {planes[plane].data() + at, planes[plane + 1].data() + at};
   }

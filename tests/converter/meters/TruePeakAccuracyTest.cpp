@@ -34,7 +34,7 @@ double meteredByEbur128(const Samples& samples, unsigned long rate) {
   return decibels(peak);
 }
 
-/// Keeps the extremes of an error, for the test's report.
+/// Keeps the smallest and largest error for the test's report.
 struct Errors {
   double lowest = 0;
   double highest = 0;

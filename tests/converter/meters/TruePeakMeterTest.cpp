@@ -77,7 +77,7 @@ TEST(TruePeakMeter, CountsSampleClipsExactlyOnHotNoise) {
 }
 
 TEST(TruePeakMeter, CountsOneOverForEachCrestBetweenTwoSamples) {
-  // Samples of magnitude 0.997 in pairs: the crest is between the two of a pair, nowhere else.
+  // Pairs of samples of magnitude 0.997: the crest lies between the two of a pair and nowhere else.
   constexpr std::size_t frames = 4000;
   TruePeakMeter meter;
   feed(meter, meter_signals::sine(0.25, 45, 1.41, frames));
@@ -108,7 +108,7 @@ TEST(TruePeakMeter, ReadsAnImpulseAsItsOwnHeight) {
 }
 
 TEST(TruePeakMeter, ReadsConstantFullScaleWithoutOvers) {
-  // Only the onset overshoots; it is over when the reset comes.
+  // Only the onset overshoots, and it is over by the time of the reset.
   for (float level : {1.0F, -1.0F, 0.999999F}) {
     TruePeakMeter meter;
     feed(meter, Samples(1000, level));

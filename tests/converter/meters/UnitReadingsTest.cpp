@@ -12,7 +12,7 @@
 
 namespace {
 
-/// What others read of one channel.
+/// One channel's readings by independent means.
 struct Plain {
   double samplePeak = 0;
   double truePeak = 0;
@@ -61,9 +61,9 @@ void PrintTo(const Case& each, std::ostream* out) {
 
 class UnitReadings : public testing::TestWithParam<Case> {
  protected:
-  /// Plays the music through a unit and holds all eight readings against the plain ones.
+  /// Plays the music through a unit and compares all eight readings with the independent ones.
   static void play(Signal source, double sampleRate, SInt32 preset) {
-    // The last intervals are metered with what follows them.
+    // The last intervals are metered only once more samples follow.
     for (auto& samples : source) samples.resize(samples.size() + 256);
     Rig rig({.sampleRate = sampleRate, .channels = 2, .maximumFrames = 1024});
     rig.setPreset(preset);

@@ -17,7 +17,7 @@
 #include <cstddef>
 #include <iterator>
 
-// The C library's own allocator, under the names that it keeps for those who replace the others.
+// The C library's own allocator, under the names it provides for programs that replace malloc.
 // NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 void* __libc_malloc(std::size_t size);

@@ -1,14 +1,14 @@
 #pragma once
 
-/// Counts what the calling thread does while one of these lives.
+/// Counts the calling thread's allocations, locks, waits and wake-ups while the object exists.
 class AudioThreadTraps {
  public:
   struct Counts {
-    /// Of the C allocator, which operator new uses, both ways.
+    /// Calls to allocate or free, by operator new and delete too.
     int allocations = 0;
-    /// Of mutexes, read-write locks and condition variables.
+    /// Calls on mutexes, spin locks, read-write locks and condition variables.
     int locks = 0;
-    /// Of semaphores.
+    /// Semaphore waits and posts.
     int waits = 0;
     int wakeUps = 0;
   };
@@ -21,7 +21,7 @@ class AudioThreadTraps {
   Counts counts() const;
 };
 
-/// From now on every system call of the calling thread, but for those that end a thread or wake
-/// another one, fails and is counted. Returns whether the system allows that.
+/// From now on every system call of the calling thread fails and is counted, except those that wake
+/// or end a thread. Returns whether the system allows this.
 bool trapSystemCalls();
 int trappedSystemCalls();

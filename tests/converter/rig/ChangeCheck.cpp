@@ -15,11 +15,10 @@ using converter::UnitFormat;
 
 namespace {
 
-/// How far around a cross-fade steps are compared, seconds: a cross-fade adds up to 0.4 % of the
-/// two signals' difference to each step of theirs, which only shows where both are at their
-/// steepest right inside it.
+/// How far around a cross-fade steps are compared, seconds. A cross-fade adds up to 0.4 % of the
+/// two signals' difference to each of their steps, which shows only if both are steepest inside it.
 constexpr double kAroundSeconds = 0.05;
-/// More than any encoder is primed with.
+/// More than any encoder needs for priming.
 constexpr Position kRunUp = 4 * Position{converter::kBlockFrames};
 
 Position fadeFrames(const UnitFormat& unit) {
@@ -30,7 +29,7 @@ Position aroundFrames(const UnitFormat& unit) {
   return std::lround(kAroundSeconds * unit.sampleRate);
 }
 
-/// A stretch of what one encoder makes.
+/// Part of one encoder's signal.
 struct Stretch {
   Position begin;
   Signal signal;
@@ -110,8 +109,8 @@ std::vector<ParameterValues> everySetting(int rates) {
   return settings;
 }
 
-/// Walks along pairs not yet used; where none is left, the way back is the end of the order, and
-/// the detours that are still open are put in before it.
+/// An Eulerian circuit: follows unused pairs until stuck, then backtracks, appending the dead ends,
+/// and inserts the remaining detours on the way back.
 std::vector<std::size_t> everyOrderedPair(std::size_t count) {
   std::vector<std::size_t> nextOf(count, 0);
   std::vector<std::size_t> stack{0};

@@ -4,7 +4,7 @@
 #include "converter/codec/Setting.h"
 #include "converter/transcoder/AudioBlock.h"
 
-/// What one encoder and its decoder make of `source` when they begin for the sample at `start`: the
-/// encoded signal from there to where the source ends, less what is still on its way.
+/// The encoded signal of `source` from `start` on, by an encoder and decoder opened for that
+/// position; it ends where the codec would need more source.
 Signal encodeFrom(const converter::Setting& setting, const converter::UnitFormat& unit,
                   const Signal& source, converter::Position start);

@@ -6,8 +6,8 @@
 
 #include "converter/unit/ConverterUnit.h"
 
-/// Does at random what hosts and views do to a unit, each step from a seed: settings, presets,
-/// monitor, test flag, resets of the statistics, and reading everything.
+/// Operates a unit at random as hosts and views do, reproducibly from a seed: settings, presets,
+/// monitor, test flag, statistics resets, and reading everything.
 class RandomOperator {
  public:
   RandomOperator(converter::ConverterUnit& unit, unsigned seed) : unit_(unit), random_(seed) {}
@@ -15,7 +15,7 @@ class RandomOperator {
   /// One step. Not on the audio thread.
   void operate();
 
-  /// Steps without end on a thread of its own, as long as the object returned lives.
+  /// Operates continuously on a thread of its own until the returned thread is destroyed.
   [[nodiscard]] std::jthread operateAllTheTime(
       std::chrono::microseconds pause = std::chrono::microseconds(0));
 

@@ -8,14 +8,14 @@
 #include "contract/ConverterInterface.h"
 #include "converter/unit/ConverterUnit.h"
 
-/// How far the step of a cross-fade may pass the largest one of the two signals. The encoder that
-/// stands in where FDK AAC is missing is so far from the source that fading to it adds a little.
+/// The largest step allowed in a cross-fade, relative to the largest step of its two signals. The
+/// encoder used without FDK AAC is so far from the source that fading to it adds a little.
 inline float mostStep() {
   return converter::hasHighEfficiencyEncoder() ? 1.0F : 1.02F;
 }
 
-/// A unit with what tests do to it. Renders off line unless told otherwise, so that nothing depends
-/// on the speed of the machine.
+/// A unit with the operations that tests need. Renders offline unless told otherwise, so that
+/// nothing depends on the machine's speed.
 class Rig {
  public:
   explicit Rig(const converter::UnitFormat& format = {
@@ -26,7 +26,7 @@ class Rig {
   converter::ConverterUnit& unit() { return *unit_; }
   const converter::UnitFormat& format() const { return format_; }
 
-  /// Fail the test when the unit refuses.
+  /// These fail the test when the unit returns an error.
   void setParameter(AudioUnitParameterID id, float value);
   void setSetting(float format, float strategy, float rateOrQuality);
   void setPreset(SInt32 number);
@@ -42,17 +42,17 @@ class Rig {
   }
   UInt64 missedFrames() { return property<UInt64>(converter::kConverterProperty_MissedFrames); }
 
-  /// Renders the input in blocks of `block` frames; the output as it comes, delayed.
+  /// Renders the input in blocks of `block` frames; returns the output with its latency.
   Signal render(const Signal& input, std::size_t block = 512);
-  /// In blocks as long as `nextBlock` says, which is called before every block with its position in
-  /// the input.
+  /// The same in blocks of varying length: `nextBlock` is called before each block with its
+  /// position in the input and returns its length.
   Signal renderInBlocks(const Signal& input,
                         const std::function<std::size_t(std::size_t)>& nextBlock);
-  /// Renders without waiting for the worker, which is held back so that it cannot keep up, and has
-  /// it change its encoder all the time.
+  /// Renders without waiting for the worker, which is held back so that it cannot keep up, and
+  /// changes the encoder's setting all the time.
   Signal renderTooFast(const Signal& input);
-  /// Renders the input and enough silence behind it; the output without the latency, as long as the
-  /// input.
+  /// Renders the input followed by enough silence; returns the output without its latency, as long
+  /// as the input.
   Signal renderAligned(const Signal& input, std::size_t block = 512);
 
  private:

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kTwoPi = 2 * std::numbers::pi;
 
-/// Four one-pole low passes in a row over uniform noise, scaled to the peak.
+/// Uniform noise through four one-pole low-passes in series, scaled to the peak.
 std::vector<float> lowPassedNoise(std::size_t frames, double sampleRate, double highest, float peak,
                                   unsigned seed) {
   std::mt19937 random(seed);
@@ -121,7 +121,7 @@ double delayBetween(const std::vector<float>& earlier, const std::vector<float>&
       best = lag;
     }
   }
-  // The top of the parabola through the three highest values.
+  // The vertex of the parabola through the three highest values.
   const double before = correlation(best - 1);
   const double at = correlation(best);
   const double after = correlation(best + 1);

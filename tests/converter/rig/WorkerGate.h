@@ -6,7 +6,7 @@
 
 #include "converter/codec/BitStreamSink.h"
 
-/// Holds a unit's worker back at its access units, so that it is late however fast the machine is.
+/// Holds a unit's worker back at every access unit, so that it is late however fast the machine is.
 /// Open at first.
 class WorkerGate final : public converter::BitStreamSink {
  public:
@@ -14,7 +14,7 @@ class WorkerGate final : public converter::BitStreamSink {
     const std::scoped_lock lock(mutex_);
     passes_ = 0;
   }
-  /// Lets so many access units more through.
+  /// Lets `units` more access units through.
   void letPass(int units) {
     {
       const std::scoped_lock lock(mutex_);
@@ -30,8 +30,8 @@ class WorkerGate final : public converter::BitStreamSink {
     passed_.notify_one();
   }
 
-  void streamBegan(const converter::BitStream& /*stream*/) noexcept override {}
-  void accessUnitMade(const converter::AccessUnit& /*unit*/) noexcept override {
+  void startStream(const converter::BitStream& /*stream*/) noexcept override {}
+  void writeAccessUnit(const converter::AccessUnit& /*unit*/) noexcept override {
     std::unique_lock lock(mutex_);
     passed_.wait(lock, [this] { return passes_ > 0; });
     if (passes_ != kAll) --passes_;

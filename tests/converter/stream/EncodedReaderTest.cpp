@@ -10,15 +10,15 @@ using converter::AudioBlock;
 using converter::kBlockFrames;
 using converter::Position;
 
-/// The worker's part is played by the test: its thread never starts.
+/// The test plays the worker's part; the worker's thread is never started.
 class Reader : public testing::Test {
  protected:
-  /// A block whose samples are its positions plus one.
-  void deliver(Position position, Position begin) {
+  /// Delivers a block whose samples are their positions plus one.
+  void deliver(Position position, Position validFrom) {
     AudioBlock* block = worker_.encoded().claim();
     ASSERT_NE(block, nullptr);
     block->position = position;
-    block->begin = begin;
+    block->validFrom = validFrom;
     for (std::size_t i = 0; i < kBlockFrames; ++i) {
       block->planes[0][i] = static_cast<float>(position + static_cast<Position>(i) + 1);
     }
@@ -54,7 +54,7 @@ class Reader : public testing::Test {
 };
 
 TEST_F(Reader, DoesNotWaitForAWorkerThatThereIsNot) {
-  // Something to do, and nobody to do it.
+  // Work is waiting, but no thread does it.
   ASSERT_NE(worker_.source().claim(), nullptr);
   worker_.source().push();
   std::vector<float> samples(100, 99);

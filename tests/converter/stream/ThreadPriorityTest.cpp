@@ -28,7 +28,7 @@ Place placeOfThisThread() {
   return place;
 }
 
-/// On a thread of its own, so that the test's stays where it is.
+/// Runs on a thread of its own, so that the test's own priority stays as it is.
 template <typename Work>
 void onAThread(Work work) {
   std::thread(work).join();

@@ -22,12 +22,12 @@ class Pair : public testing::TestWithParam<Format> {
                               converter::encoderAbilities());
   }
 
-  /// The encoded signal from `start` to where the source ends, by a pair that began for it.
+  /// The encoded signal from `start` to the end of the source, by a pair opened for `start`.
   std::vector<float> encodedFrom(Position start) const {
     return encodeFrom(setting_, kUnit, source_, start)[0];
   }
 
-  /// Error against the source at [place, place + 512), dB; `encoded` begins at `begin`.
+  /// Error relative to the source at [place, place + 512), dB; `encoded` starts at `begin`.
   double errorAt(const std::vector<float>& encoded, Position begin, Position place) const {
     double error = 0;
     double power = 0;

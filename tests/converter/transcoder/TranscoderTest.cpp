@@ -23,7 +23,7 @@ Setting settingOf(float rateIndex) {
   return nearestSetting({0, 0, rateIndex}, kUnit, converter::encoderAbilities());
 }
 
-/// Blocks by their number, out of endless music.
+/// Blocks by number, cut from endless music.
 class Blocks : public testing::Test {
  protected:
   static constexpr std::size_t kCount = 60;
@@ -65,9 +65,9 @@ TEST_F(TranscoderTest, BeginsWhereTheSourceBegins) {
     const auto begin = static_cast<Position>(first) * kBlockFrames;
     for (std::size_t number = first; number < first + 6; ++number) {
       const AudioBlock block = process(transcoder, at(number));
-      EXPECT_EQ(block.begin, std::clamp(begin, block.position, block.end()));
+      EXPECT_EQ(block.validFrom, std::clamp(begin, block.position, block.end()));
       for (const auto& plane : block.planes) {
-        EXPECT_EQ(std::count(plane.begin(), plane.end(), 99.0F), block.begin - block.position)
+        EXPECT_EQ(std::count(plane.begin(), plane.end(), 99.0F), block.validFrom - block.position)
             << "exactly what is there is written";
       }
     }

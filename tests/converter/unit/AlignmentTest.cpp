@@ -11,8 +11,8 @@
 
 namespace {
 
-/// What is left between source and encoded signal below a tenth of the band, by format: band
-/// replication and parametric stereo delay by a part of a sample, and differently by frequency.
+/// Remaining delay between source and encoded signal below a tenth of the band, in samples, by
+/// format: band replication and parametric stereo have fractional delays that vary with frequency.
 constexpr double kDelays[] = {0, -0.21, -0.5};
 
 using Case = std::tuple<float, double, UInt32>;
@@ -39,7 +39,7 @@ TEST_P(Alignment, PutsTheEncodedSignalOnTheSourceToTheSample) {
   Rig rig({.sampleRate = sampleRate, .channels = channels, .maximumFrames = 1024});
   rig.setSetting(format, velk::kStrategy_ABR, format == velk::kFormat_HEv2 ? 6.0F : 10.0F);
   const auto frames = static_cast<std::size_t>(sampleRate);
-  // Above 96 kHz the codec works at half the rate.
+  // Above 96 kHz the codec runs at half the rate.
   const double ratio = sampleRate > 96000 ? 2 : 1;
   const Signal source = smoothNoise(channels, frames, sampleRate, sampleRate / ratio / 20);
   const Signal encoded = rig.renderAligned(source);

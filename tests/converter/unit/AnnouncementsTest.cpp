@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A listener as a view has one, which notes what it is told.
+/// A listener like a view's, which records what it receives.
 class Announcements : public testing::Test {
  public:
   Announcements() {

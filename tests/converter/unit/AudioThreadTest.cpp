@@ -17,7 +17,7 @@ namespace {
 constexpr std::size_t kBlock = 64;
 constexpr std::size_t kFrames = 200000;
 
-/// Renders in real time with every kind of change, and in between on another thread.
+/// Renders in real time amid every kind of change, made between blocks and on another thread.
 class AudioThread : public testing::Test {
  protected:
   explicit AudioThread(double sampleRate = 48000)
@@ -26,7 +26,7 @@ class AudioThread : public testing::Test {
     output_ = silence(2, kFrames);
   }
 
-  /// Calls `render` of one block after the other; `between` is called without traps.
+  /// Renders block after block with traps, and calls `between` without them in between.
   template <typename Between>
   AudioThreadTraps::Counts renderTrapped(Between between) {
     AudioThreadTraps::Counts sum;
@@ -123,7 +123,7 @@ TEST_F(HighRateAudioThread, WakesTheWorkerAtMostOncePerAccessUnitOfTheCodec) {
 
 TEST_F(AudioThread, TrapsCatchWhatTheyAreFor) {
   AudioThreadTraps traps;
-  // Volatile, or a compiler may leave both out.
+  // Volatile, because a compiler may elide the allocation otherwise.
   int* volatile memory = new int(1);
   delete memory;
   EXPECT_GE(traps.counts().allocations, 2);

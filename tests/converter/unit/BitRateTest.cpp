@@ -8,7 +8,7 @@ converter::BitRate bitRate(Rig& rig) {
   return rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
 }
 
-/// How far from its target a rate may be after three seconds; libavcodec's encoder takes longer.
+/// How far from its target a rate may be after three seconds; libavcodec's encoder settles later.
 double fromTarget(double kbps) {
   return (converter::hasHighEfficiencyEncoder() ? 0.04 : 0.1) * kbps;
 }

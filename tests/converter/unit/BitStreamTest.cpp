@@ -26,7 +26,7 @@ struct Stream {
 
 class Recorder : public converter::BitStreamSink {
  public:
-  void streamBegan(const converter::BitStream& stream) noexcept override {
+  void startStream(const converter::BitStream& stream) noexcept override {
     streams.push_back({Bytes(stream.configuration.begin(), stream.configuration.end()),
                        stream.sampleRate,
                        stream.channels,
@@ -34,7 +34,7 @@ class Recorder : public converter::BitStreamSink {
                        {}});
     isOnCallersThread |= std::this_thread::get_id() == caller;
   }
-  void accessUnitMade(const converter::AccessUnit& unit) noexcept override {
+  void writeAccessUnit(const converter::AccessUnit& unit) noexcept override {
     streams.back().units.push_back({Bytes(unit.bytes.begin(), unit.bytes.end()), unit.position});
   }
 
@@ -43,7 +43,7 @@ class Recorder : public converter::BitStreamSink {
   bool isOnCallersThread = false;
 };
 
-/// What a decoder of the stream gives, by position in the source from 0 on.
+/// Decodes the stream; the result is indexed by position in the source from 0 on.
 Signal decode(const Stream& stream, std::size_t frames) {
   const converter::UnitFormat format{
       .sampleRate = stream.sampleRate, .channels = stream.channels, .maximumFrames = 512};
@@ -62,7 +62,7 @@ Signal decode(const Stream& stream, std::size_t frames) {
   return signal;
 }
 
-/// Ends what the worker may still be writing.
+/// Detaches the sink, so that the worker no longer writes to it.
 void take(Rig& rig) {
   rig.unit().setBitStreamSink(nullptr);
 }
@@ -111,7 +111,7 @@ TEST_P(BitStreamAt, IsCompleteOnceTheCodecWasWaitedFor) {
   const auto units = recorder.streams.at(0).units.size();
   EXPECT_GT(recorder.streams[0].units.back().position, 0);
   const auto rate = rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
-  // Nothing was left to be done.
+  // No work was left.
   rig.unit().waitForCodec();
   rig.unit().setBitStreamSink(nullptr);
   EXPECT_EQ(recorder.streams.at(0).units.size(), units);
@@ -153,7 +153,7 @@ TEST(BitStream, BeginsAnewWithEveryChangeOfEncoder) {
   take(rig);
   ASSERT_EQ(recorder.streams.size(), 2U);
   const Stream& changed = recorder.streams[1];
-  // Run-up first, and behind it everything from the change on.
+  // First the priming units, then everything from the change on.
   EXPECT_LT(changed.units.front().position, 30000);
   EXPECT_GT(changed.units.front().position, 30000 - 6 * 1024);
   for (std::size_t i = 1; i < changed.units.size(); ++i) {

@@ -19,7 +19,7 @@ using converter::UnitFormat;
 
 constexpr UnitFormat kUnit{.sampleRate = 44100, .channels = 2, .maximumFrames = 512};
 
-/// Makes nothing of some frames.
+/// Fails to encode some frames.
 class FailingEncoder final : public Encoder {
  public:
   FailingEncoder(std::unique_ptr<Encoder> whole, int first, int count)
@@ -41,7 +41,7 @@ class FailingEncoder final : public Encoder {
   int number_ = 0;
 };
 
-/// A unit some or all of whose encoders do not open.
+/// A unit for which some or all encoders fail to open.
 class CodecFailure : public testing::Test {
  protected:
   CodecFailure()
@@ -89,7 +89,7 @@ class CodecFailure : public testing::Test {
     return refusedRate_ == kAll || refusedRate_ == setting.bitRate;
   }
 
-  /// Of the settings whose encoder does not open, or none or all of them.
+  /// The bit rate whose encoder fails to open; or none or all of them.
   std::atomic<std::uint32_t> refusedRate_{kNone};
   converter::AacConverter unit_;
   const Signal input_ = music(2, 50000, 44100);
@@ -143,8 +143,8 @@ TEST_F(CodecFailure, AfterAResetIsSilenceThatIsCountedUntilACodecOpens) {
   EXPECT_EQ(missedAtFirst, 50000 - unit_.latency());
   refusedRate_ = kNone;
   const Signal output = render(input_);
-  // What the worker was given before stays silent, and the rest is in its place. It may have been
-  // some blocks behind.
+  // What the worker processed before stays silent, and the rest is in its place. The worker may
+  // have been some blocks behind.
   const std::size_t latency = unit_.latency();
   const auto codecBegin = static_cast<std::size_t>(missed() - missedAtFirst);
   EXPECT_GT(codecBegin, 0U);

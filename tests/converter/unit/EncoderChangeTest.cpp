@@ -26,7 +26,7 @@ void apply(Rig& rig, const Setting& setting) {
   rig.setSetting(setting.format, setting.strategy, setting.rateOrQuality);
 }
 
-/// Everything encoded with one setting, as it comes.
+/// The whole input encoded with one setting, with the latency.
 Signal renderWith(const Setting& setting, const Signal& input, std::size_t block) {
   Rig rig;
   apply(rig, setting);
@@ -53,8 +53,8 @@ class EveryChange : public testing::Test {
     });
   }
 
-  /// Calls `check(from, to, output, place)` for every ordered pair of settings; the change comes
-  /// out at `place`.
+  /// Calls `check(from, to, output, place)` for every ordered pair of settings; `place` is where
+  /// the change is heard in the output.
   template <typename Check>
   void forEveryPair(Check check) const {
     const auto all = settings();
@@ -90,7 +90,7 @@ TEST_F(EveryChange, LeavesNoStepAndNoGapAndMovesNothing) {
         EXPECT_GT(rms(samples, at, at + 200),
                   0.5 * rms(input_[channel], at - latency, at - latency + 200));
       }
-      // From the cross-fade on, the new encoder is about as near to the source as one that ran all
+      // From the cross-fade on, the new encoder is about as close to the source as one that ran all
       // along; libavcodec's takes longer to settle.
       std::vector<float> delayed(samples.size());
       std::copy(input_[channel].begin(),
@@ -144,7 +144,7 @@ TEST(EncoderChange, ToTheSameEffectiveSettingChangesNothing) {
   Rig still;
   Rig rig;
   const Signal output = rig.renderInBlocks(input, [&](std::size_t at) -> std::size_t {
-    // Codes are taken by truncation.
+    // Codes are truncated to integers.
     if (at == 20000) rig.setSetting(0.9F, 1.5F, 14.7F);
     return 1000;
   });
@@ -165,12 +165,12 @@ TEST(EncoderChange, TakesPlaceWhereTheNextBlockBegins) {
   EXPECT_EQ(render(20), reference);
 }
 
-/// A cross-fade adds up to 0.4 % of the difference of its two signals to each step of theirs, so
-/// that at a change where both are at their steepest in it, nothing stays strictly within them.
+/// A cross-fade adds up to 0.4 % of its two signals' difference to each of their steps, so where
+/// both are steepest inside the fade, its steps can slightly exceed theirs.
 constexpr double kStepOfTheFadeItself = 1.001;
 
-/// What the unit takes up when block `number` of 256 samples asks for setting `number`: the newest
-/// at every access unit's length.
+/// The changes that the unit adopts when every block of 256 samples requests the next setting: the
+/// newest request, once per access unit's length.
 std::vector<TakenChange> takenOf(const std::vector<Setting>& settings, std::size_t count) {
   std::vector<TakenChange> taken;
   converter::Position next = 0;

@@ -59,7 +59,7 @@ TEST_P(Input, GivesFiniteEncodedSoundAndLeavesTheUnitInOrder) {
       EXPECT_TRUE(std::isfinite(record.mInterSamplePeak));
     }
     const Signal source = music(2, kFrames, 44100);
-    // Once it has all come out, nothing of it stays in the readings.
+    // Once all of it has left the unit, it leaves no trace in the readings.
     rig.render(silence(2, rig.unit().latency() + 1024));
     const UInt32 one = 1;
     ASSERT_EQ(rig.unit().setProperty(velk::kConverterProperty_ResetPeakStats,

@@ -34,7 +34,7 @@ TEST(Latency, AboveTheRatesOfAacHasTheResamplersBesides) {
   }
 }
 
-/// First sample above a tenth of full scale.
+/// Index of the first sample above a tenth of full scale.
 std::size_t onset(const std::vector<float>& samples) {
   std::size_t i = 0;
   while (i < samples.size() && std::fabs(samples[i]) < 0.1F) ++i;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The cross-fade at 44.1 kHz.
+/// Length of the cross-fade at 44.1 kHz.
 constexpr std::size_t kFade = 441;
 
 /// 50 ms at 44.1 kHz.
@@ -50,7 +50,8 @@ struct Switched {
   Signal output;
 };
 
-/// The same music monitored three ways; `chooses` says at each block whether the source is wanted.
+/// The same music monitored three ways; `chooses` tells at each block whether to monitor the
+/// source.
 template <typename Chooses>
 Switched renderThreeWays(std::size_t block, Chooses chooses) {
   const Signal input = music(2, 70000, 44100);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Moves every control now and then, at blocks that only the position decides.
+/// Changes every control now and then, at blocks that depend only on the position.
 void operate(Rig& rig, std::size_t at) {
   if (at == 16000) rig.setPreset(2);
   if (at == 28000) rig.monitorSource(true);
@@ -25,7 +25,7 @@ TEST(Offline, IsBitForBitRealTime) {
   });
   ASSERT_EQ(offline.missedFrames(), 0U);
 
-  // In real time nothing waits for the worker: between blocks there is time, as much as it takes.
+  // In real time nothing waits for the worker, so give it all the time it needs between blocks.
   UInt64 missed = 1;
   Signal output;
   for (int pauses = 64; missed > 0; pauses *= 2) {

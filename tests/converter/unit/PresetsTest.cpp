@@ -8,7 +8,7 @@ namespace {
 
 constexpr AudioUnitScope kGlobal = kAudioUnitScope_Global;
 
-/// The unit's preset list, released at the end.
+/// The unit's preset list, released on destruction.
 class FactoryPresets {
  public:
   explicit FactoryPresets(Rig& rig)

@@ -18,7 +18,7 @@ TEST(Resampled, LeavesTheSourceUntouched) {
   Rig rig(kFormat);
   rig.monitorSource(true);
   rig.render(silence(2, 2048));
-  // Far above what the codec is given.
+  // Content far above the codec's band.
   Signal source = music(2, kFrames, 192000);
   for (std::size_t i = 0; i < kFrames; ++i) source[0][i] += i % 2 == 0 ? 0.1F : -0.1F;
   EXPECT_EQ(rig.renderAligned(source), source);
@@ -57,7 +57,7 @@ TEST(Resampled, ChangesItsEncoderAtTheStatedPlaceAndMovesNothing) {
     return 500;
   });
   const std::size_t place = kChange + rig.unit().latency();
-  // A resampler looks ahead, so a little of the change comes before it, very softly.
+  // A resampler looks ahead, so a very faint trace of the change precedes it.
   for (std::size_t i = 0; i < place; ++i) {
     ASSERT_NEAR(output[0][i], before[0][i], i + 300 < place ? 1e-6 : 1e-3) << i;
   }
@@ -106,7 +106,7 @@ class RateChanging : public testing::TestWithParam<RateChange::Direction> {
 
   static bool halves() { return GetParam() == RateChange::Direction::halve; }
 
-  /// A sine of `frequency` of the input's rate through the resampler, as it comes.
+  /// A sine through the resampler, with its delay; `frequency` is relative to the input rate.
   static std::vector<float> through(RateChange& change, double frequency, int blocks) {
     std::vector<float> samples(kBlock);
     std::vector<float> output;

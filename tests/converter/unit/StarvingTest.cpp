@@ -7,13 +7,13 @@
 
 namespace {
 
-/// Music far faster than any worker can encode it: the audio thread waits for nothing.
+/// Renders music far faster than any worker can encode it; the audio thread does not wait.
 class Starving : public testing::Test {
  protected:
   Starving() {
     output_ = rig_.renderTooFast(input_);
     missedAtOnce_ = rig_.missedFrames();
-    // Then there is time again.
+    // Then the worker has time again.
     rig_.setOffline(true);
     after_ = rig_.render(input_, 2048);
   }
@@ -36,7 +36,7 @@ TEST_F(Starving, IsCountedFrameByFrame) {
   };
   ASSERT_GT(missedAtOnce_, 0U);
   EXPECT_EQ(silent(output_, latency_), missedAtOnce_);
-  // A stretch that the worker was never given may still come out.
+  // A stretch that the worker never received may still reach the output.
   EXPECT_EQ(silent(after_, 0), rig_.missedFrames() - missedAtOnce_);
 }
 

@@ -24,7 +24,7 @@ void resetStatistics(Rig& rig) {
 Signal sine(std::size_t frames, float left, float right) {
   Signal signal = silence(2, frames);
   for (std::size_t i = 0; i < frames; ++i) {
-    // Comes up over 50 ms, so that nothing but the sine is heard.
+    // Fades in over 50 ms, so that only the sine itself is metered.
     const double ramp = std::min(1.0, static_cast<double>(i) / 2205);
     const double value =
         ramp * std::sin(2 * std::numbers::pi * 1000 * static_cast<double>(i) / 44100);
@@ -54,7 +54,7 @@ TEST(Statistics, CountTheSourceBeforeTheConversionClipsIt) {
   rig.render(sine(60000, 2, 0.5F));
   const auto read = statistics(rig);
   EXPECT_NEAR(read[velk::kPeakStatsSlot_SourceLeft].mSamplePeak, 6.02, 0.01);
-  // A sine of twice full scale is above it for two thirds of the time.
+  // A sine of twice full scale exceeds it for two thirds of the time.
   const double heard = 60000.0 - rig.unit().latency() - 2205;
   EXPECT_NEAR(static_cast<double>(read[velk::kPeakStatsSlot_SourceLeft].mSampleClipCount),
               heard * 2 / 3, heard / 50 + 700);
@@ -97,7 +97,8 @@ TEST(Statistics, AreCutWhereBothSignalsComeOut) {
   for (auto& samples : input) {
     for (std::size_t i = 40000; i < 80000; ++i) samples[i] *= 0.1F;
   }
-  // At the reset the quiet stretch is coming out, and before it has, the next loud one goes in.
+  // At the reset the quiet passage is leaving the unit; before it has left, the next loud one
+  // enters.
   const std::size_t reset = 42000 + latency;
   const std::size_t end = 78000 + latency;
   ASSERT_GT(end, 90000U);

@@ -6,9 +6,9 @@
 
 namespace converter {
 
-/// What other threads ask of the audio thread, which looks at the start of every block, and what
-/// the audio thread counts for them.
-struct Controls {
+/// Requests from other threads to the audio thread, which reads them at the start of every block,
+/// and what the audio thread counts for them.
+struct RenderControls {
   std::atomic<Setting> setting{Setting{}};
   std::atomic<bool> monitorSource{false};
   std::atomic<bool> offline{false};
