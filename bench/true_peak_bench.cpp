@@ -7,8 +7,8 @@
 #include "MeterSignals.h"
 #include "true_peak_speed.h"
 
-// Every row measures the unit's meter and libebur128 on the same signal, turn by turn, so that the
-// ratio holds on a busy machine too. "hot" is the share of samples above 0.7.
+// Each row measures the unit's meter and libebur128 on the same signal by turns, so that the ratio
+// holds on a busy machine, too. "hot" is the share of samples above 0.7.
 
 namespace {
 

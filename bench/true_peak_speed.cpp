@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kBlock = 512;
 constexpr unsigned long kRate = 48000;
 
-/// Processor time, so that other programs on the machine do not count.
+/// Measures processor time, so that other programs do not count.
 template <typename Work>
 double secondsOf(Work&& work) {
   const std::clock_t start = std::clock();

@@ -5,7 +5,7 @@
 
 namespace bench {
 
-/// Speed of one channel of metering, in samples per second.
+/// Speed of metering one channel, in samples per second.
 struct TruePeakSpeed {
   double meter = 0;
   double libebur128 = 0;
@@ -13,12 +13,11 @@ struct TruePeakSpeed {
 };
 
 /// Meters `samples` at 48 kHz in blocks of 512 with the unit's meter and with libebur128 in
-/// true-peak mode, turn by turn in one thread, and takes the median of `rounds` turns (at least 1)
-/// of each.
+/// true-peak mode, by turns in one thread, and returns the median of `rounds` (at least 1) of each.
 TruePeakSpeed measureTruePeakSpeed(const std::vector<float>& samples, int rounds);
 
 /// The share of one core that metering both signals of a stereo unit takes at 48 kHz in blocks of
-/// `block` frames; median of `rounds` turns.
+/// `block` frames; the median of `rounds`.
 double measureMeteringLoad(const std::vector<float>& samples, std::size_t block, int rounds);
 
 }  // namespace bench

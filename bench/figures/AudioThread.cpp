@@ -16,11 +16,11 @@ constexpr double kRate = 48000;
 constexpr std::size_t kBlock = 64;
 constexpr double kDeadline = kBlock / kRate;
 constexpr std::size_t kSeconds = 60;
-/// Share of the calls that the figure is for.
+/// The percentile of call times that is reported.
 constexpr double kShare = 0.999;
 
-/// Renders a minute in real time, on a thread that stands before ordinary ones as an audio thread
-/// does, where the system lets it; `took` is given what each call took, in seconds.
+/// Renders a minute in real time, on a thread with an audio thread's priority where the system
+/// allows it, and passes each call's duration in seconds to `took`.
 template <typename Took>
 void renderInRealTime(Rig& rig, const Signal& input, Took took) {
   Signal output = silence(2, kBlock);
@@ -56,10 +56,10 @@ std::vector<Row> measureCalls() {
 }
 
 constexpr std::size_t kTrappedFrames = 960000;
-/// How much faster than real time, so that the worker keeps up all the same.
+/// Times real time; slow enough for the worker to keep up.
 constexpr double kTrappedSpeed = 5;
 
-/// Everything that render calls while another thread changes settings, presets, monitor and flags.
+/// Counts what `render` calls while another thread changes settings, presets, monitor and flags.
 std::vector<Row> measureTraps() {
   Rig rig({.sampleRate = kRate, .channels = 2, .maximumFrames = kBlock});
   rig.setOffline(false);

@@ -13,7 +13,7 @@ inline double secondsOf(clockid_t clock) {
   return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
-/// Of all threads, so that other programs on the machine do not count.
+/// Processor time of all threads of the process, so that other programs do not count.
 inline double processorSeconds() {
   return secondsOf(CLOCK_PROCESS_CPUTIME_ID);
 }

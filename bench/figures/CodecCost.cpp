@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kRate = 44100;
 constexpr std::size_t kSeconds = 12;
-/// Together 60 seconds of audio, the two sides turn by turn.
+/// 60 seconds of audio in all; unit and bare codec take turns.
 constexpr int kRounds = 5;
 constexpr std::size_t kBlock = 512;
 
@@ -27,7 +27,7 @@ constexpr std::array kCases = {
     Case{"cpu_hev2_48", {2, 0, 6}, 1.25},
 };
 
-/// Encoder and decoder with nothing around them.
+/// Processor time of the bare encoder and decoder.
 double bareSeconds(const converter::ParameterValues& values, const Signal& music) {
   const converter::UnitFormat unit{.sampleRate = kRate, .channels = 2, .maximumFrames = kBlock};
   const auto setting = nearestSetting(values, unit, converter::encoderAbilities());

@@ -10,7 +10,7 @@ namespace {
 constexpr double kRate = 44100;
 constexpr double kGoal = -33;
 
-/// Of the source in AAC ABR 320, dB; the worse channel.
+/// Residual of the source in AAC ABR 320, dB; the worse of the two channels.
 double differenceOf(const Signal& source) {
   Rig rig;
   rig.setSetting(velk::kFormat_AAC, velk::kStrategy_ABR, 16);
@@ -20,7 +20,7 @@ double differenceOf(const Signal& source) {
                   residual(source[1], encoded[1], 8192, end));
 }
 
-/// To a hundredth of a sample.
+/// Offset between source and encoded signal, to a hundredth of a sample.
 double offset() {
   Rig rig;
   rig.setSetting(velk::kFormat_AAC, velk::kStrategy_ABR, 16);

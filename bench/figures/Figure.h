@@ -10,7 +10,7 @@ struct Row {
   std::string name;
   double value;
   std::string unit;
-  /// As it is read: "<= 1.20".
+  /// As printed: "<= 1.20".
   std::string goal;
   bool holds;
 };
@@ -18,9 +18,9 @@ struct Row {
 Row atMost(std::string name, double value, double goal, std::string unit = "");
 Row atLeast(std::string name, double value, double goal, std::string unit = "");
 
-/// Rows that one measurement gives. Every measurement is there once in a run.
+/// The rows from one measurement. Each measurement is made at most once per run.
 struct Family {
-  /// Names of its rows, in their order.
+  /// The names of its rows, in order.
   std::vector<std::string> rows;
   std::vector<Row> (*measure)();
 };
@@ -41,7 +41,7 @@ Family meterPoll();
 Family viewOpening();
 Family manyViews();
 
-/// All that this build can measure, in the order of the table.
+/// Everything that this build can measure, in the order of the table.
 std::vector<Family> families();
 
 }  // namespace figures

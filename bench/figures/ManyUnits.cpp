@@ -11,8 +11,7 @@ constexpr std::size_t kUnits = 50;
 constexpr std::size_t kBlock = 512;
 constexpr double kSeconds = 4;
 
-/// Processor time of fifty units at LC 128 over the time that they play: how much of one core they
-/// take.
+/// Processor time of fifty units at LC 128 divided by the time played: the share of one core.
 std::vector<Row> measure() {
   const Signal input = music(2, std::size_t{48000} * 4, 48000);
   std::vector<std::unique_ptr<Rig>> rigs;

@@ -37,7 +37,7 @@ std::string nameOf(const char* preset, const Kind& kind) {
 }
 constexpr const char* kTwoJobs = "time_measure_two_jobs";
 
-/// A folder that is removed again.
+/// A temporary folder, removed on destruction.
 class Folder {
  public:
   Folder() {
@@ -74,7 +74,7 @@ class Folder {
   std::filesystem::path path_;
 };
 
-/// Encoder and decoder on samples in memory, with nothing around them.
+/// Processor time of the bare encoder and decoder on samples in memory.
 double bareSeconds(const EncoderChoice& choice, const Signal& signal) {
   const converter::UnitFormat unit{.sampleRate = kRate, .channels = 2, .maximumFrames = 4096};
   const auto value = [](std::uint32_t code) { return static_cast<float>(code); };
@@ -93,7 +93,8 @@ double bareSeconds(const EncoderChoice& choice, const Signal& signal) {
   return processorSeconds() - start;
 }
 
-/// Everything: opening and decoding the file, the unit, its meters, the end of the file.
+/// Processor time of everything: opening and decoding the file, the unit, its meters, and running
+/// the unit out at the end of the file.
 double measuredSeconds(const EncoderChoice& choice, const std::filesystem::path& file) {
   const host::measure::Options options;
   host::measure::JobProgress progress;

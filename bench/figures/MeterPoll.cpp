@@ -16,8 +16,8 @@ namespace {
 
 constexpr int kPolls = 20000;
 
-/// The view's core over controls that do nothing but keep a record, bound to a real unit that has
-/// played something with overs.
+/// The view's core with controls that only record their calls, bound to a real unit that has played
+/// something with overs.
 std::vector<Row> measure() {
   Rig rig;
   Signal hot = music(2, 60000, 44100);

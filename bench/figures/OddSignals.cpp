@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t kFrames = std::size_t{4} * 44100;
 constexpr std::size_t kBlock = 512;
-/// A path through denormal numbers, or one that retries, would be many times slower.
+/// Computing with denormal numbers, or retrying, would be many times slower.
 constexpr double kGoal = 1.5;
 constexpr int kRounds = 5;
 
@@ -46,7 +46,7 @@ double processorSecondsFor(const Signal& input) {
   return processorSeconds() - start;
 }
 
-/// Processor time of a unit on each signal over that on bright music, turn by turn.
+/// A unit's processor time on each signal, relative to bright music; the signals take turns.
 std::vector<Row> measure() {
   Signal bright = music(2, kFrames, 44100);
   const Signal noise = smoothNoise(2, kFrames, 44100, 20000, 0.3F);

@@ -13,7 +13,8 @@ constexpr std::size_t kBetween = 5000;
 constexpr std::size_t kFade = 441;
 constexpr std::size_t kAround = 2205;
 
-/// At every switch of the monitor, over the largest one in source and encoded signal around it.
+/// The largest step at any switch of the monitor, relative to the largest step in source and
+/// encoded signal around it.
 double monitorStep() {
   const Signal input = music(2, std::size_t{20} * 44100, kRate);
   const auto render = [&](auto wantsSource) {

@@ -13,7 +13,7 @@ constexpr int kRounds = 15;
 constexpr double kSpeedGoal = 3;
 constexpr double kHighestError = 0.1;
 constexpr double kLowestError = -0.2;
-/// Of a core, both signals of a stereo unit at 48 kHz.
+/// Percent of a core for both signals of a stereo unit at 48 kHz.
 constexpr double kLoadGoal = 1;
 
 std::vector<Row> measureSpeed() {
@@ -30,8 +30,8 @@ std::vector<Row> measureSpeed() {
   };
 }
 
-/// Frequencies are shares of the sample rate, so one run is for every rate. Steady sines of a
-/// second at 44.1 kHz, eight phases.
+/// Steady sines of one second at 44.1 kHz in eight phases. Frequencies are relative to the sample
+/// rate, so one run covers all rates.
 std::vector<Row> measureError() {
   double highest = -100;
   double lowest = 100;

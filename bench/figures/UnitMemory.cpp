@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t kUnits = 20;
 constexpr double kMebibyte = 1024 * 1024;
 
-/// What the process has in memory, bytes.
+/// Resident memory of the process, bytes.
 double residentBytes() {
   std::ifstream statm("/proc/self/statm");
   long size = 0;
@@ -24,7 +24,7 @@ double residentBytes() {
   return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE));
 }
 
-/// Everything that a unit at 48 kHz stereo takes after some seconds of play, its thread included.
+/// Memory per unit at 48 kHz stereo after some seconds of playing, its thread included.
 double perUnit(SInt32 preset, bool changes) {
   const Signal input = music(2, 96000, 48000);
   const auto play = [&](Rig& rig) {
@@ -39,7 +39,7 @@ double perUnit(SInt32 preset, bool changes) {
     Rig first(format);
     play(first);
   }
-  // What others have freed would be taken up again without a trace.
+  // Memory freed earlier would be reused and not show up.
   malloc_trim(0);
   const double before = residentBytes();
   std::vector<std::unique_ptr<Rig>> rigs;

@@ -20,8 +20,8 @@
 namespace figures {
 namespace {
 
-/// One for the process, off screen unless the environment says otherwise. It is never destroyed,
-/// because the bundle stays loaded and may still need it.
+/// Makes the process's application object, off screen unless the environment says otherwise. It is
+/// never destroyed, because the bundle stays loaded and may still need it.
 void needApplication() {
   if (qApp != nullptr) return;
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -31,7 +31,7 @@ void needApplication() {
   new QApplication(count, arguments);
 }
 
-/// Qt's own loader, with plain widgets for the classes that are the skin's.
+/// Qt's own loader, with plain widgets in place of the skin's classes.
 class BareLoader : public QUiLoader {
  public:
   QWidget* createWidget(const QString& className, QWidget* parent, const QString& name) override {
@@ -63,7 +63,7 @@ std::vector<Row> measureOpening() {
     const auto view = bundle.viewForUnit(&rig.unit());
     return threadSeconds() - start;
   };
-  // The first of each loads what all later ones share.
+  // The first of each kind loads what all later ones share.
   openSeconds();
   bareSeconds();
   std::vector<double> ratios;
@@ -79,7 +79,7 @@ constexpr std::size_t kUnits = 50;
 constexpr std::size_t kBlock = 512;
 constexpr double kSeconds = 4;
 
-/// Keeps the process on one processor while it lives; threads made meanwhile stay there.
+/// Keeps the process on one processor during its lifetime; threads started meanwhile stay there.
 class OneProcessor {
  public:
   OneProcessor() {
@@ -97,9 +97,9 @@ class OneProcessor {
   cpu_set_t all_{};
 };
 
-/// Fifty units at LC 128, each with a shown view that polls it, in real time on one processor:
-/// processor time over the time played, and what the encoders were late with. The signal is over
-/// full scale all the time, so that every poll has something new to show.
+/// Fifty units at LC 128, each with a visible view that polls it, in real time on one processor:
+/// processor time divided by the time played, and frames that the encoders missed. The signal is
+/// always over full scale, so that every poll has something new to show.
 std::vector<Row> measureMany() {
   needApplication();
   host::ViewBundle bundle(host::viewBundlePath());

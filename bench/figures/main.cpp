@@ -6,7 +6,7 @@
 
 #include "Figure.h"
 
-// Measures the figures that the project has set itself, each against its goal, in one run.
+// Measures the project's performance figures in one run and compares each with its goal.
 
 namespace {
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kRate = 48000;
 constexpr std::size_t kLargest = 2048;
-/// No two changes that are taken up are nearer.
+/// The unit adopts no two changes closer together than this.
 constexpr std::size_t kBetweenChanges = 2048;
 
 std::size_t bytesInUse() {
@@ -19,7 +19,7 @@ std::size_t bytesInUse() {
   return info.uordblks + info.hblkhd;
 }
 
-/// Everything as it was at first.
+/// Restores the initial settings.
 void settle(Rig& rig) {
   rig.setSetting(velk::kFormat_AAC, velk::kStrategy_ABR, 16);
   rig.monitorSource(false);
@@ -65,7 +65,7 @@ Wear changeAndSwitch(std::size_t changes, std::size_t switches, unsigned seed) {
   bool monitorsSource = false;
   const auto step = [&] {
     if (sinceChange >= kBetweenChanges) {
-      // Always another format or rate than before.
+      // Always a different format or rate from the one before.
       const auto format = static_cast<float>(wear.changes % 3);
       rig.setSetting(format, static_cast<float>(below(3)), static_cast<float>(5 + below(12)));
       ++wear.changes;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kRate = 44100;
 constexpr std::size_t kLargest = 4096;
-/// No codec makes more of a signal within full scale.
+/// No codec's output for a signal within full scale exceeds this.
 constexpr float kMost = 4;
 
 }  // namespace

@@ -5,11 +5,11 @@
 
 #include "Soak.h"
 
-// Prints what it did and found, and ends with status 1 when something is not as it was.
+// Prints what it did and found. The exit status is 1 if anything drifted or went wrong.
 
 namespace {
 
-/// What the allocator and the libraries' caches may come to.
+/// Growth to allow for the allocator and the libraries' caches, bytes.
 constexpr double kMostGrowth = 65536;
 constexpr double kMostOffset = 0.01;
 

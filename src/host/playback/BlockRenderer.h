@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// Gives a device its next block.
+/// Renders a device's next block.
 class BlockRenderer {
  public:
   virtual ~BlockRenderer() = default;
@@ -12,7 +12,7 @@ class BlockRenderer {
   virtual void renderBlock(float* const* planes, std::uint32_t frames) noexcept = 0;
 };
 
-/// Hears what a player gives to the device while it plays.
+/// Receives a copy of what a player sends to the device.
 class AudioTap {
  public:
   virtual ~AudioTap() = default;

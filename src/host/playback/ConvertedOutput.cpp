@@ -25,7 +25,7 @@ class ConvertedOutput : public Output {
  private:
   const std::uint32_t rate_;
   RateConvertingRenderer renderer_;
-  /// Ends before what it plays.
+  /// Destroyed before renderer_, which it plays.
   const std::unique_ptr<Output> output_;
 };
 

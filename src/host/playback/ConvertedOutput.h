@@ -6,8 +6,8 @@
 
 namespace host {
 
-/// Opens and starts the device with `open`: at the format's sample rate, or where it lacks that at
-/// `playingRate`, with what is rendered converted on the way. Throws `Failure`.
+/// Opens and starts the device with `open` at `playingRate`, and converts the rendered audio if
+/// that is not the format's sample rate. Throws `Failure`.
 std::unique_ptr<Output> openAtItsRate(const Device& device, AudioFormat format,
                                       BlockRenderer& renderer, const OpenDevice& open);
 

@@ -14,40 +14,42 @@
 
 namespace host {
 
-/// A sound device that plays.
+/// A sound device for output.
 struct Device {
   /// "PulseAudio: Built-in Audio Analog Stereo".
   std::string name;
-  /// RtAudio's number of the sound system, and of the device in it.
+  /// RtAudio's numbers of the sound system and of the device in it.
   int system = 0;
   unsigned index = 0;
   bool isDefault = false;
-  /// Hz; none where the device does not tell.
+  /// Hz; empty if unknown.
   std::vector<unsigned> sampleRates;
   unsigned channels = 0;
-  /// Of its rates, the one that it runs at now or likes best; 0 where it does not tell.
+  /// The rate that it runs at now or prefers, Hz; 0 if unknown.
   unsigned preferredRate = 0;
 };
 
 /// Every device of JACK, PulseAudio and ALSA, in this order. Takes a moment. Main thread.
 std::vector<Device> outputDevices();
 
-/// The device with that name, or else the first that has it as a part of its name; case does not
-/// matter. Nothing when there is none.
+/// The device with that name, or else the first whose name contains it, ignoring case. Nothing when
+/// there is none.
 std::optional<Device> deviceNamed(const std::vector<Device>& devices, std::string_view name);
 
 /// The same; throws `Failure` when there is none.
 Device requiredDevice(const std::vector<Device>& devices, std::string_view name);
 
-/// Whether the device plays this sample rate as it is, as far as it tells.
+/// Whether the device supports this sample rate; true if it does not tell which it supports.
 bool doesRate(const Device& device, std::uint32_t sampleRate);
 
-/// The rate at which the device plays audio of `sampleRate`: that, if it does it; otherwise one
-/// that keeps the whole band, the preferred one or else the lowest; otherwise its highest.
+/// The rate at which the device plays audio of `sampleRate`: the same if it supports it. Otherwise
+/// a higher one, which keeps the whole band: the preferred rate or else the lowest such. Otherwise
+/// its highest rate.
 std::uint32_t playingRate(const Device& device, std::uint32_t sampleRate);
 
-/// The order in which to try devices for audio of `sampleRate`: the one called `chosen` first, if
-/// any, then those that play it as it is; each system's default before its others.
+/// The devices in the order in which to try them for audio of `sampleRate`: first the one named
+/// `chosen`, then those that support the rate, then the others; default devices first in each
+/// group.
 std::vector<Device> inOrderOfPreference(std::vector<Device> devices, std::uint32_t sampleRate,
                                         std::string_view chosen);
 
@@ -55,7 +57,7 @@ std::vector<Device> inOrderOfPreference(std::vector<Device> devices, std::uint32
 using OpenDevice = std::function<std::unique_ptr<Output>(const Device& device, AudioFormat format,
                                                          BlockRenderer& renderer)>;
 
-/// The one that does.
+/// The default `OpenDevice`; uses RtAudio.
 std::unique_ptr<Output> openDevice(const Device& device, AudioFormat format,
                                    BlockRenderer& renderer);
 

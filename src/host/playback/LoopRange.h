@@ -4,13 +4,13 @@
 
 namespace host {
 
-/// Frames of a source from `begin` up to `end`, one at least.
+/// The frames [start, end) of a source, at least one.
 struct LoopRange {
-  std::int64_t begin = 0;
+  std::int64_t start = 0;
   std::int64_t end = 0;
 
-  std::int64_t length() const { return end - begin; }
-  bool contains(std::int64_t frame) const { return frame >= begin && frame < end; }
+  std::int64_t length() const { return end - start; }
+  bool contains(std::int64_t frame) const { return frame >= start && frame < end; }
 
   friend bool operator==(const LoopRange&, const LoopRange&) = default;
 };

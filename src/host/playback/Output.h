@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// Something that keeps asking a renderer for blocks, from its making until it is destroyed.
+/// Pulls blocks from a renderer, from its construction until its destruction.
 class Output {
  public:
   Output() = default;
@@ -15,14 +15,16 @@ class Output {
   Output& operator=(const Output&) = delete;
   virtual ~Output() = default;
 
-  /// What the user knows it by.
+  /// The name that the user knows it by.
   virtual std::string name() const = 0;
   virtual bool isSilent() const = 0;
-  /// At which it plays, Hz: another one than the renderer's where it converts.
+  /// The rate at which it plays, Hz; not the renderer's if it converts.
   virtual std::uint32_t sampleRate() const = 0;
-  /// Frames from the renderer to the ear, at the renderer's rate, as far as the device tells.
+  /// From the renderer to the ear, in frames at the renderer's rate, as far as the device reports
+  /// it.
   virtual std::uint32_t latency() const = 0;
-  /// Why it does not run any more; empty while it does. Main thread; to be asked now and then.
+  /// Why it has stopped running; empty while it runs. Main thread; call it regularly, because some
+  /// failures show only over time.
   virtual Message failure() = 0;
 };
 

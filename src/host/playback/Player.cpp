@@ -13,7 +13,7 @@ namespace {
 /// 6 ms at 44.1 kHz.
 constexpr std::uint32_t fadeFrames = 256;
 constexpr float fadeStep = 1.0F / static_cast<float>(fadeFrames);
-/// Longer than any device's block; a device that does not call within it is dead.
+/// Longer than any device's block: a device that does not call within it is dead.
 constexpr auto fadePatience = std::chrono::milliseconds(250);
 constexpr auto lookAgain = std::chrono::milliseconds(1);
 
@@ -86,7 +86,7 @@ std::int64_t Player::audiblePosition(std::uint32_t deviceLatency) const {
 std::int64_t Player::placeOf(std::int64_t frames) const {
   const auto frame = origin_ + frames;
   if (!loops_ || frame < loop_->end) return frame;
-  return loop_->begin + (frame - loop_->end) % loop_->length();
+  return loop_->start + (frame - loop_->end) % loop_->length();
 }
 
 std::int64_t Player::framesToPlay() const {
@@ -95,14 +95,14 @@ std::int64_t Player::framesToPlay() const {
 
 void Player::setLoop(std::optional<LoopRange> loop) {
   if (loop) {
-    loop->begin = std::max<std::int64_t>(loop->begin, 0);
+    loop->start = std::max<std::int64_t>(loop->start, 0);
     loop->end = std::min(loop->end, length());
     if (loop->length() < 1) loop.reset();
   }
   if (loop == loop_) return;
   quiesce();
   auto frame = position();
-  if (loop && !loop->contains(frame)) frame = loop->begin;
+  if (loop && !loop->contains(frame)) frame = loop->start;
   const bool wasFinished = isFinished();
   reader_.setLoop(loop);
   loop_ = loop;
@@ -125,10 +125,10 @@ void Player::seek(std::int64_t frame) {
   start_ = 0;
   played_ = 0;
   finished_ = false;
-  // The very beginning is played as it is; any other place would begin with a click.
+  // Only the very beginning is played without a fade-in; any other position would click.
   gain_ = frame == 0 ? 1.0F : 0.0F;
   runUpTo(leadIn);
-  // The device may ask for several blocks at once to begin with.
+  // At first the device may ask for several blocks at once.
   reader_.waitFor(format().sampleRate / 8);
   wake();
 }
@@ -165,7 +165,7 @@ void Player::feedUnit(const float* interleaved, std::size_t got, float* const* o
   unit_.render(planes.data(), planes.data(), frames);
   fed_ += static_cast<std::int64_t>(got);
   if (got == frames) return;
-  // Where the source ended is only known for certain when it was reached.
+  // A source's true end is known only once it has been reached.
   feedable_ = std::min(feedable_, fed_);
   const auto end = placeOf(feedable_);
   if (end < end_.load(std::memory_order_relaxed)) end_.store(end, std::memory_order_relaxed);
@@ -198,7 +198,7 @@ std::uint32_t Player::renderSound(float* const* planes, std::uint32_t offset,
 std::uint32_t Player::renderFadeOut(float* const* planes, std::uint32_t frames) noexcept {
   const auto done = renderSound(planes, 0, std::min(frames, fadeFrames));
   fade(planes, done, -fadeStep);
-  // A source that stalls in mid-fade is silent as well.
+  // If the source stalls in mid-fade, that is silence, too.
   if (gain_ <= 0.0F || done == 0) {
     gain_ = 0.0F;
     silent_ = true;
@@ -207,9 +207,9 @@ std::uint32_t Player::renderFadeOut(float* const* planes, std::uint32_t frames) 
 }
 
 void Player::fade(float* const* planes, std::uint32_t frames, float step) noexcept {
-  const auto begin = gain_;
+  const auto initial = gain_;
   for (std::uint32_t channel = 0; channel < format().channels; ++channel) {
-    gain_ = begin;
+    gain_ = initial;
     for (std::uint32_t i = 0; i < frames; ++i) {
       gain_ = std::clamp(gain_ + step, 0.0F, 1.0F);
       planes[channel][i] *= gain_;

@@ -19,57 +19,57 @@ class ConverterUnit;
 
 namespace host {
 
-/// Plays a source through a converter unit. Positions are in frames of the source and mean what is
-/// heard: the unit's latency is run through before the first frame sounds, and at the end until the
-/// last one has left the unit.
+/// Plays a source through a converter unit. Positions are frames of the source as they are heard:
+/// the unit's latency is rendered before the first frame sounds, and at the end the player goes on
+/// until the last frame has left the unit.
 ///
-/// Everything but `renderBlock` on the main thread. Not playing, the player gives silence; it
+/// All but `renderBlock` is for the main thread. While not playing, the player renders silence; it
 /// starts and stops with a short fade wherever the unit is in mid-sound.
 class Player : public BlockRenderer {
  public:
-  /// The unit has to be made for the source's format with blocks of `maximumFrames`, and to live as
-  /// long as the player.
+  /// The unit must be made for the source's format and blocks of `maximumFrames`, and must outlive
+  /// the player.
   Player(converter::ConverterUnit& unit, std::uint32_t maximumFrames,
          std::unique_ptr<AudioSource> source);
   ~Player() override;
 
   AudioFormat format() const { return reader_.format(); }
-  /// Where playing ends: the source's length, or less when it turned out shorter or a limit is set.
+  /// Where playing ends: the source's length, or less if it turned out shorter or a limit is set.
   std::int64_t length() const { return end_.load(std::memory_order_relaxed); }
-  /// Ends at `frames` if the source does not end before.
+  /// Ends playing at `frames` if the source does not end before.
   void limitLength(std::int64_t frames);
-  /// Whether such a limit leaves some of the source out.
+  /// Whether such a limit cuts off a part of the source.
   bool isCutShort() const { return cutShort_; }
 
-  /// Plays on; from the beginning after the end.
+  /// Plays from the current position; from the beginning if the end was reached.
   void play();
   void pause();
   bool isPlaying() const { return wanted_.load() == Wanted::Sound && !isFinished(); }
-  /// Whether the last frame was heard.
+  /// Whether the last frame has been rendered.
   bool isFinished() const { return finished_.load(std::memory_order_acquire); }
-  /// Continues, playing or not, from `frame`. Resets the unit and runs it up to the place, so that
-  /// what is heard and metered from there on is that of playing through it. From before the end of
-  /// a loop playing runs into it; from behind it goes on to the end.
+  /// Continues, playing or not, from `frame`. Resets the unit and runs it up to that position, so
+  /// that what is heard and metered from there on is as if playing had passed through it. From
+  /// before a loop's end, playing runs into the loop; from its end on, to the end of the source.
   void seek(std::int64_t frame);
-  /// Repeats a stretch of the source from now on, or nothing. What is not within the source is cut
-  /// off. From outside playing moves to the begin of the loop. What is heard repeats without a gap
-  /// and without a click, each round exactly as long as the loop.
+  /// Repeats a stretch of the source from now on, or nothing. The loop is clipped to the source. A
+  /// position outside moves to the loop's start. The loop is heard without a gap or a click, each
+  /// round exactly as long as the stretch.
   void setLoop(std::optional<LoopRange> loop);
   const std::optional<LoopRange>& loop() const { return loop_; }
   /// The next frame to leave the unit.
   std::int64_t position() const { return placeOf(played_.load(std::memory_order_relaxed)); }
-  /// The frame that sounds now from a device with this latency, in frames; the last one that did
-  /// once the device has run dry.
+  /// The frame that is heard now from a device with this latency, in frames; once the device has
+  /// run dry, the end of what was heard.
   std::int64_t audiblePosition(std::uint32_t deviceLatency) const;
-  /// Frames of silence because the source could not be read fast enough.
+  /// Frames replaced by silence because the source could not be read fast enough.
   std::uint64_t missedFrames() const { return missed_.load(std::memory_order_relaxed); }
 
-  /// Whether blocks are rendered as fast as it goes: rendering then waits for the source and the
-  /// codec. While no device runs.
+  /// Whether to render as fast as possible; rendering then waits for the source and the codec. Only
+  /// while no device runs.
   void setOffline(bool offline);
-  /// Tells the player that a device calls `renderBlock` from now on, or does not any more.
+  /// Tells the player whether a device calls `renderBlock` from now on.
   void setDeviceRuns(bool runs) { deviceRuns_ = runs; }
-  /// Not owned; null for none. While no device runs.
+  /// Not owned; null for none. Only while no device runs.
   void setTap(AudioTap* tap) { tap_ = tap; }
 
   void renderBlock(float* const* planes, std::uint32_t frames) noexcept override;
@@ -82,15 +82,16 @@ class Player : public BlockRenderer {
 
   void quiesce();
   void wake();
-  /// The place in the source of a frame that follows `frames` behind the last seek.
+  /// The position in the source, `frames` frames after the last seek.
   std::int64_t placeOf(std::int64_t frames) const;
-  /// How many frames follow the last seek until playing ends.
+  /// The number of frames from the last seek until playing ends.
   std::int64_t framesToPlay() const;
-  /// Renders what lies before the place where playing starts: `leadIn` frames that are played to
-  /// nobody, for codec and meters to have them behind them, and the unit's latency.
+  /// Renders, unheard and unmetered, what precedes the position where playing starts: `leadIn`
+  /// frames as history for codec and meters, and the unit's latency.
   void runUpTo(std::int64_t leadIn);
   void setUnitFlag(AudioUnitPropertyID flag, bool on);
-  /// Renders up to `frames` frames at the offset; fewer when the source is behind.
+  /// Renders up to `frames` frames at `offset`; fewer if the source cannot keep up or has ended.
+  /// Returns the number.
   std::uint32_t renderSound(float* const* planes, std::uint32_t offset,
                             std::uint32_t frames) noexcept;
   void feedUnit(const float* interleaved, std::size_t got, float* const* output,
@@ -106,10 +107,10 @@ class Player : public BlockRenderer {
   bool offline_ = false;
   bool cutShort_ = false;
   std::optional<LoopRange> loop_;
-  /// Where the last seek went, and whether playing runs into the loop from there.
+  /// The target of the last seek, and whether playing runs into the loop from there.
   std::int64_t origin_ = 0;
   bool loops_ = false;
-  /// Where the device began to play, from silence, in frames since the last seek.
+  /// Where playing last started from silence, in frames since the last seek.
   std::int64_t start_ = 0;
 
   std::atomic<Wanted> wanted_{Wanted::Silence};
@@ -121,7 +122,7 @@ class Player : public BlockRenderer {
   /// Frames of silence rendered since the last one of sound.
   std::atomic<std::int64_t> silence_{0};
 
-  /// The main thread keeps the audio thread out while it works on reader and unit.
+  /// Set by the main thread to keep the audio thread out while it uses the reader and the unit.
   std::atomic<bool> suspended_{false};
   std::atomic<bool> rendering_{false};
   /// Whether the audio thread has faded out.
@@ -129,7 +130,7 @@ class Player : public BlockRenderer {
 
   /// The audio thread's own.
   float gain_ = 1.0F;
-  /// Frames of the source that the unit was given since the last seek, and how many there are.
+  /// Frames of the source fed to the unit since the last seek, and how many there are to feed.
   std::int64_t fed_ = 0;
   std::int64_t feedable_ = unlimited;
   std::vector<float> interleaved_;

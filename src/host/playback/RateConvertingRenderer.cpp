@@ -7,14 +7,14 @@
 namespace host {
 namespace {
 
-/// What the resampler is given at a time, always: what it makes, and what memory it takes, then
-/// depends on nothing else.
+/// Frames per call of the resampler, always the same, so that neither its output nor its memory
+/// depends on the device's blocks.
 constexpr std::uint32_t kStep = 128;
-/// The most that is given to the device at a time.
+/// The most frames to write to the device's block at a time.
 constexpr std::uint32_t kLargestBlock = 512;
-/// Half a second of room: more than the resampler holds back at any ratio, 170 ms from 192 to
-/// 8 kHz.
-constexpr std::int64_t kRoomPerSecond = 2;
+/// Room for 1/2 second, more than the resampler holds back at any ratio; from 192 to 8 kHz it is
+/// 170 ms.
+constexpr std::int64_t kBuffersPerSecond = 2;
 
 }  // namespace
 
@@ -26,13 +26,14 @@ RateConvertingRenderer::RateConvertingRenderer(BlockRenderer& renderer, AudioFor
       resampler_(makeResampler(format, deviceRate, SampleLayout::Planes)) {
   for (std::uint32_t channel = 0; channel < format.channels; ++channel) {
     input_[channel].resize(kStep);
-    made_[channel].resize(static_cast<std::size_t>(deviceRate_ / kRoomPerSecond) + kLargestBlock);
+    made_[channel].resize(static_cast<std::size_t>(deviceRate_ / kBuffersPerSecond) +
+                          kLargestBlock);
   }
   settle();
 }
 
-/// A second of silence: the resampler takes all the memory that it will ever need, and shows how
-/// much it holds back.
+/// Runs a second of silence through the resampler: it allocates all the memory that it will ever
+/// need, and shows how much it holds back.
 void RateConvertingRenderer::settle() {
   std::int64_t most = 0;
   while (fed_ < format_.sampleRate) {
@@ -41,7 +42,7 @@ void RateConvertingRenderer::settle() {
     madeFrames_ = 0;
     most = std::max(most, ahead());
   }
-  // It may hold back a step more where its blocks and the steps lie otherwise.
+  // Where its blocks and these steps align differently, it may hold back one step more.
   lead_ = most + kStep;
   while (ahead() < lead_) resample();
   latency_ = static_cast<std::uint32_t>(ahead());

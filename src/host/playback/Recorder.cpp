@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kSecondsOfRoom = 4;
 constexpr std::size_t kBlockFrames = 4096;
-/// The audio thread wakes nobody; the writer looks this often.
+/// The audio thread never wakes the writer, so the writer looks this often.
 constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
 SNDFILE* handle(void* file) {
@@ -47,25 +47,25 @@ Recorder::Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format)
 
 Recorder::~Recorder() {
   stop();
-  // Closed before the temporary file is removed.
+  // Close it before the temporary file is removed.
   file_.reset();
 }
 
 void Recorder::hear(const float* const* planes, std::uint32_t frames) noexcept {
   const auto channels = format_.channels;
-  for (std::uint32_t begin = 0; begin < frames;) {
-    const auto count = std::min<std::uint32_t>(frames - begin, kBlockFrames);
+  for (std::uint32_t start = 0; start < frames;) {
+    const auto count = std::min<std::uint32_t>(frames - start, kBlockFrames);
     if (ring_.writable() < std::size_t{count} * channels) {
-      lostFrames_ += frames - begin;
+      lostFrames_ += frames - start;
       return;
     }
     for (std::uint32_t channel = 0; channel < channels; ++channel) {
       for (std::uint32_t i = 0; i < count; ++i) {
-        incoming_[std::size_t{i} * channels + channel] = planes[channel][begin + i];
+        incoming_[std::size_t{i} * channels + channel] = planes[channel][start + i];
       }
     }
     ring_.write(incoming_.data(), std::size_t{count} * channels);
-    begin += count;
+    start += count;
   }
 }
 

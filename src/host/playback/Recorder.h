@@ -16,21 +16,23 @@
 
 namespace host {
 
-/// Writes what it hears to a 32-bit float WAV file (RF64 beyond 4 GB), on a thread of its own.
+/// Records what it hears to a 32-bit float WAV file (RF64 above 4 GB), writing on a thread of its
+/// own.
 class Recorder : public AudioTap {
  public:
-  /// Takes over the file. Throws `Failure`.
+  /// Takes ownership of the file. Throws `Failure` when it cannot be written.
   Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format);
-  /// Without `finish` nothing is left behind.
+  /// Without `finish`, leaves no file behind.
   ~Recorder() override;
 
   void hear(const float* const* planes, std::uint32_t frames) noexcept override;
-  /// What went wrong so far, or nothing. Any thread but the audio thread.
+  /// What has gone wrong so far; empty if nothing has. Any thread but the audio thread.
   Message failure() const;
-  /// Waits until a block of `frames` frames fits. For rendering faster than real time.
+  /// Waits until a block of `frames` frames fits or writing has failed. For rendering faster than
+  /// real time. Any thread but the audio thread.
   void waitForRoom(std::uint32_t frames);
-  /// Writes what is left and gives the file its name. Throws `Failure` when anything was lost on
-  /// the way. After the last `hear`.
+  /// Writes the rest and puts the file in place. Throws `Failure` when anything was lost. Call it
+  /// after the last `hear`.
   void finish();
 
  private:

@@ -14,7 +14,7 @@ namespace host {
 namespace {
 
 constexpr unsigned preferredBlock = 512;
-/// A device that has gone can keep warning; one that merely stumbles warns less often.
+/// A device that has disappeared keeps warning; one that merely stumbles warns less often.
 constexpr int manyWarnings = 4;
 constexpr auto longestPause = std::chrono::seconds(3);
 
@@ -51,7 +51,8 @@ class RtAudioOutput : public Output {
   std::chrono::steady_clock::time_point lastBlockSeen_;
 };
 
-/// RtAudio tells its error function nothing of the stream, and the program opens one at a time.
+/// RtAudio's error callback does not say which stream it is for, and the program opens only one at
+/// a time.
 std::atomic<RtAudioOutput*> openOutput{nullptr};
 
 Failure cannotPlay(const Device& device, const Message& why) {
@@ -104,7 +105,7 @@ RtAudioOutput::~RtAudioOutput() {
   try {
     if (audio_.isStreamOpen()) audio_.closeStream();
   } catch (const RtAudioError&) {
-    // The device has gone already.
+    // The device has already disappeared.
     failed_ = true;
   }
   openOutput = nullptr;
@@ -113,7 +114,7 @@ RtAudioOutput::~RtAudioOutput() {
 int RtAudioOutput::render(float* samples, unsigned frames) noexcept {
   const std::array<float*, 2> planes = {samples, samples + (deviceChannels_ > 1 ? frames : 0)};
   if (failed_.load(std::memory_order_relaxed)) {
-    // A device that has gone may ask for blocks without end; nothing of the file is lost to it.
+    // A device that has disappeared may keep asking for blocks; do not play the file to it.
     std::fill_n(samples, std::size_t{frames} * deviceChannels_, 0.0F);
     return 0;
   }

@@ -13,17 +13,17 @@
 
 namespace host {
 
-/// One converter unit and what is played through it. Main thread only.
+/// A converter unit and the file that is played through it. Main thread only.
 class Session {
  public:
-  /// Blocks that the unit is made for.
+  /// The unit's largest block.
   static constexpr std::uint32_t kMaximumFrames = unitBlockFrames;
 
   /// Makes the unit for the file's format. Throws `Failure`.
   explicit Session(OpenedFile file, OpenDevice open = openDevice);
   ~Session();
 
-  /// Whether `load` takes the file; another format needs a session of its own.
+  /// Whether `load` can take the file; another format needs a session of its own.
   bool suits(const OpenedFile& file) const;
   /// Plays another file of the same format through the same unit and output.
   void load(OpenedFile file);
@@ -36,21 +36,22 @@ class Session {
   AudioFormat originalFormat() const { return original_; }
   bool fileIsTruncated() const { return *truncated_; }
 
-  /// Plays to the device, at another sample rate where it lacks the file's, or to nobody without
-  /// one. Throws `Failure` and plays to nobody when the device cannot be opened.
+  /// Plays to the device, converted if it does not support the file's sample rate; without a
+  /// device, silently. If the device cannot be opened, plays silently and throws `Failure`.
   void setDevice(const std::optional<Device>& device);
-  /// Plays to the first of the devices that works, or to nobody. Gives why there was no playing to
-  /// the first of them when none works, else nothing.
+  /// Plays to the first of the devices that works. If none does, plays silently and returns why the
+  /// first one failed; otherwise returns nothing.
   Message setFirstWorkingDevice(const std::vector<Device>& devices);
-  /// The device that plays; nothing while nobody listens.
+  /// The device in use; nothing while playing silently.
   const std::optional<Device>& device() const { return device_; }
-  /// Ends the output.
+  /// Destroys the output.
   void stop();
-  /// Null before a device was set.
+  /// Null before the first device is set and after `stop`.
   Output* output() { return output_.get(); }
-  /// Looks after the output: when it has failed, goes on without a device. Gives why, once.
+  /// If the output has failed, goes on silently and returns why, once; otherwise returns nothing.
+  /// Call it regularly.
   Message checkOutput();
-  /// What is heard of the output's playing; null for nothing.
+  /// Sends what is played to `tap`, too. Not owned; null for none. Only while no output runs.
   void setTap(AudioTap* tap);
 
  private:

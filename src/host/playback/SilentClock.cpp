@@ -8,7 +8,7 @@ namespace host {
 namespace {
 
 constexpr std::uint32_t kBlockFrames = 512;
-/// After this much of a delay the clock starts anew instead of catching up.
+/// After a delay longer than this the clock restarts instead of catching up.
 constexpr auto kLongestDelay = std::chrono::milliseconds(200);
 
 }  // namespace

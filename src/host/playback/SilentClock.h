@@ -9,7 +9,7 @@
 
 namespace host {
 
-/// Renders in real time and lets nobody hear it.
+/// Renders in real time on a thread of its own and discards the audio.
 class SilentClock : public Output {
  public:
   SilentClock(AudioFormat format, BlockRenderer& renderer);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kBlockFrames = 4096;
 constexpr std::size_t kSecondsAhead = 2;
-/// The audio thread tells nobody that it made room; the decoder looks this often.
+/// The audio thread never wakes the decoder when there is room, so the decoder looks this often.
 constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
 }  // namespace
@@ -46,12 +46,12 @@ void StreamReader::decode() {
       }
       continue;
     }
-    // The source belongs to whoever holds the mutex, so a seek waits for at most one block.
+    // The mutex guards the source, so a seek waits for at most one block.
     const auto got = source_.read(block_.data(), kBlockFrames);
     ring_.write(block_.data(), got * format_.channels);
     if (got < kBlockFrames) ended_.store(true, std::memory_order_release);
     madeProgress_.notify_all();
-    // Gives a waiting seek its turn.
+    // Let a waiting seek have its turn.
     lock.unlock();
     lock.lock();
   }

@@ -27,20 +27,20 @@ class StreamReader {
   AudioFormat format() const { return format_; }
   std::int64_t frames() const { return frames_; }
 
-  /// Frames that `read` would give now. Reading thread.
+  /// The frames that `read` could return now. Reading thread.
   std::size_t readable() const noexcept { return ring_.readable() / format_.channels; }
-  /// Takes up to `frames` interleaved frames; fewer when the decoder is behind or the source has
-  /// ended. Never waits. Reading thread.
+  /// Takes up to `frames` interleaved frames and returns their number; fewer if the decoder cannot
+  /// keep up or the source has ended. Never waits. Reading thread.
   std::size_t read(float* interleaved, std::size_t frames) noexcept;
-  /// Whether nothing will be added to what is readable after this call. Any thread.
+  /// Whether everything up to the source's end is readable already. Any thread.
   bool hasEnded() const noexcept { return ended_.load(std::memory_order_acquire); }
 
-  /// Waits until `frames` frames, at most half a second of them, can be read or the source has
-  /// ended. Any thread but the audio thread.
+  /// Waits until `frames` frames can be read, the buffer of two seconds is full, or the source has
+  /// ended. Reading thread, while it may block: never a device's audio thread.
   void waitFor(std::size_t frames);
   /// Continues from `frame`. Not while `read` runs.
   void seek(std::int64_t frame);
-  /// The stretch that repeats without end once it is reached; nothing for none. A `seek` has to
+  /// Sets the stretch that repeats endlessly once it is reached; nothing for none. A `seek` has to
   /// follow.
   void setLoop(const std::optional<LoopRange>& loop);
 

@@ -12,7 +12,7 @@ constexpr int kIconSize = 64;
 
 }  // namespace
 
-QMessageBox* aboutBox(QWidget* parent) {
+QMessageBox* makeAboutBox(QWidget* parent) {
   auto* const box =
       new QMessageBox(QMessageBox::NoIcon, QCoreApplication::translate("AboutBox", "About"),
                       QCoreApplication::translate("AboutBox", "AAC Audition %1").arg(kVersion),

@@ -5,7 +5,8 @@ class QWidget;
 
 namespace host::audition {
 
-/// Tells what this program is and on whose work it stands. Destroys itself when it is closed.
-QMessageBox* aboutBox(QWidget* parent);
+/// Makes a box that says what this program is and whose codecs it uses. It deletes itself when
+/// closed.
+QMessageBox* makeAboutBox(QWidget* parent);
 
 }  // namespace host::audition

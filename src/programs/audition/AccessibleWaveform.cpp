@@ -8,7 +8,7 @@
 namespace host::audition {
 namespace {
 
-/// A slider over the seconds of the file.
+/// Presents the waveform as a slider over the file's seconds.
 class AccessibleWaveform : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit AccessibleWaveform(WaveformView* view)

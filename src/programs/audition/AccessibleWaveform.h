@@ -2,8 +2,8 @@
 
 namespace host::audition {
 
-/// Lets assistive programs read a waveform's place and loop, and move the place. May be called
-/// again.
+/// Lets assistive technology read a waveform's position and loop, and set the position. Further
+/// calls have no effect.
 void makeWaveformsAccessible();
 
 }  // namespace host::audition

@@ -12,7 +12,7 @@ namespace {
 using Step = Analysis::Step;
 
 QString percent(double share) {
-  // Whole only when it is done.
+  // Rounded down, so that 100 appears only when it is done.
   return QLocale().toString(static_cast<int>(std::floor(share * 100)));
 }
 

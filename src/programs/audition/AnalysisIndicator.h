@@ -8,7 +8,7 @@
 
 namespace host::audition {
 
-/// How far the analysis of the file has come, with a button to stop it or to go on.
+/// Shows the progress of the file's analysis, with a button to stop or restart it.
 class AnalysisIndicator : public QWidget {
   Q_OBJECT
 
@@ -16,7 +16,7 @@ class AnalysisIndicator : public QWidget {
   explicit AnalysisIndicator(QWidget* parent = nullptr);
 
   void showState(const Analysis::State& state);
-  /// There is no analysis.
+  /// Clears the row when there is no analysis.
   void showNothing();
 
  Q_SIGNALS:

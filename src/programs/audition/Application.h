@@ -4,8 +4,8 @@
 
 namespace host::audition {
 
-/// The toolkit's application. What goes wrong in answer to an event is said and goes no further:
-/// the toolkit cannot carry exceptions.
+/// The toolkit's application. Exceptions from event handlers are reported here and go no further,
+/// because the toolkit cannot propagate them.
 class Application : public QApplication {
  public:
   using QApplication::QApplication;

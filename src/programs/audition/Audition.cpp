@@ -72,16 +72,16 @@ void Audition::connectWindow() {
     moveTo(heardPosition() + by);
   });
   connect(&waveform, &WaveformView::positionChosen, this, &Audition::moveTo);
-  connect(&waveform, &WaveformView::loopChosen, this, [this](qint64 begin, qint64 end) {
-    const LoopRange loop = {begin, end};
+  connect(&waveform, &WaveformView::loopChosen, this, [this](qint64 start, qint64 end) {
+    const LoopRange loop = {start, end};
     changeLoop([&] { loop_.choose(loop.length() > 0 ? std::optional(loop) : std::nullopt); });
   });
   connect(&window_, &MainWindow::loopToggled, this,
           [this] { changeLoop([this] { loop_.toggle(); }); });
   connect(&window_, &MainWindow::loopRemoved, this,
           [this] { changeLoop([this] { loop_.choose(std::nullopt); }); });
-  connect(&window_, &MainWindow::loopBeginRequested, this,
-          [this] { changeLoop([this] { loop_.beginAt(heardPosition()); }); });
+  connect(&window_, &MainWindow::loopStartRequested, this,
+          [this] { changeLoop([this] { loop_.startAt(heardPosition()); }); });
   connect(&window_, &MainWindow::loopEndRequested, this,
           [this] { changeLoop([this] { loop_.endAt(heardPosition()); }); });
   connect(&deviceMenu_, &DeviceMenu::chosen, this, &Audition::setDevice);
@@ -92,7 +92,7 @@ void Audition::open(OpenedFile file) {
   if (session_ && session_->suits(file)) {
     loop_.setPlayer(nullptr);
     session_->load(std::move(file));
-    noticeRates();
+    showRateNotice();
   } else {
     auto session = std::make_unique<Session>(std::move(file), openDevice_);
     if (session_) {
@@ -100,7 +100,7 @@ void Audition::open(OpenedFile file) {
     } else {
       applyOptions(options_, &session->unit());
     }
-    // Nothing of the setting that the unit was made with is left inside.
+    // Discards what was encoded with the setting that the unit was made with.
     session->player().seek(0);
     takeSession(std::move(session));
   }
@@ -121,7 +121,7 @@ void Audition::takeSession(std::unique_ptr<Session> session) {
   const auto device = isFirst ? std::nullopt : session_->device();
   session_ = std::move(session);
   recordFrom(*session_);
-  noticeRates();
+  showRateNotice();
   if (!devices_) return;
   if (isFirst) {
     startFirstDevice();
@@ -131,14 +131,14 @@ void Audition::takeSession(std::unique_ptr<Session> session) {
 }
 
 void Audition::startFirstDevice() {
-  // A device that the user named has to work.
+  // A device named on the command line has to work.
   if (options_.device && !devices_->empty()) {
     session_->setDevice(devices_->front());
-    return noticeRates();
+    return showRateNotice();
   }
   const auto why = session_->setFirstWorkingDevice(
       inOrderOfPreference(*devices_, session_->format().sampleRate, chosenDevice_));
-  noticeRates();
+  showRateNotice();
   if (why.empty()) return;
   warn(why.english() + "; playing to nobody");
   setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
@@ -203,7 +203,7 @@ void Audition::setDevice(const std::optional<Device>& device) {
   if (!session_) return;
   try {
     session_->setDevice(device);
-    noticeRates();
+    showRateNotice();
   } catch (const Failure& failure) {
     warn(failure.what());
     setNotice(tr("Silent: %1").arg(inUsersLanguage(failure.message())));
@@ -247,7 +247,7 @@ void Audition::refreshOutput() {
     warn(why.english() + "; playing to nobody");
     setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
   }
-  // Silence would give the encoded signal of a listening test away, a word of it even more.
+  // During a listening test a notice would tell which signal is the encoded one.
   if (listeningTestRuns(&session_->unit())) return;
   const auto missed = session_->player().missedFrames();
   const auto late = lateFrames(session_->unit());
@@ -269,13 +269,13 @@ void Audition::warnOfTruncation() {
 }
 
 void Audition::warnOfRecording() {
-  // The window lives on; what is said on standard error comes when the recording ends.
+  // Playing goes on; the error itself is reported when the recording ends.
   if (warnedOfRecording_ || !recorder_ || recorder_->failure().empty()) return;
   warnedOfRecording_ = true;
   setNotice(tr("The recording has failed"));
 }
 
-void Audition::noticeRates() {
+void Audition::showRateNotice() {
   const auto original = session_->originalFormat().sampleRate;
   const auto rate = session_->format().sampleRate;
   const auto* const output = session_->output();

@@ -18,13 +18,14 @@
 
 namespace host::audition {
 
-/// The window and what plays in it.
+/// The window and the session that plays in it.
 class Audition : public QObject {
   Q_OBJECT
 
  public:
-  /// `record` may be null. Without a list of devices nothing renders by itself; with one, the first
-  /// that works plays, or nobody. Throws `Failure` when the view's bundle cannot be loaded.
+  /// `record` may be null. With a list of devices, the first that works plays, or else a silent
+  /// clock; without a list the caller renders. Throws `Failure` when the view's bundle cannot be
+  /// loaded.
   Audition(const AuditionOptions& options, std::unique_ptr<AtomicFile> record,
            std::optional<std::vector<Device>> devices, OpenDevice open = openDevice);
   ~Audition() override;
@@ -32,30 +33,29 @@ class Audition : public QObject {
   MainWindow& window() { return window_; }
   /// Null before the first file.
   Session* session() { return session_.get(); }
-  /// Null while nothing is recorded.
+  /// Null when not recording.
   Recorder* recorder() { return recorder_.get(); }
 
-  /// Shows the file in place of the earlier one, ready at its beginning. Encoder setting and
-  /// monitored signal are those of the command line at first and stay what they are afterwards.
-  /// Throws `Failure`; the earlier file then stays.
+  /// Shows the file in place of the current one, ready to play from its beginning. The first file
+  /// gets the encoder setting and monitored signal of the command line; later ones keep the current
+  /// ones. Throws `Failure`; the current file then stays.
   void open(OpenedFile file);
-  /// Opens a file as if the user had chosen it, and plays it: what is wrong with it is said in the
-  /// window.
+  /// Opens a file as if the user had chosen it, and plays it. Errors are shown in the window.
   void openAndPlay(const QString& path) { opening_.open(path); }
-  /// Whether files opened from now on are analysed in the background.
+  /// Sets whether files opened from now on are analysed in the background.
   void setAnalysing(bool analysing) { analysing_ = analysing; }
   bool isAnalysing() const { return overview_.isBusy(); }
-  /// Where the files opened last are kept. Not owned.
+  /// Where the list of recent files is kept. Not owned.
   void setSettings(QSettings* settings) { opening_.setSettings(settings); }
-  /// What is to be found again, if a file is open.
+  /// What to restore next time; nothing if no file is open.
   std::optional<SavedSession> sessionToSave();
-  /// Opens the session's file where it was left. Throws `Failure`.
+  /// Opens the saved session's file at the saved position. Throws `Failure`.
   void restore(const SavedSession& saved);
-  /// Plays to this device from now on, or to nobody.
+  /// Plays to this device from now on, or silently. Errors are shown in the window.
   void setDevice(const std::optional<Device>& device);
-  /// Brings the window up to date with what plays.
+  /// Updates the window from the session. Call it regularly.
   void refresh();
-  /// Stops playing and completes the recording. Throws `Failure`.
+  /// Stops playing and completes the recording. Throws `Failure` when the recording is not whole.
   void finish();
 
  private:
@@ -72,8 +72,8 @@ class Audition : public QObject {
   void refreshOutput();
   void warnOfTruncation();
   void warnOfRecording();
-  /// Says which sample rates were converted, if any.
-  void noticeRates();
+  /// Says in the window which sample rates are converted, if any.
+  void showRateNotice();
   void setNotice(const QString& notice);
 
   const AuditionOptions options_;
@@ -81,7 +81,7 @@ class Audition : public QObject {
   std::unique_ptr<AtomicFile> record_;
   const std::optional<std::vector<Device>> devices_;
   const OpenDevice openDevice_;
-  /// The name of the one that the user chose in an earlier session.
+  /// The name of the device that the user chose in an earlier session.
   std::string chosenDevice_;
   std::unique_ptr<Recorder> recorder_;
   AudioFormat recordedFormat_;
@@ -92,7 +92,7 @@ class Audition : public QObject {
   std::uint64_t lateFrames_ = 0;
   LoopControl loop_;
   bool analysing_ = false;
-  /// Goes before the session, to whose unit its view is bound.
+  /// Destroyed before session_: its view uses the session's unit.
   MainWindow window_;
   FileOpening opening_;
   OverviewControl overview_;

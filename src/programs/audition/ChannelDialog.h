@@ -7,14 +7,14 @@
 
 namespace host::audition {
 
-/// Asks which channels of a file with more than two are to be played.
+/// Asks which channels to play of a file with more than two.
 class ChannelDialog : public QDialog {
   Q_OBJECT
 
  public:
   ChannelDialog(const QString& fileName, std::uint32_t channels, QWidget* parent = nullptr);
 
-  /// What is chosen: two channels, or one for mono.
+  /// The chosen channels: two, or one for mono.
   ChannelChoice choice() const;
 
  private:

@@ -54,13 +54,13 @@ Examples:
   aac-audition mix.wav --headless --preset 128k --json
   aac-audition mix.flac --headless --set he,abr,64 --record decoded.wav)";
 
-/// Where a path leads, however it is written.
+/// The file that a path leads to, however it is written.
 std::filesystem::path place(const std::filesystem::path& path) {
   std::error_code error;
   return std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
 }
 
-bool monitorsSource(const std::string& word) {
+bool parseMonitor(const std::string& word) {
   if (word == "source") return true;
   if (word == "encoded") return false;
   throw UsageError("bad --monitor '" + word + "': give source or encoded");
@@ -99,7 +99,7 @@ void check(const AuditionOptions& options) {
 
 }  // namespace
 
-std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const char* const* argv) {
+std::variant<AuditionOptions, HelpText> parseAuditionArguments(int argc, const char* const* argv) {
   CLI::App app(kDescription, "aac-audition");
   app.footer(kFooter);
   AuditionOptions options;
@@ -131,7 +131,7 @@ std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const 
                  "The channels to play of a file that has more than two, by number from 1 on")
       ->type_name("L,R");
   if (const auto text = parseArguments(app, argc, argv)) return *text;
-  if (monitor) options.monitorsSource = monitorsSource(*monitor);
+  if (monitor) options.monitorsSource = parseMonitor(*monitor);
   if (preset) options.preset = presetIndex(*preset);
   if (channels) options.channels = parsedChannelChoice(*channels);
   if (setting) options.setting = parsedEncoderSetting(*setting);

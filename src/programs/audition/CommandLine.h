@@ -11,13 +11,13 @@
 
 namespace host {
 
-/// What `aac-audition` is asked to do.
+/// The options of `aac-audition`.
 struct AuditionOptions {
   std::optional<std::filesystem::path> file;
-  /// Of a file with more than two.
+  /// The channels to play of a file with more than two.
   ChannelChoice channels;
   bool headless = false;
-  /// Go on where the user left off the last time.
+  /// Continue where the user left off last time.
   bool restore = false;
   std::optional<double> seconds;
   std::optional<std::filesystem::path> screenshot;
@@ -29,7 +29,7 @@ struct AuditionOptions {
   std::optional<EncoderSetting> setting;
 };
 
-/// Reads the arguments, `argv[0]` first. Throws `UsageError`.
-std::variant<AuditionOptions, HelpText> parsedAuditionArguments(int argc, const char* const* argv);
+/// Parses the arguments; `argv[0]` is the program. Throws `UsageError`.
+std::variant<AuditionOptions, HelpText> parseAuditionArguments(int argc, const char* const* argv);
 
 }  // namespace host

@@ -20,9 +20,9 @@ DeviceMenu::DeviceMenu(QMenu* menu, Look look, int milliseconds)
   connect(menu_, &QMenu::aboutToShow, this, &DeviceMenu::open);
   connect(menu_, &QMenu::aboutToHide, this, &DeviceMenu::close);
   connect(&lookAgain_, &QTimer::timeout, this, &DeviceMenu::startLooking);
-  connect(&lookWhetherFound_, &QTimer::timeout, this, &DeviceMenu::takeFound);
+  connect(&checkFound_, &QTimer::timeout, this, &DeviceMenu::takeFound);
   lookAgain_.setInterval(milliseconds);
-  lookWhetherFound_.setInterval(kFoundMilliseconds);
+  checkFound_.setInterval(kFoundMilliseconds);
 }
 
 DeviceMenu::~DeviceMenu() = default;
@@ -47,12 +47,12 @@ void DeviceMenu::startLooking() {
   found_ = std::make_shared<std::vector<Device>>();
   work_ = std::make_unique<BackgroundWork>(
       [look = look_, found = found_](Progress& /*progress*/) { *found = look(); });
-  lookWhetherFound_.start();
+  checkFound_.start();
 }
 
 void DeviceMenu::takeFound() {
   if (!work_ || !work_->hasEnded()) return;
-  lookWhetherFound_.stop();
+  checkFound_.stop();
   work_.reset();
   const bool isNew = !hasLooked_ || !sameNames(devices_, *found_);
   hasLooked_ = true;
@@ -65,7 +65,7 @@ void DeviceMenu::fill() {
   add(tr("No Device (silent)"), std::nullopt);
   menu_->addSeparator();
   auto devices = devices_;
-  // A device that plays may hide from those who look for one.
+  // A device in use may be missing from the system's list.
   if (current_ && !deviceNamed(devices, current_->name)) devices.push_back(*current_);
   for (const auto& device : devices) add(QString::fromStdString(device.name), device);
   if (!hasLooked_) menu_->addAction(tr("Looking for devices…"))->setEnabled(false);

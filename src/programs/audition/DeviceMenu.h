@@ -12,8 +12,8 @@
 
 namespace host::audition {
 
-/// Fills a menu with the devices that there are now, and goes on looking while it is open, so that
-/// one that is plugged in turns up. Looking happens in the background.
+/// Fills a menu with the available devices, and goes on looking while it is open, so that a device
+/// just plugged in turns up. It looks for devices on a thread of its own.
 class DeviceMenu : public QObject {
   Q_OBJECT
 
@@ -26,7 +26,7 @@ class DeviceMenu : public QObject {
   explicit DeviceMenu(QMenu* menu, Look look = outputDevices, int milliseconds = kLookAgain);
   ~DeviceMenu() override;
 
-  /// The one that plays, or nothing while nobody listens.
+  /// The device in use; nothing while playing silently.
   void setCurrent(const std::optional<Device>& device, bool canChoose);
 
  Q_SIGNALS:
@@ -48,7 +48,7 @@ class DeviceMenu : public QObject {
   bool hasLooked_ = false;
   std::vector<Device> devices_;
   QTimer lookAgain_;
-  QTimer lookWhetherFound_;
+  QTimer checkFound_;
   std::shared_ptr<std::vector<Device>> found_;
   std::unique_ptr<BackgroundWork> work_;
 };

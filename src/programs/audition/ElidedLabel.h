@@ -4,7 +4,7 @@
 
 namespace host::audition {
 
-/// A line of text that ends in an ellipsis where it does not fit; the tool tip has all of it.
+/// A line of text with an ellipsis where it does not fit; the tool tip shows all of it.
 class ElidedLabel : public QLabel {
  public:
   explicit ElidedLabel(Qt::TextElideMode mode, QWidget* parent = nullptr);

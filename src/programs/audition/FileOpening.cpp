@@ -41,7 +41,7 @@ void FileOpening::open(const QString& path) {
 }
 
 void FileOpening::openChannels(const QString& path, const ChannelChoice& channels) {
-  // A new view would end the test without a word.
+  // A new view would silently end the listening test.
   if (!enabled_) return;
   try {
     take_(openedForPlaying(path.toStdString(), channels));
@@ -49,7 +49,7 @@ void FileOpening::openChannels(const QString& path, const ChannelChoice& channel
   } catch (const TooManyChannels& many) {
     askForChannels(path, many.channels());
   } catch (const Failure& failure) {
-    complainOf(path, failure.message());
+    showFailure(path, failure.message());
   }
 }
 
@@ -61,7 +61,7 @@ void FileOpening::askForChannels(const QString& path, std::uint32_t channels) {
   dialog->open();
 }
 
-void FileOpening::complainOf(const QString& path, const Message& why) {
+void FileOpening::showFailure(const QString& path, const Message& why) {
   if (recent_ && !QFileInfo::exists(path)) recent_->remove(path);
   auto* const message =
       new QMessageBox(QMessageBox::Warning, tr("AAC Audition"), tr("The file cannot be played."),
@@ -78,7 +78,7 @@ void FileOpening::fillRecentMenu() {
   const auto paths = recent_ ? recent_->paths() : QStringList();
   for (const auto& path : paths) {
     auto name = QFileInfo(path).fileName();
-    // An ampersand would underline what follows.
+    // A single ampersand would mark a shortcut key.
     auto* const action = menu->addAction(name.replace(QLatin1Char('&'), QStringLiteral("&&")), this,
                                          [this, path] { open(path); });
     action->setToolTip(path);

@@ -11,19 +11,19 @@
 
 namespace host::audition {
 
-/// Opens what the user asks for: by dialog, from the files opened last, or dropped on the window.
-/// Says what is wrong with a file, and asks which channels to take of one with many.
+/// Opens what the user asks for: from the dialog, from the recent files, or dropped on the window.
+/// Shows why a file cannot be played, and asks which channels to play of a file with many.
 class FileOpening : public QObject {
   Q_OBJECT
 
  public:
-  /// `take` shows the file in the window; it may throw `Failure`. `channels` are those to take of
-  /// files with more than two, if that was said.
+  /// `take` shows the file in the window; it may throw `Failure`. `channels` are those to play of
+  /// files with more than two; empty to ask.
   FileOpening(MainWindow& window, ChannelChoice channels, std::function<void(OpenedFile)> take);
 
-  /// Where the files opened last are kept; without it there are none. Not owned.
+  /// Where the list of recent files is kept; null for no list. Not owned.
   void setSettings(QSettings* settings);
-  /// Whether anything is opened.
+  /// Sets whether files can be opened.
   void setEnabled(bool enabled) { enabled_ = enabled; }
 
   void choose();
@@ -32,7 +32,7 @@ class FileOpening : public QObject {
  private:
   void openChannels(const QString& path, const ChannelChoice& channels);
   void askForChannels(const QString& path, std::uint32_t channels);
-  void complainOf(const QString& path, const Message& why);
+  void showFailure(const QString& path, const Message& why);
   void fillRecentMenu();
 
   MainWindow& window_;

@@ -16,21 +16,21 @@ namespace host::audition {
 namespace {
 
 constexpr std::uint32_t kBlockFrames = 1024;
-/// Between two turns of the event loop: half a second of audio or so.
+/// Blocks rendered per turn of the event loop.
 constexpr int kBlocksPerTurn = 20;
-/// The view polls its meters every 75 ms: long enough for the last readings to show.
+/// Long enough for the last readings to show: the view polls its meters every 75 ms.
 constexpr int kSettlingMilliseconds = 250;
 constexpr int kRefreshMilliseconds = 50;
 constexpr int kRestingMilliseconds = 10;
 
-/// Renders block after block while the event loop turns.
+/// Renders block after block, a few in each turn of the event loop.
 class Pump {
  public:
   Pump(Session& session, Recorder* recorder) : session_(session), recorder_(recorder) {
     session.player().setOffline(true);
   }
 
-  /// False once everything has been rendered.
+  /// Renders some blocks. False once everything has been rendered.
   bool turn() {
     auto& player = session_.player();
     const std::array<float*, 2> planes = {samples_.data(), samples_.data() + kBlockFrames};
@@ -47,9 +47,10 @@ class Pump {
   std::vector<float> samples_ = std::vector<float>(std::size_t{kBlockFrames} * 2);
 };
 
-/// Lets the application run, calling `work` every so many milliseconds, until it says that it is
-/// done or the user ends the program.
-void turnWhile(const std::function<bool()>& work, const bool& interrupted, int milliseconds = 0) {
+/// Runs the event loop and calls `work` every `milliseconds`, until it returns false or the user
+/// interrupts the program.
+void runEventLoopWhile(const std::function<bool()>& work, const bool& interrupted,
+                       int milliseconds = 0) {
   std::exception_ptr error;
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -79,11 +80,11 @@ void requireDevice(const std::optional<std::string>& name) {
 }  // namespace
 
 int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
-  // Nothing sounds, but a wrong name should not wait until somebody listens.
+  // No device plays, but a wrong name is an error all the same.
   requireDevice(options.device);
   auto file = openedForPlaying(*options.file, options.channels);
   Audition audition(options, std::move(files.record), std::nullopt);
-  // A picture shows the whole waveform.
+  // The screenshot shows the whole waveform.
   audition.setAnalysing(files.screenshot != nullptr);
   audition.open(std::move(file));
   if (options.seconds) limitLength(audition, *options.seconds);
@@ -99,16 +100,16 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
 
   Pump pump(*audition.session(), audition.recorder());
   audition.session()->player().play();
-  turnWhile([&] { return pump.turn(); }, interrupted);
-  // The encoder is ahead of what was heard: its bit rate counts when it has come to rest, so that
-  // equal runs give equal readings.
+  runEventLoopWhile([&] { return pump.turn(); }, interrupted);
+  // The encoder runs ahead of what was heard: let it finish, so that equal runs report equal bit
+  // rates.
   audition.session()->unit().waitForCodec();
   if (files.screenshot) {
     const auto goesOn = [&] {
       audition.refresh();
       return audition.isAnalysing();
     };
-    turnWhile(goesOn, interrupted, kRestingMilliseconds);
+    runEventLoopWhile(goesOn, interrupted, kRestingMilliseconds);
     settle(interrupted);
   }
   if (interrupted) throw Failure(Message::words("interrupted; nothing was written"));

@@ -17,8 +17,8 @@ void install(const QLocale& locale, const QString& name, const QString& folder,
 
 }  // namespace
 
-void speakLanguageOf(const QLocale& locale, QCoreApplication& application) {
-  // Whoever reads English before other languages gets the source's own words.
+void installTranslations(const QLocale& locale, QCoreApplication& application) {
+  // The source texts are English.
   const auto languages = locale.uiLanguages();
   if (languages.isEmpty() || languages.front().startsWith(QLatin1String("en"))) return;
   install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath),

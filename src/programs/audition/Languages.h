@@ -9,11 +9,11 @@ class QCoreApplication;
 
 namespace host::audition {
 
-/// Gives the window the words of the user's language, and the toolkit's own where they are
-/// installed. English needs none. Before any window is made.
-void speakLanguageOf(const QLocale& locale, QCoreApplication& application);
+/// Translates the window into the locale's language, and the toolkit's own texts if their
+/// translation is installed. English needs none. Call it before any window is made.
+void installTranslations(const QLocale& locale, QCoreApplication& application);
 
-/// What the rooms without a toolkit say, in the language that the window speaks.
+/// A message from the rooms without a toolkit, translated like the window.
 QString inUsersLanguage(const Message& message);
 
 }  // namespace host::audition

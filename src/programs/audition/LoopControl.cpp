@@ -23,7 +23,7 @@ void LoopControl::toggle() {
   apply();
 }
 
-void LoopControl::beginAt(std::int64_t frame) {
+void LoopControl::startAt(std::int64_t frame) {
   if (player_ != nullptr) choose(loopFrom(frame, loop_, player_->length()));
 }
 
@@ -33,7 +33,7 @@ void LoopControl::endAt(std::int64_t frame) {
 
 void LoopControl::apply() {
   player_->setLoop(isOn_ ? loop_ : std::nullopt);
-  // What the source does not have is cut off.
+  // The player clips the loop to the source.
   if (!isOn_) return;
   loop_ = player_->loop();
   isOn_ = loop_.has_value();

@@ -7,20 +7,21 @@
 
 namespace host::audition {
 
-/// The loop of the file that plays. It can be switched off and is remembered.
+/// The loop of the current file. It is remembered while it is switched off.
 class LoopControl {
  public:
-  /// Another file, which has no loop; null for none. To be called before the player goes.
+  /// Sets the player of another file, which has no loop; null for none. Not owned: set another
+  /// before the player is destroyed.
   void setPlayer(Player* player);
 
   const std::optional<LoopRange>& loop() const { return loop_; }
   bool isOn() const { return isOn_; }
 
-  /// Switches a new loop on; nothing takes it away.
+  /// Sets a new loop and switches it on; nothing removes the loop.
   void choose(const std::optional<LoopRange>& loop);
   void toggle();
-  /// Puts an edge of the loop there.
-  void beginAt(std::int64_t frame);
+  /// Moves an edge of the loop to `frame`, and switches the loop on.
+  void startAt(std::int64_t frame);
   void endAt(std::int64_t frame);
 
  private:

@@ -26,11 +26,11 @@ void LoopGesture::moveTo(std::int64_t frame) {
     case LoopPart::None:
       loop_ = between(pressedAt_, place);
       break;
-    case LoopPart::Begin:
+    case LoopPart::Start:
       loop_ = between(place, before_->end);
       break;
     case LoopPart::End:
-      loop_ = between(before_->begin, place);
+      loop_ = between(before_->start, place);
       break;
     case LoopPart::Whole:
       loop_ = movedLoop(*before_, frame - pressedAt_, length_);
@@ -39,19 +39,19 @@ void LoopGesture::moveTo(std::int64_t frame) {
 }
 
 LoopRange movedLoop(const LoopRange& loop, std::int64_t by, std::int64_t length) {
-  const auto begin = std::clamp<std::int64_t>(loop.begin + by, 0, length - loop.length());
-  return {begin, begin + loop.length()};
+  const auto start = std::clamp<std::int64_t>(loop.start + by, 0, length - loop.length());
+  return {start, start + loop.length()};
 }
 
-std::optional<LoopRange> loopFrom(std::int64_t begin, const std::optional<LoopRange>& loop,
+std::optional<LoopRange> loopFrom(std::int64_t start, const std::optional<LoopRange>& loop,
                                   std::int64_t length) {
-  const bool fits = loop && loop->end > begin;
-  return begin < length ? between(begin, fits ? loop->end : length) : std::nullopt;
+  const bool fits = loop && loop->end > start;
+  return start < length ? between(start, fits ? loop->end : length) : std::nullopt;
 }
 
 std::optional<LoopRange> loopUpTo(std::int64_t end, const std::optional<LoopRange>& loop) {
-  const bool fits = loop && loop->begin < end;
-  return between(fits ? loop->begin : 0, end);
+  const bool fits = loop && loop->start < end;
+  return between(fits ? loop->start : 0, end);
 }
 
 }  // namespace host::audition

@@ -7,18 +7,18 @@
 
 namespace host::audition {
 
-/// What a press of the mouse on a waveform takes hold of.
-enum class LoopPart { None, Begin, End, Whole };
+/// The part of a loop that a mouse press grabs.
+enum class LoopPart { None, Start, End, Whole };
 
-/// The way from a press of the mouse to a loop: draws a new one, or moves an edge or all of one.
+/// Follows the mouse from its press: draws a new loop, or moves an edge or the whole of one.
 class LoopGesture {
  public:
-  /// `loop` is the one that there is. Without `part` a new one is drawn.
+  /// `loop` is the current loop. With `LoopPart::None` a new one is drawn.
   LoopGesture(LoopPart part, std::int64_t pressedAt, const std::optional<LoopRange>& loop,
               std::int64_t length);
 
   void moveTo(std::int64_t frame);
-  /// What the loop would be now.
+  /// The loop if the mouse were released now.
   const std::optional<LoopRange>& loop() const { return loop_; }
 
  private:
@@ -29,11 +29,11 @@ class LoopGesture {
   std::optional<LoopRange> loop_;
 };
 
-/// The loop moved as a whole, as far as the file goes.
+/// The loop moved as a whole, within the file.
 LoopRange movedLoop(const LoopRange& loop, std::int64_t by, std::int64_t length);
-/// The loop with its begin or end put elsewhere. One that would be empty reaches to the file's end
-/// or begin instead; nothing where that is empty too.
-std::optional<LoopRange> loopFrom(std::int64_t begin, const std::optional<LoopRange>& loop,
+/// The loop with its start or end moved. A loop that would be empty extends to the file's end or
+/// start instead; nothing if that is empty, too.
+std::optional<LoopRange> loopFrom(std::int64_t start, const std::optional<LoopRange>& loop,
                                   std::int64_t length);
 std::optional<LoopRange> loopUpTo(std::int64_t end, const std::optional<LoopRange>& loop);
 

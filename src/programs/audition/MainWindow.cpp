@@ -27,7 +27,7 @@ QFrame* separator(QWidget* parent) {
   return line;
 }
 
-/// The one local file that a drag brings, or nothing.
+/// The path of a dragged file, if it is a single local one; otherwise empty.
 QString droppedFile(const QMimeData& data) {
   const auto urls = data.urls();
   return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
@@ -57,7 +57,7 @@ MainWindow::MainWindow()
   rows_->addWidget(status_);
   centre->setFixedWidth(kViewWidth);
   setCentralWidget(centre);
-  // The window is as large as its contents ask for, always.
+  // The window always has the size of its contents.
   rows_->setSizeConstraint(QLayout::SetFixedSize);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 
@@ -83,7 +83,7 @@ void MainWindow::setView(std::unique_ptr<ui::NativeView> view) {
   if (widget == nullptr) return;
   view->setFrameSizeObserver([this](ui::Size) { followView(); });
   rows_->insertWidget(rows_->indexOf(invitation_), widget, 0, Qt::AlignLeft);
-  // The layout's widget is its parent now and owns it.
+  // The layout's parent widget owns it now.
   static_cast<void>(view.release());
   view_ = widget;
   view_->show();
@@ -91,7 +91,7 @@ void MainWindow::setView(std::unique_ptr<ui::NativeView> view) {
 }
 
 void MainWindow::followView() {
-  // At once: on its own the layout would follow in two turns of the event loop, which flickers.
+  // Left to itself the layout would follow two turns of the event loop later, and flicker.
   for (auto* const each : {static_cast<QLayout*>(rows_), layout()}) {
     each->invalidate();
     each->activate();
@@ -100,7 +100,7 @@ void MainWindow::followView() {
 
 void MainWindow::removeView() {
   if (view_ == nullptr) return;
-  // Leaving its parent is what tells the view to let go of the unit.
+  // The view releases the unit when it leaves its parent.
   view_->setParent(nullptr);
   delete std::exchange(view_, nullptr);
 }
@@ -130,12 +130,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
   event->ignore();
-  // What no control around the view has taken is the view's. What it leaves over comes back here.
-  if (view_ == nullptr || handsKeyOn_) return;
+  // Keys that no control around the view has used go to the view; those it ignores come back here.
+  if (view_ == nullptr || isForwardingKey_) return;
   if (view_ == focusWidget() || view_->isAncestorOf(focusWidget())) return;
-  handsKeyOn_ = true;
+  isForwardingKey_ = true;
   QCoreApplication::sendEvent(view_, event);
-  handsKeyOn_ = false;
+  isForwardingKey_ = false;
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

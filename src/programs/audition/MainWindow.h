@@ -12,8 +12,8 @@ class QAction;
 
 namespace host::audition {
 
-/// The window: transport above, the converter's view, the status below. Its width is the view's,
-/// its height follows the view's.
+/// The window: the transport above, the converter's view, the status below. It is as wide as the
+/// view, and its height follows the view's.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -24,30 +24,30 @@ class MainWindow : public QMainWindow {
   TransportBar& transport() { return *transport_; }
   StatusLine& status() { return *status_; }
 
-  /// Puts the view into the window in place of the earlier one, which is destroyed. Null shows an
-  /// invitation to open a file. Throws `Failure` for a view of another toolkit.
+  /// Shows the view in place of the current one, which is destroyed. Null shows an invitation to
+  /// open a file. Throws `Failure` for a view of another toolkit.
   void setView(std::unique_ptr<ui::NativeView> view);
-  /// Whether files can be opened and dropped.
+  /// Sets whether files can be opened and dropped.
   void setOpenEnabled(bool enabled);
   void setTransportEnabled(bool enabled);
-  /// Whether there is a loop, and whether it is in use.
+  /// Shows whether there is a loop and whether it is switched on.
   void setLoop(bool exists, bool isOn);
-  /// Filled by its `aboutToShow`.
+  /// Empty: to be filled on its `aboutToShow`.
   QMenu* recentMenu() { return recent_; }
 
  Q_SIGNALS:
   void openRequested();
   void fileDropped(const QString& path);
   void playRequested();
-  /// Relative, in milliseconds.
+  /// By that many milliseconds, forwards or backwards.
   void moveRequested(int milliseconds);
   void rewindRequested();
   void loopToggled();
   void loopRemoved();
-  /// At the place that sounds.
-  void loopBeginRequested();
+  /// At the position heard now.
+  void loopStartRequested();
   void loopEndRequested();
-  /// The window is about to close, still as the user saw it.
+  /// The window is about to close and still looks as the user saw it.
   void closing();
 
  protected:
@@ -69,7 +69,7 @@ class MainWindow : public QMainWindow {
   QVBoxLayout* rows_;
   QWidget* invitation_;
   QWidget* view_ = nullptr;
-  bool handsKeyOn_ = false;
+  bool isForwardingKey_ = false;
   QAction* open_ = nullptr;
   QMenu* recent_ = nullptr;
   QAction* loop_ = nullptr;

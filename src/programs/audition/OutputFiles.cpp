@@ -14,7 +14,7 @@ std::unique_ptr<AtomicFile> claimed(const std::optional<std::filesystem::path>& 
 
 }  // namespace
 
-OutputFiles claimedOutputFiles(const AuditionOptions& options) {
+OutputFiles claimOutputFiles(const AuditionOptions& options) {
   return {claimed(options.screenshot), claimed(options.record)};
 }
 

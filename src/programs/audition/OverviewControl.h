@@ -9,19 +9,19 @@
 
 namespace host::audition {
 
-/// Keeps the waveform in the window up to date with the file, its analysis and what plays.
+/// Updates the waveform in the window from the file, its analysis and the player.
 class OverviewControl : public QObject {
  public:
   explicit OverviewControl(TransportBar& transport);
   ~OverviewControl() override;
 
-  /// Shows another file. Without `analyses` nothing of it is read in the background.
+  /// Shows another file. Without `analyses` it is not read in the background.
   void setFile(Session& session, bool analyses);
-  /// `position` is what is heard now.
+  /// `position` is the frame that is heard now.
   void refresh(Session& session, std::int64_t position, Analysis::Clock::time_point now);
-  /// What plays is about to jump.
+  /// Takes note of what was played so far. Call it before the position jumps.
   void leavePosition(Session& session);
-  /// Whether the analysis does something, or would if a listening test did not run.
+  /// Whether the analysis is running, or paused by a listening test.
   bool isBusy() const;
 
  private:

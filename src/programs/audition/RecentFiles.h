@@ -5,14 +5,14 @@
 
 namespace host::audition {
 
-/// The files that were opened last, the newest first, kept for the user.
+/// The list of recently opened files, newest first, kept in the user's settings.
 class RecentFiles {
  public:
   static constexpr int kMost = 10;
 
   explicit RecentFiles(QSettings& settings) : settings_(settings) {}
 
-  /// As they were opened, whether they are still there or not.
+  /// The paths as they were opened, whether or not the files still exist.
   QStringList paths() const;
   void add(const QString& path);
   void remove(const QString& path);

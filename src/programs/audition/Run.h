@@ -6,10 +6,11 @@
 
 namespace host::audition {
 
-/// Runs the program with its window until it is closed. Gives the exit status; throws `Failure`.
+/// Runs the program with its window until that is closed. Returns the exit status; throws
+/// `Failure`.
 int runWithWindow(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals);
 
-/// Runs the file off screen as fast as it goes. Gives the exit status; throws `Failure`.
+/// Plays the file off screen as fast as possible. Returns the exit status; throws `Failure`.
 int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals);
 
 }  // namespace host::audition

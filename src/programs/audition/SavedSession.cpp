@@ -33,7 +33,7 @@ void save(const SavedSession& session, QSettings& settings) {
   settings.setValue("channels", joined(session.channels));
   settings.setValue("position", qlonglong{session.position});
   if (session.loop) {
-    settings.setValue("loopBegin", qlonglong{session.loop->begin});
+    settings.setValue("loopBegin", qlonglong{session.loop->start});
     settings.setValue("loopEnd", qlonglong{session.loop->end});
     settings.setValue("loopIsOn", session.loopIsOn);
   }
@@ -49,13 +49,13 @@ std::optional<SavedSession> savedSession(QSettings& settings) {
   const auto text = [&](const char* key) { return settings.value(key).toString(); };
   SavedSession session;
   session.file = text("file").toStdString();
-  // An unquoted comma makes a list.
+  // QSettings reads an unquoted comma as a list.
   const auto channels = settings.value("channels").toStringList().join(QLatin1Char(','));
   session.channels = parsedOrNothing(channels, parsedChannelChoice).value_or(ChannelChoice{});
   session.position = settings.value("position").toLongLong();
   const LoopRange loop = {settings.value("loopBegin").toLongLong(),
                           settings.value("loopEnd").toLongLong()};
-  if (loop.begin >= 0 && loop.length() > 0) session.loop = loop;
+  if (loop.start >= 0 && loop.length() > 0) session.loop = loop;
   session.loopIsOn = session.loop && settings.value("loopIsOn").toBool();
   session.device = text("device").toStdString();
   const auto encoder = settings.value("encoder").toStringList().join(QLatin1Char(','));

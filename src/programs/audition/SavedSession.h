@@ -10,7 +10,7 @@
 
 namespace host::audition {
 
-/// What a user finds again who asks for it: the file, where he was in it, and what he had chosen.
+/// What `--restore` brings back: the file, the position in it, and the user's choices.
 struct SavedSession {
   std::string file;
   ChannelChoice channels;
@@ -25,7 +25,7 @@ struct SavedSession {
 };
 
 void save(const SavedSession& session, QSettings& settings);
-/// Nothing when none was saved. What makes no sense in the settings is left out.
+/// The session in the settings; nothing if none was saved. Values that make no sense are left out.
 std::optional<SavedSession> savedSession(QSettings& settings);
 
 }  // namespace host::audition

@@ -14,7 +14,7 @@ StatusLine::StatusLine(QWidget* parent)
       encoder_(new ElidedLabel(Qt::ElideRight, this)),
       notice_(new ElidedLabel(Qt::ElideRight, this)) {
   notice_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  // The notice has the room that the encoder's text leaves.
+  // The notice gets the room that the encoder's text leaves.
   encoder_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   auto* const row = new QHBoxLayout(this);

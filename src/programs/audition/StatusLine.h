@@ -6,7 +6,7 @@
 
 namespace host::audition {
 
-/// The row below the view: what the encoder really does, and what the user should know.
+/// The row below the view: the encoder's actual setting, and notices to the user.
 class StatusLine : public QWidget {
  public:
   explicit StatusLine(QWidget* parent = nullptr);

@@ -10,14 +10,14 @@ class ConverterUnit;
 
 namespace host::audition {
 
-/// Whether a listening test runs in the unit's view.
+/// Whether a listening test is running in the unit's view.
 bool listeningTestRuns(AudioUnit unit);
 
-/// Frames of encoded signal that came too late and were silence.
+/// Frames of the encoded signal that were too late and replaced by silence.
 std::uint64_t lateFrames(converter::ConverterUnit& unit);
 
-/// The encoder setting really used, the bit rate it comes to and the latency. While a listening
-/// test runs, nothing that changes with what is heard or encoded.
+/// The encoder setting actually used, its bit rate and the latency. While a listening test is
+/// running, it shows nothing that depends on what is heard or encoded.
 QString encoderText(converter::ConverterUnit& unit, double sampleRate);
 
 }  // namespace host::audition

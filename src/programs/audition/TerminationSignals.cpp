@@ -13,7 +13,7 @@ TerminationSignals::TerminationSignals() : descriptor_(-1) {
   sigemptyset(&signals);
   sigaddset(&signals, SIGINT);
   sigaddset(&signals, SIGTERM);
-  // Every thread made from now on inherits this.
+  // All threads started from now on inherit this.
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
   descriptor_ = ::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
@@ -23,15 +23,15 @@ TerminationSignals::~TerminationSignals() {
 }
 
 std::unique_ptr<QSocketNotifier> TerminationSignals::listen(
-    std::function<void()> terminated) const {
+    std::function<void()> onTermination) const {
   if (descriptor_ < 0) return nullptr;
   auto notifier = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
   QObject::connect(notifier.get(), &QSocketNotifier::activated,
-                   [descriptor = descriptor_, terminated = std::move(terminated)] {
+                   [descriptor = descriptor_, onTermination = std::move(onTermination)] {
                      signalfd_siginfo info;
                      while (::read(descriptor, &info, sizeof info) == sizeof info) {
                      }
-                     terminated();
+                     onTermination();
                    });
   return notifier;
 }

@@ -6,7 +6,8 @@
 
 namespace host::audition {
 
-/// Turns SIGINT and SIGTERM into a call on the main thread. Made before any other thread starts.
+/// Turns SIGINT and SIGTERM into a call on the main thread. To be made before any other thread
+/// starts.
 class TerminationSignals {
  public:
   TerminationSignals();
@@ -14,9 +15,9 @@ class TerminationSignals {
   TerminationSignals& operator=(const TerminationSignals&) = delete;
   ~TerminationSignals();
 
-  /// Calls `terminated` while what it returns lives. Needs the application object. A signal that
-  /// came before is told at the next turn of the loop.
-  [[nodiscard]] std::unique_ptr<QSocketNotifier> listen(std::function<void()> terminated) const;
+  /// Calls `onTermination` for each signal while the returned object exists. Needs the application
+  /// object. A signal that came earlier is delivered in the next turn of the event loop.
+  [[nodiscard]] std::unique_ptr<QSocketNotifier> listen(std::function<void()> onTermination) const;
 
  private:
   int descriptor_;

@@ -21,7 +21,7 @@ TimeDisplay::TimeDisplay(QWidget* parent) : QToolButton(parent) {
 void TimeDisplay::showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate) {
   position_ = position;
   if (length != length_ || sampleRate != sampleRate_) {
-    // As wide as the longest time, so that nothing moves while it runs.
+    // As wide as the longest time, so that nothing moves while time runs.
     const auto longest = QString(timeText(-length, sampleRate));
     setFixedWidth(fontMetrics().horizontalAdvance(longest) + kPadding);
   }

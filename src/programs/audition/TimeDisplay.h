@@ -5,7 +5,7 @@
 
 namespace host::audition {
 
-/// The time that has passed, or with a click the time that is left.
+/// Shows the elapsed time; a click switches to the remaining time and back.
 class TimeDisplay : public QToolButton {
   Q_OBJECT
 

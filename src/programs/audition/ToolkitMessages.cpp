@@ -17,7 +17,7 @@ void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString
   complain(text.contains("platform plugin")
                ? "the display cannot be reached; check DISPLAY, or add --headless FILE"
                : text.simplified().toStdString());
-  // The toolkit would abort and leave a core file behind.
+  // The toolkit itself would abort and leave a core file behind.
   ::_exit(EXIT_FAILURE);
 }
 

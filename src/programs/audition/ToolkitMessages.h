@@ -2,9 +2,9 @@
 
 namespace host::audition {
 
-/// Keeps the toolkit's remarks for developers off standard error, and says in one line what makes
-/// it give up. Whoever wants to read the remarks sets QT_LOGGING_RULES or QT_DEBUG_PLUGINS. Before
-/// the application object is made.
+/// Keeps the toolkit's messages for developers off standard error, and reports a fatal one in a
+/// single line. Setting QT_LOGGING_RULES or QT_DEBUG_PLUGINS shows them all. Call it before the
+/// application object is made.
 void tameToolkitMessages();
 
 }  // namespace host::audition

@@ -14,7 +14,7 @@ constexpr int kGrid = 8;
 constexpr int kDeviceWidth = 176;
 constexpr int kLoopWidth = 128;
 
-/// Keys belong to the view: a click here does not take the focus away from it.
+/// Lets a click on the control leave the keyboard focus with the view.
 template <class Control>
 Control* keepingFocusInView(Control* control) {
   control->setFocusPolicy(Qt::TabFocus);
@@ -54,8 +54,8 @@ TransportBar::TransportBar(QWidget* parent)
   connect(open_, &QPushButton::clicked, this, &TransportBar::openClicked);
   connect(play_, &PlayButton::clicked, this, &TransportBar::playClicked);
   connect(loop_, &QPushButton::clicked, this, [this] {
-    // Whether the loop is in use is told by whoever answers.
-    loop_->setChecked(loopShines_);
+    // The button changes only when `setLoop` says so.
+    loop_->setChecked(loopIsLit_);
     Q_EMIT loopToggled();
   });
   connect(waveform_, &WaveformView::loopToggled, this, &TransportBar::loopToggled);
@@ -113,9 +113,9 @@ void TransportBar::showTime(std::int64_t position, std::int64_t length, std::uin
 void TransportBar::setLoop(const std::optional<LoopRange>& loop, bool isOn,
                            std::uint32_t sampleRate) {
   loop_->setEnabled(loop.has_value());
-  if (const bool shines = loop && isOn; shines != loopShines_) {
-    loopShines_ = shines;
-    loop_->setChecked(shines);
+  if (const bool lit = loop && isOn; lit != loopIsLit_) {
+    loopIsLit_ = lit;
+    loop_->setChecked(lit);
     showLoopState();
   }
   const auto text = loop ? tr("Loop %1").arg(timeText(loop->length(), sampleRate)) : tr("Loop");
@@ -123,14 +123,14 @@ void TransportBar::setLoop(const std::optional<LoopRange>& loop, bool isOn,
   loop_->setText(text);
   loop_->setToolTip(
       loop ? tr("Loop from %1 to %2; click to switch it on or off")
-                 .arg(timeText(loop->begin, sampleRate), timeText(loop->end, sampleRate))
+                 .arg(timeText(loop->start, sampleRate), timeText(loop->end, sampleRate))
            : tr("Drag across the waveform to set a loop"));
 }
 
 void TransportBar::showLoopState() {
-  // In some styles a pressed button is hard to tell from another.
+  // In some styles a pressed button is hard to tell from an ordinary one.
   auto colors = palette();
-  if (loopShines_) {
+  if (loopIsLit_) {
     const auto accent = colors.color(QPalette::Highlight);
     const bool takesLight = ui::isDark({accent.redF(), accent.greenF(), accent.blueF(), 1});
     colors.setColor(QPalette::Button, accent);

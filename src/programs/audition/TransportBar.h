@@ -13,7 +13,7 @@
 
 namespace host::audition {
 
-/// The rows above the view: what plays and to which device, the waveform, and where it is.
+/// The rows above the view: file and device, waveform, and transport.
 class TransportBar : public QWidget {
   Q_OBJECT
 
@@ -25,10 +25,10 @@ class TransportBar : public QWidget {
   void setOpenEnabled(bool enabled);
   void setPlaying(bool playing);
   void showTime(std::int64_t position, std::int64_t length, std::uint32_t sampleRate);
-  /// The loop that there is, and whether it is in use.
+  /// Shows the loop, if any, and whether it is switched on.
   void setLoop(const std::optional<LoopRange>& loop, bool isOn, std::uint32_t sampleRate);
   void setDeviceName(const QString& name);
-  /// Filled by its `aboutToShow`.
+  /// Empty: to be filled on its `aboutToShow`.
   QMenu* deviceMenu() { return deviceMenu_; }
   WaveformView& waveform() { return *waveform_; }
   AnalysisIndicator& analysis() { return *analysis_; }
@@ -55,7 +55,7 @@ class TransportBar : public QWidget {
   QLabel* total_;
   AnalysisIndicator* analysis_;
   QPushButton* loop_;
-  bool loopShines_ = false;
+  bool loopIsLit_ = false;
 };
 
 }  // namespace host::audition

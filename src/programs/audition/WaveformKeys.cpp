@@ -13,7 +13,7 @@ constexpr double kZoomStep = 0.5;
 }  // namespace
 
 void WaveformView::keyPressEvent(QKeyEvent* event) {
-  // Whatever is no key of this widget is left to others, above all to the converter's view.
+  // Keys that this widget does not use are left to others, above all to the converter's view.
   if (length_ == 0 || !(moveByKey(*event) || loopByKey(*event))) event->ignore();
 }
 
@@ -76,7 +76,7 @@ bool WaveformView::loopByKey(const QKeyEvent& event) {
   const bool plain =
       (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier)) ==
       Qt::NoModifier;
-  // Some layouts have brackets only with AltGr, which comes as these two.
+  // Some layouts have brackets only with AltGr, which arrives as Ctrl+Alt.
   const bool altGr = event.modifiers() == (Qt::ControlModifier | Qt::AltModifier);
   if (!plain && !altGr) return false;
   switch (event.key()) {
@@ -117,18 +117,18 @@ QString WaveformView::valueText() const {
   if (loop_) {
     text += QStringLiteral("; ") +
             (loopIsOn_ ? tr("loop from %1 to %2") : tr("loop from %1 to %2, switched off"))
-                .arg(time(loop_->begin), time(loop_->end));
+                .arg(time(loop_->start), time(loop_->end));
   }
   return text;
 }
 
 QString WaveformView::tipAt(const QPointF& point) const {
-  const auto begin = range_.frameAt(point.x() - 3, width());
-  const auto end = std::max(range_.frameAt(point.x() + 3, width()), begin + 1);
+  const auto start = range_.frameAt(point.x() - 3, width());
+  const auto end = std::max(range_.frameAt(point.x() + 3, width()), start + 1);
   std::int64_t source = 0;
   std::int64_t encoded = 0;
   for (std::uint32_t channel = 0; channel < overview_->channels(); ++channel) {
-    const auto column = overview_->columns(channel, begin, end, 1).front();
+    const auto column = overview_->columns(channel, start, end, 1).front();
     source += column.sourceOvers;
     encoded += column.encodedOvers;
   }

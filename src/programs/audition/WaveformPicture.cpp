@@ -28,7 +28,7 @@ class Columns {
  public:
   Columns(const SharedOverview& overview, std::uint32_t channel, const VisibleRange& range,
           std::size_t count)
-      : fine_(overview.columns(channel, range.begin(), range.end(), count * kFinePerColumn)) {}
+      : fine_(overview.columns(channel, range.start(), range.end(), count * kFinePerColumn)) {}
 
   WaveformColumn peaks(std::size_t column) const {
     WaveformColumn sum;

@@ -18,7 +18,7 @@ namespace host::audition {
 namespace {
 
 constexpr int kDefaultWidth = 560;
-/// From an edge of the loop, to either side.
+/// How far from an edge of the loop the mouse can grab it.
 constexpr double kReach = 5;
 
 }  // namespace
@@ -87,8 +87,8 @@ void WaveformView::setRange(const VisibleRange& range) {
 
 void WaveformView::zoom(double factor) {
   auto range = range_;
-  const bool isVisible = position_ >= range.begin() && position_ <= range.end();
-  range.zoom(factor, isVisible ? position_ : (range.begin() + range.end()) / 2);
+  const bool isVisible = position_ >= range.start() && position_ <= range.end();
+  range.zoom(factor, isVisible ? position_ : (range.start() + range.end()) / 2);
   setRange(range);
 }
 
@@ -121,7 +121,7 @@ void WaveformView::paintLoop(QPainter& painter) const {
   const auto& loop = drags_ ? gesture_->loop() : loop_;
   if (!loop) return;
   const bool isOn = loopIsOn_ || drags_;
-  const auto left = range_.xOf(loop->begin, width());
+  const auto left = range_.xOf(loop->start, width());
   const auto right = std::max(range_.xOf(loop->end, width()), left + 1);
   auto color = palette().color(isOn ? QPalette::Highlight : QPalette::Mid);
   painter.fillRect(QRectF(left, 2, right - left, WaveformLanes::kLoop - 4), color);
@@ -149,21 +149,21 @@ std::int64_t WaveformView::frameAt(const QPointF& point) const {
 
 LoopPart WaveformView::partAt(const QPointF& point) const {
   if (!loop_) return LoopPart::None;
-  const auto left = range_.xOf(loop_->begin, width());
+  const auto left = range_.xOf(loop_->start, width());
   const auto right = range_.xOf(loop_->end, width());
   const auto toLeft = std::abs(point.x() - left);
   const auto toRight = std::abs(point.x() - right);
-  // A small loop keeps a middle to take hold of in its lane.
+  // In its lane even a short loop keeps a middle to grab.
   const bool inLane = point.y() < WaveformLanes::kLoop;
   const auto near = inLane ? std::min(kReach, (right - left) / 4) : kReach;
-  if (std::min(toLeft, toRight) <= near) return toLeft < toRight ? LoopPart::Begin : LoopPart::End;
+  if (std::min(toLeft, toRight) <= near) return toLeft < toRight ? LoopPart::Start : LoopPart::End;
   const bool inside = point.x() > left && point.x() < right;
   return inside && inLane ? LoopPart::Whole : LoopPart::None;
 }
 
 void WaveformView::showCursor(const QPointF& point) {
   switch (partAt(point)) {
-    case LoopPart::Begin:
+    case LoopPart::Start:
     case LoopPart::End:
       return setCursor(Qt::SizeHorCursor);
     case LoopPart::Whole:
@@ -228,7 +228,7 @@ void WaveformView::choosePosition(std::int64_t frame) {
 
 void WaveformView::chooseLoop(const std::optional<LoopRange>& loop) {
   if (loop) {
-    Q_EMIT loopChosen(loop->begin, loop->end);
+    Q_EMIT loopChosen(loop->start, loop->end);
   } else {
     Q_EMIT loopChosen(0, 0);
   }

@@ -13,42 +13,42 @@
 
 namespace host::audition {
 
-/// The whole file at a glance, or a part of it: waveform, overs, the place that sounds, and the
-/// loop. A click goes to a place; dragging draws a loop, or moves an edge or all of one. Keys do
-/// the same. The wheel zooms and scrolls.
+/// Shows the file or a part of it: waveform, overs, playhead and loop. A click moves the position;
+/// dragging draws a loop, or moves an edge or the whole of one. Keys do the same. The wheel zooms
+/// and scrolls.
 class WaveformView : public QWidget {
   Q_OBJECT
 
  public:
   explicit WaveformView(QWidget* parent = nullptr);
 
-  /// Another file; null for none.
+  /// Shows another file; null for none.
   void setFile(std::shared_ptr<const SharedOverview> overview, AudioFormat format);
-  /// What is known of the file may change at any time; it is shown when this is called.
+  /// Shows the current state. The overview may change at any time; changes show on the next call.
   void refresh(std::shared_ptr<const SharedOverview> overview, std::int64_t length,
                std::int64_t position);
-  /// The loop, and whether it is in use.
+  /// Shows the loop and whether it is switched on.
   void setLoop(const std::optional<LoopRange>& loop, bool isOn);
-  /// Whether the range goes along with the place that sounds.
+  /// Sets whether the range follows the playhead.
   void setFollowing(bool following) { following_ = following; }
 
   AudioFormat format() const { return format_; }
   std::int64_t length() const { return length_; }
   std::int64_t position() const { return position_; }
   const VisibleRange& range() const { return range_; }
-  /// Where it is and what is marked, in words.
+  /// The position and what is marked, in words.
   QString valueText() const;
-  /// A small step at what is visible, in frames.
+  /// A small step at the current zoom, in frames.
   std::int64_t step() const;
-  /// Around the place that sounds.
+  /// Zooms around the playhead, or around the middle if the playhead is not visible.
   void zoom(double factor);
 
   QSize sizeHint() const override;
 
  Q_SIGNALS:
   void positionChosen(qint64 frame);
-  /// An empty one for no loop.
-  void loopChosen(qint64 begin, qint64 end);
+  /// `start` equals `end` for no loop.
+  void loopChosen(qint64 start, qint64 end);
   void loopToggled();
 
  protected:
@@ -85,11 +85,11 @@ class WaveformView : public QWidget {
   bool following_ = false;
   VisibleRange range_;
 
-  /// From the press of the mouse on, and whether it has moved far enough to mean a loop.
+  /// Since the mouse press; `drags_` once it has moved far enough to mean a loop.
   std::optional<LoopGesture> gesture_;
   QPointF pressedAt_;
   bool drags_ = false;
-  /// Where keys began to draw a loop, and where they have come to.
+  /// Where keys started to draw a loop, and where they have got to.
   std::optional<std::int64_t> anchor_;
   std::int64_t extended_ = 0;
 

@@ -18,7 +18,7 @@ QKeySequence withCtrl(Qt::Key key) {
 
 }  // namespace
 
-// All shortcuts have Ctrl: bare keys are the view's.
+// All shortcuts have Ctrl, because bare keys belong to the view.
 void MainWindow::makeMenus() {
   auto* const file = menuBar()->addMenu(tr("&File"));
   open_ = file->addAction(tr("&Open…"), withCtrl(Qt::Key_O), this, &MainWindow::openRequested);
@@ -33,7 +33,7 @@ void MainWindow::makeMenus() {
   playback->addSeparator();
   addZoom(*playback);
   menuBar()->addMenu(tr("&Help"))->addAction(tr("&About AAC Audition"), this, [this] {
-    aboutBox(this)->open();
+    makeAboutBox(this)->open();
   });
 }
 
@@ -58,7 +58,7 @@ void MainWindow::addLoop(QMenu& menu) {
       menu.addAction(tr("Re&move Loop"), withCtrl(Qt::Key_D), this, &MainWindow::loopRemoved);
   removeLoop_->setEnabled(false);
   transportActions_ << menu.addAction(tr("&Start Loop Here"), withCtrl(Qt::Key_I), this,
-                                      &MainWindow::loopBeginRequested)
+                                      &MainWindow::loopStartRequested)
                     << menu.addAction(tr("&End Loop Here"), withCtrl(Qt::Key_E), this,
                                       &MainWindow::loopEndRequested);
 }
@@ -66,7 +66,7 @@ void MainWindow::addLoop(QMenu& menu) {
 void MainWindow::addZoom(QMenu& menu) {
   auto* const in =
       menu.addAction(tr("Zoom &In"), this, [this] { transport_->waveform().zoom(kZoomStep); });
-  // Where + is on the upper row only, = does as well.
+  // = as well, for layouts where + needs Shift.
   in->setShortcuts({withCtrl(Qt::Key_Plus), withCtrl(Qt::Key_Equal)});
   transportActions_ << in << menu.addAction(tr("Zoom &Out"), withCtrl(Qt::Key_Minus), this, [this] {
     transport_->waveform().zoom(1 / kZoomStep);

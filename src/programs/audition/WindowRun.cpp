@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kRefreshMilliseconds = 40;
 
-/// The devices to play to: the one that the user named, or all.
+/// The devices to try: none for silent playing, the one named, or all.
 std::vector<Device> wantedDevices(const std::optional<std::string>& name,
                                   const SavedSession* last) {
   const bool wasSilent = last != nullptr && last->device.empty();
@@ -26,8 +26,9 @@ std::vector<Device> wantedDevices(const std::optional<std::string>& name,
   return devices;
 }
 
-/// Opens what the command line asks for, before the window is shown. Gives the file that did not
-/// open by itself: of which the user has to be asked or told something.
+/// Opens what the command line asks for, before the window is shown. Returns a file that did not
+/// open and has to be opened again in the window, which can ask or tell the user something about
+/// it.
 std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& options,
                                      const SavedSession* last) {
   try {
@@ -77,7 +78,7 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
   refresh.start(kRefreshMilliseconds);
   window.show();
   if (questionable) audition.openAndPlay(QString::fromStdString(*questionable));
-  // What is restored waits for the user.
+  // A restored file waits for the user.
   if (options.file && audition.session() != nullptr) audition.session()->player().play();
   QApplication::exec();
 

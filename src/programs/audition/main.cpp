@@ -32,19 +32,19 @@ void choosePlatform(bool headless) {
 
 int run(const host::AuditionOptions& options, const char* program) {
   choosePlatform(options.headless);
-  // First, so that whatever is claimed is given up again.
+  // First, so that a signal still cleans up the files claimed below.
   host::audition::TerminationSignals signals;
-  auto files = host::audition::claimedOutputFiles(options);
-  // The toolkit's own options are not this program's: it only gets its name.
+  auto files = host::audition::claimOutputFiles(options);
+  // The toolkit gets only the program's name, because its own options are not part of ours.
   int count = 1;
   char* arguments[] = {const_cast<char*>(program), nullptr};
   host::audition::tameToolkitMessages();
   host::audition::Application application(count, arguments);
-  host::audition::speakLanguageOf(QLocale(), application);
+  host::audition::installTranslations(QLocale(), application);
   QApplication::setApplicationName("aac-audition");
   QApplication::setDesktopFileName("aac-audition");
   QApplication::setWindowIcon(QIcon::fromTheme("aac-audition", QIcon(":/icons/aac-audition.svg")));
-  // Numbers for machines keep their point whatever the user's language.
+  // Numbers for machines keep the decimal point whatever the user's language.
   std::setlocale(LC_NUMERIC, "C");
   return options.headless ? host::audition::runHeadless(options, std::move(files), signals)
                           : host::audition::runWithWindow(options, std::move(files), signals);
@@ -54,7 +54,7 @@ int run(const host::AuditionOptions& options, const char* program) {
 
 int main(int argc, char** argv) {
   try {
-    const auto parsed = host::parsedAuditionArguments(argc, argv);
+    const auto parsed = host::parseAuditionArguments(argc, argv);
     if (const auto* const help = std::get_if<host::HelpText>(&parsed)) {
       host::audition::say(help->text);
       return EXIT_SUCCESS;

@@ -6,7 +6,7 @@
 
 #include "converter/unit/ConverterUnit.h"
 
-/// A converter that only delays, so that what comes out tells what went in and when.
+/// A converter that only delays, so that its output shows what went in and when.
 class DelayingUnit : public converter::ConverterUnit {
  public:
   DelayingUnit(UInt32 channels, UInt32 latency)
@@ -65,7 +65,7 @@ class DelayingUnit : public converter::ConverterUnit {
   bool metering = true;
   /// The first samples since the last reset, first channel.
   std::vector<float> before;
-  /// What came out while it was metered, first channel.
+  /// The output while it was metered, first channel.
   std::vector<float> metered;
 
  private:

@@ -19,7 +19,7 @@ class Tone : public host::BlockRenderer {
 constexpr std::uint32_t kUnitRates[] = {32000, 44100, 48000, 88200, 96000, 176400, 192000};
 constexpr std::uint32_t kDeviceRates[] = {22050, 32000, 44100, 48000, 88200, 96000, 176400, 192000};
 
-/// Five seconds in blocks of all lengths.
+/// Plays five seconds in blocks of various lengths.
 void play(host::RateConvertingRenderer& renderer, std::uint32_t rate) {
   static float samples[2][2048];
   float* const planes[] = {samples[0], samples[1]};

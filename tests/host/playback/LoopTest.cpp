@@ -41,7 +41,7 @@ class Looping : public testing::Test {
     unit_ = host::unitFor({sound.sampleRate, static_cast<std::uint32_t>(sound.channels())});
     play(sound, 0);
   }
-  /// What is heard next, first channel, in blocks of that size.
+  /// The next audio heard, first channel, rendered in blocks of that size.
   std::vector<float> listen(std::size_t frames, std::uint32_t block = 400) {
     std::vector<float> heard(frames);
     std::vector<float> second(block);
@@ -85,7 +85,7 @@ TEST_F(Looping, GivesTheVeryFramesOfTheLoopButForTheJoinForAHundredRounds) {
   const auto n = size(loop.length());
   const auto heard = listen(100 * n);
   for (std::size_t round = 0; round < 100; ++round) {
-    // The first frames of the first round come out of silence.
+    // The first frames of the first round fade in from silence.
     for (std::size_t i = round == 0 ? 300 : 0; i < n - kFade; ++i) {
       ASSERT_EQ(heard[round * n + i], source()[3000 + i]) << round << " " << i;
     }
@@ -102,10 +102,10 @@ TEST_F(Looping, FadesOverToWhatLiesBeforeTheLoopSoThatTheJoinIsNoStep) {
     player().play();
     const auto n = size(loop.length());
     const auto heard = listen(5 * n + 700);
-    const auto allowed = largestStep(source(), size(loop.begin) - kFade, size(loop.end));
+    const auto allowed = largestStep(source(), size(loop.start) - kFade, size(loop.end));
     for (std::size_t round = 1; round < 5; ++round) {
       EXPECT_LE(largestStep(heard, round * n - kFade - 1, round * n + 2), allowed) << n;
-      EXPECT_EQ(heard[round * n], source()[size(loop.begin)]);
+      EXPECT_EQ(heard[round * n], source()[size(loop.start)]);
     }
   }
 }
@@ -114,16 +114,16 @@ TEST_F(Looping, FadesOutAndInAgainWhereNothingLiesBeforeTheLoop) {
   make(noise(48000, 2, 20000));
   for (const LoopRange loop : {LoopRange{0, 20000}, {100, 9000}}) {
     player().setLoop(loop);
-    player().seek(loop.begin);
+    player().seek(loop.start);
     player().play();
     const auto n = size(loop.length());
     const auto heard = listen(4 * n);
-    const auto allowed = largestStep(source(), size(loop.begin), size(loop.end));
+    const auto allowed = largestStep(source(), size(loop.start), size(loop.end));
     for (std::size_t round = 1; round < 4; ++round) {
       EXPECT_LE(largestStep(heard, round * n - kFade, round * n + kFade), allowed);
       EXPECT_LT(std::abs(heard[round * n]), 0.01F);
       for (std::size_t i = kFade; i < n - kFade; ++i) {
-        ASSERT_EQ(heard[round * n + i], source()[size(loop.begin) + i]);
+        ASSERT_EQ(heard[round * n + i], source()[size(loop.start) + i]);
       }
     }
   }
@@ -247,7 +247,7 @@ TEST_F(Looping, JoinsTheEncodedSignalWithoutAStepToo) {
   player().play();
   const auto n = size(16992);
   const auto heard = listen(6 * n);
-  // The codec's own deviation from the sine's largest step is to be seen anywhere.
+  // The codec itself deviates this much from the sine's largest step anywhere.
   const auto allowed = largestStep(heard, 2000, n - 3000);
   for (std::size_t round = 1; round < 6; ++round) {
     EXPECT_LE(largestStep(heard, round * n - 2000, round * n + 2000), allowed * 1.02F);

@@ -18,7 +18,7 @@ namespace {
 constexpr UInt32 latency = 1500;
 constexpr std::uint32_t maximumFrames = 512;
 
-/// Every sample tells its place: (n + 1) / 65536 on the first channel, the negative on the second.
+/// Every sample tells its frame: (n + 1) / 65536 on the first channel, the negative on the second.
 Sound ramp(std::size_t frames, std::size_t channels = 2) {
   auto sound = silence(48000, channels, frames);
   for (std::size_t channel = 0; channel < channels; ++channel) {
@@ -43,7 +43,7 @@ class Playing : public testing::Test {
                                        std::make_unique<MemorySource>(std::move(sound), missing));
     player_->setOffline(true);
   }
-  /// What the next block of the device holds, first channel.
+  /// The device's next block, first channel.
   std::vector<float> block(std::uint32_t frames) {
     std::vector<float> samples(std::size_t{frames} * 2, 99.0F);
     const std::array<float*, 2> planes = {samples.data(), samples.data() + frames};
@@ -165,7 +165,7 @@ TEST_F(Playing, LeadsTheUnitUpToThePlaceWithoutMeteringWhatNobodyHears) {
     blocks(2, 256);
     ASSERT_EQ(unit_->metered.size(), 512U);
     EXPECT_EQ(placeOf(unit_->metered.front()), place);
-    // What leads up is as long as what is under way in the unit.
+    // The lead-in is as long as the unit's latency.
     EXPECT_EQ(placeOf(unit_->before[0]), std::max<std::int64_t>(place - latency, 0)) << place;
   }
 }

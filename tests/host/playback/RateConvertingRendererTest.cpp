@@ -12,7 +12,7 @@ using host::RateConvertingRenderer;
 
 namespace {
 
-/// Gives a sound again and counts what it has given; silence behind the end.
+/// Renders a sound, then silence, and counts the frames.
 class SoundRenderer : public host::BlockRenderer {
  public:
   explicit SoundRenderer(Sound sound) : sound_(std::move(sound)) {}
@@ -34,7 +34,7 @@ class SoundRenderer : public host::BlockRenderer {
   std::size_t given_ = 0;
 };
 
-/// What the device plays in blocks of so many frames.
+/// Renders what the device plays, in blocks of that size.
 Sound played(RateConvertingRenderer& renderer, std::uint32_t rate, std::size_t channels,
              std::size_t frames, std::size_t block) {
   auto sound = silence(rate, channels, frames);
@@ -63,8 +63,7 @@ TEST_P(RateConverting, LeavesASineASineAsLateAsItSays) {
   const std::size_t frames = to / 2;
   const auto sound = played(renderer, to, 1, frames, 480);
   const double step = 2 * std::numbers::pi * hertz / to;
-  // The sine that fits best over the last tenth of a second, whole periods, and what is left
-  // beside it.
+  // The sine that fits best over the last tenth of a second, whole periods, and the rest.
   const std::size_t begin = frames - to / 10;
   double sines = 0;
   double cosines = 0;
@@ -81,8 +80,8 @@ TEST_P(RateConverting, LeavesASineASineAsLateAsItSays) {
     rest += std::pow(static_cast<double>(sound.planes[0][i]) - amplitude * std::sin(angle), 2);
   }
   EXPECT_LT(10 * std::log10(rest / static_cast<double>(frames - begin)), -110);
-  // Phase of the next frame, in frames of the source: up to whole periods, which are longer than
-  // what is asked for here.
+  // The phase of the next frame, in frames of the source. Whole periods are ambiguous, but longer
+  // than any error allowed here.
   const double late = static_cast<double>(source.given()) - renderer.latency();
   const double expected = 2 * std::numbers::pi * hertz * late / from;
   const double phase = step * static_cast<double>(frames) + std::atan2(cosines, sines);
@@ -113,14 +112,14 @@ TEST_P(RateConverting, TakesAsMuchAsTheDevicePlays) {
   played(renderer, to, 2, std::size_t{to} * 5, 512);
   EXPECT_NEAR(static_cast<double>(source.given()), 5.0 * from, 129);
   EXPECT_NEAR(renderer.latency(), early, 129);
-  // Not so much that anybody would hear a key press late.
+  // Short enough for a key press to seem immediate.
   EXPECT_LT(renderer.latency(), from * 0.05);
 }
 
 TEST_P(RateConverting, HasEverythingOfTheSourceInIt) {
   const auto [from, to] = GetParam();
   const auto rate = std::min(from, to);
-  // Up to nine tenths of the narrower band.
+  // Up to 90 % of the narrower band.
   for (const double part : {0.01, 0.2, 0.45}) {
     SoundRenderer source(sine(from, 1, from, part * rate));
     RateConvertingRenderer renderer(source, source.format(), to);

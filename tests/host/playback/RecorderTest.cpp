@@ -72,7 +72,7 @@ TEST(Recorder, SaysThatFramesWereLost) {
   Recorder recorder(std::make_unique<AtomicFile>(folder / "out.wav"), {48000, 1});
   const auto sound = noise(48000, 1, 48000 * 100);
   const std::array<const float*, 1> planes = {sound.planes[0].data()};
-  // Far more than it takes at once.
+  // Far more than it can take at once.
   recorder.hear(planes.data(), static_cast<std::uint32_t>(sound.frames()));
   EXPECT_THROW(recorder.finish(), host::Failure);
 }

@@ -11,7 +11,7 @@
 #include "converter/unit/ConverterUnit.h"
 #include "host/playback/Player.h"
 
-/// What the converter makes of a place that the player was sent to.
+/// What the converter outputs and meters after a seek.
 namespace {
 
 constexpr std::uint32_t kMaximumFrames = 512;
@@ -62,7 +62,7 @@ class Listening {
   std::unique_ptr<host::Player> player_;
 };
 
-/// The level of the difference behind the fade with which playing begins, relative to the signal.
+/// The level of the difference after the fade-in, relative to the signal.
 double residual(const std::vector<float>& heard, const std::vector<float>& whole,
                 std::size_t place) {
   double difference = 0;
@@ -102,8 +102,8 @@ TEST(Seeking, CountsOnlyWhatIsPlayed) {
 
 struct Format {
   float code;
-  /// Residual that a codec without a lead-in does not come below: it measures -18.0 with AAC HE and
-  /// -11.6 with AAC HEv2. AAC LC is itself within its first access unit.
+  /// A residual that a codec without lead-in does not reach: it measures -18.0 with AAC HE and
+  /// -11.6 with AAC HEv2. AAC LC settles within its first access unit.
   double bound;
 };
 
@@ -116,7 +116,7 @@ TEST_P(SeekingOf, LetsTheEncodedSignalBeginAsIfPlayedThrough) {
   Listening listening(music, GetParam().code);
   constexpr std::size_t place = 50001;
   listening.player().seek(place);
-  // The encoder cuts its frames elsewhere, so not bit for bit.
+  // Not bit for bit, because the encoder's frames lie elsewhere.
   EXPECT_LT(residual(listening.play(4096), through, place), GetParam().bound);
 }
 

@@ -57,7 +57,7 @@ TEST_F(SessionAtADevice, ConvertsToTheRateOfADeviceThatLacksTheFiles) {
   auto converted = silence(48000, 2, 48000);
   for (std::size_t i = 0; i < interleaved.size(); ++i)
     converted.planes[i % 2][i / 2] = interleaved[i];
-  // Both begin on their own grid, a part of a sample apart.
+  // Both start on their own sample grids, a fraction of a sample apart.
   const auto lag = bestLag(converted, played, 1500);
   EXPECT_GT(lag, 0);
   double difference = 0;
@@ -78,7 +78,7 @@ TEST_F(SessionAtADevice, ShowsThePlaceThatIsHeardWhereTheRateIsConverted) {
   const auto heard = [&] { return player.audiblePosition(session_->output()->latency()); };
   devices_.play(24000);
   const auto middle = heard();
-  // Half a second, but for the resampler's own delay and the device's 20 ms.
+  // Half a second, less the resampler's delay and the device's 20 ms.
   EXPECT_LT(middle, 22050 - 882);
   EXPECT_GT(middle, 22050 - 882 - 2205);
   devices_.play(4800);

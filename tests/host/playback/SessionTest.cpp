@@ -45,7 +45,7 @@ TEST_F(SessionOfAFile, PlaysToNobodyInRealTime) {
   waitForTheEnd();
   const auto lasted = std::chrono::steady_clock::now() - begin;
   EXPECT_EQ(session_->player().position(), 9600);
-  // A fifth of a second, but for what is rendered ahead of its time.
+  // A fifth of a second, less what is rendered ahead.
   EXPECT_GT(lasted, std::chrono::milliseconds(150));
   EXPECT_EQ(session_->checkOutput().english(), "");
 }

@@ -10,7 +10,7 @@
 #include "host/messages/Failure.h"
 #include "host/playback/Devices.h"
 
-/// Devices that play when a test says so. Has to outlive what plays to them.
+/// Devices that play when a test tells them to. Must outlive what plays to them.
 class FakeDevices {
  public:
   static host::Device device(const std::string& name, std::vector<unsigned> sampleRates,
@@ -23,7 +23,7 @@ class FakeDevices {
     return device;
   }
 
-  /// Opens a device, unless its name is that of a broken one.
+  /// Opens devices, except those whose names are those of broken ones.
   host::OpenDevice open() {
     return [this](const host::Device& device, host::AudioFormat format,
                   host::BlockRenderer& renderer) -> std::unique_ptr<host::Output> {
@@ -34,9 +34,9 @@ class FakeDevices {
     };
   }
 
-  /// Of the device opened last.
+  /// The format of the device opened last.
   host::AudioFormat format() const { return format_; }
-  /// What it plays next.
+  /// The next audio that it plays.
   Sound play(std::size_t frames, std::uint32_t block = 480) {
     auto sound = silence(format_.sampleRate, format_.channels, frames);
     for (std::size_t at = 0; at < frames; at += block) {
@@ -50,7 +50,7 @@ class FakeDevices {
     return sound;
   }
 
-  /// Frames of its own from the renderer to the ear.
+  /// The device's latency, in frames at its own rate.
   static constexpr std::uint32_t kLatency = 960;
 
  private:

@@ -20,7 +20,7 @@ struct BadInput {
   std::function<void(const TemporaryFolder&)> prepare;
   Words arguments;
   int status;
-  /// What the line has to name, and what it tells to do.
+  /// What the message has to name, and the advice it has to give.
   const char* named;
   const char* advice;
 };
@@ -47,7 +47,7 @@ TEST_P(BadInputTo, TheProgramIsAnsweredByOneLineAndLeavesNothing) {
   EXPECT_THAT(folder.names(), testing::UnorderedElementsAreArray(before));
 }
 
-/// A run of `file` that would leave a recording and a picture.
+/// The arguments to run `file` and write a recording and a screenshot.
 Words all(const char* file) {
   return {file, "--headless", "--json", "--record", "out.wav", "--screenshot", "out.png"};
 }
@@ -209,7 +209,7 @@ TEST(Audition, NeedsNoDisplayHeadless) {
   EXPECT_EQ(program.run({"mix.wav", "--headless"}).status, 0);
 }
 
-/// A copy of the program whose bundle a test breaks.
+/// A copy of the program with a bundle for tests to break.
 class BrokenBundle : public testing::Test {
  protected:
   BrokenBundle() : program_(copiedProgram(installed_.path())), bundle_(bundleOf(program_)) {

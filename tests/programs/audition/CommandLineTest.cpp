@@ -15,7 +15,7 @@ namespace {
 
 std::variant<AuditionOptions, host::HelpText> parsed(std::vector<const char*> arguments) {
   arguments.insert(arguments.begin(), "aac-audition");
-  return host::parsedAuditionArguments(static_cast<int>(arguments.size()), arguments.data());
+  return host::parseAuditionArguments(static_cast<int>(arguments.size()), arguments.data());
 }
 
 AuditionOptions options(std::vector<const char*> arguments) {

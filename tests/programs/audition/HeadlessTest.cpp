@@ -20,13 +20,13 @@ using testing::SizeIs;
 
 namespace {
 
-/// What the meters read where there is nothing.
+/// The meters' reading for silence.
 constexpr double kFloorDb = -144;
 
 class Headless : public testing::Test {
  protected:
   std::string path(const std::string& name) const { return (folder_ / name).string(); }
-  /// Runs mix.wav with these options and `--json`, which has to succeed without a word on standard
+  /// Runs mix.wav with these options and `--json`; it must succeed and print nothing on standard
   /// error.
   Json measured(const std::vector<std::string>& options = {}) {
     std::vector<std::string> arguments = {"mix.wav", "--headless", "--json"};
@@ -48,7 +48,7 @@ struct Peak {
   std::int64_t clips = 0;
 };
 
-/// One channel as the loudness library reads it.
+/// One channel's peaks according to the loudness library.
 Peak peakOf(const Sound& sound, std::size_t channel) {
   struct Destroy {
     void operator()(ebur128_state* state) const { ebur128_destroy(&state); }
@@ -58,7 +58,7 @@ Peak peakOf(const Sound& sound, std::size_t channel) {
   auto samples = sound.planes.at(channel);
   Peak peak;
   for (const auto sample : samples) peak.clips += std::abs(sample) > 1.0F ? 1 : 0;
-  // The tail of its filter.
+  // Room for the tail of its filter.
   samples.resize(samples.size() + 64);
   ebur128_add_frames_float(meter.get(), samples.data(), samples.size());
   double value = 0;
@@ -168,7 +168,7 @@ TEST_F(Headless, ReadsWhatALoudnessLibraryReadsInTheRecording) {
 }
 
 TEST_F(Headless, FindsThePeakBetweenSamples) {
-  // A quarter of the sample rate, 45 degrees off: 3 dB more between the samples than on them.
+  // A sine at a quarter of the sample rate, phase 45 degrees: 3 dB higher between the samples.
   auto sound = silence(48000, 1, 48000);
   for (std::size_t i = 0; i < 48000; ++i) {
     const auto fade =

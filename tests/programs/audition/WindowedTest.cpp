@@ -19,12 +19,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The program with its window, off screen, against the silent clock.
+/// The program with its window, off screen, playing to the silent clock.
 class Windowed : public testing::Test {
  protected:
   Windowed() { writeSound(folder_ / "mix.wav", noise(48000, 2, 480000)); }
 
-  /// Waits until the folder holds so many files.
+  /// Waits until the folder holds that many files.
   void waitForFiles(std::size_t count) {
     const auto givenUp = std::chrono::steady_clock::now() + 30s;
     while (folder_.names().size() < count) {
@@ -32,7 +32,7 @@ class Windowed : public testing::Test {
       std::this_thread::sleep_for(5ms);
     }
   }
-  /// Waits until the process has read so many bytes of whatever.
+  /// Waits until the process has read that many bytes in all.
   static void waitUntilItHasRead(pid_t process, std::uint64_t bytes) {
     const auto givenUp = std::chrono::steady_clock::now() + 60s;
     for (std::uint64_t read = 0; read < bytes;) {
@@ -53,7 +53,7 @@ class Windowed : public testing::Test {
 TEST_F(Windowed, CompletesItsFilesWhenItIsTerminated) {
   const auto process = program_.start({path("mix.wav"), "--device", "none", "--record",
                                        path("out.wav"), "--screenshot", path("shot.png")});
-  // The mix, and what the other two are written to.
+  // The mix, and the two temporary files of the outputs.
   waitForFiles(3);
   ::kill(process, SIGTERM);
   const auto outcome = program_.wait(process);
@@ -107,7 +107,7 @@ TEST_F(Windowed, RefusesToRestoreAndToOpenAtOnce) {
 }
 
 TEST_F(Windowed, TakesLittleMemoryForAFileOfHours) {
-  // Two hours of mono at 48 kHz, most of it a hole in the file.
+  // Two hours of mono at 48 kHz, mostly a hole in a sparse file.
   {
     auto sound = silence(48000, 1, 48000);
     writeSound(folder_ / "long.wav", sound);
@@ -140,7 +140,7 @@ TEST_F(Windowed, TakesLittleMemoryForAFileOfHours) {
 #endif
 }
 
-/// Everything, installed below a folder of its own.
+/// Everything, installed in a folder of its own.
 class Installed : public testing::Test {
  protected:
   Installed() {
@@ -156,7 +156,7 @@ class Installed : public testing::Test {
     program_.setExecutable(prefix_ / "bin" / program);
     return program_.run(arguments);
   }
-  /// The window, in the language.
+  /// A screenshot of the window in that language.
   QImage picture(const std::string& language) {
     program_.setLanguages(language);
     const auto path = work_ / (language + ".png");
@@ -196,11 +196,11 @@ TEST_F(Installed, FindsTheBundleInItsOwnPlaceOnly) {
 }
 
 TEST_F(Installed, SpeaksTheUsersLanguageInTheViewAndAroundIt) {
-  // Numbers are as they were: they do not follow the language of words.
+  // Numbers stay the same: they do not follow the language of the texts.
   const auto english = picture("en");
   const auto german = picture("de");
   ASSERT_EQ(english.size(), german.size());
-  // The lowest line is the program's own, above it is the view.
+  // The bottom line is the program's own; above it is the view.
   const QRect status(0, english.height() - 24, english.width(), 24);
   const QRect view(0, english.height() - 225, english.width(), 190);
   EXPECT_NE(english.copy(status), german.copy(status));

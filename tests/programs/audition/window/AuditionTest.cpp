@@ -24,7 +24,7 @@ using host::audition::Audition;
 
 namespace {
 
-/// While it lives, files grow no larger than so many bytes, as on a full disk.
+/// During its lifetime files cannot grow beyond that many bytes, as on a full disk.
 class SmallFiles {
  public:
   explicit SmallFiles(rlim_t bytes) : signals_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -44,7 +44,7 @@ class SmallFiles {
   void (*signals_)(int);
 };
 
-/// The window around the real view. Nothing renders but what a test asks for.
+/// The window around the real view. Audio is rendered only when a test asks for it.
 class Auditioning : public testing::Test {
  protected:
   Auditioning() {
@@ -70,7 +70,7 @@ class Auditioning : public testing::Test {
     audition_->open(host::openedForPlaying(path(name)));
     QCoreApplication::processEvents();
   }
-  /// Plays to the end of the file, as fast as it goes.
+  /// Plays to the end of the file, as fast as possible.
   void playToTheEnd() {
     std::vector<float> samples(2 * 1024);
     const std::array<float*, 2> planes = {samples.data(), samples.data() + 1024};
@@ -84,7 +84,7 @@ class Auditioning : public testing::Test {
   void setProperty(AudioUnitPropertyID id, UInt32 value) {
     ASSERT_EQ(unit().setProperty(id, kAudioUnitScope_Global, 0, &value, sizeof value), noErr);
   }
-  /// The button of the window that reads so, and is to be seen.
+  /// The visible button with that text.
   QAbstractButton* button(const QString& text) {
     for (auto* const each : audition_->window().findChildren<QAbstractButton*>()) {
       if (each->isVisible() && each->text() == text) return each;
@@ -257,7 +257,7 @@ TEST_F(Auditioning, LooksTheSameOutsideTheViewWhicheverSignalIsMonitored) {
   audition.refresh();
   QCoreApplication::processEvents();
   const auto transport = [&] { return audition.window().transport().grab().toImage(); };
-  // But for the bit rate: the encoder's thread may still be busy with what was played.
+  // Without the bit rate, because the encoder's thread may still be at work.
   const auto status = [&] {
     QStringList texts;
     for (const auto* const each : audition.window().status().findChildren<QLabel*>()) {

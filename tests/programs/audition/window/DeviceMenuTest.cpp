@@ -48,7 +48,7 @@ class Devices : public testing::Test {
       QCoreApplication::processEvents(QEventLoop::AllEvents, kInterval);
     }
   }
-  /// Turns the event loop until the menu holds these.
+  /// Runs the event loop until the menu holds these; false if it never does.
   bool comesToHold(const QStringList& wanted) {
     QElapsedTimer time;
     time.start();
@@ -87,7 +87,7 @@ TEST_F(Devices, TurnUpWhileTheMenuIsOpen) {
   plug({device("Speakers"), device("Headphones")});
   EXPECT_TRUE(comesToHold({"No Device (silent)", "Speakers", "Headphones"}));
   plug({device("Headphones")});
-  // The one that plays may hide.
+  // The device in use may be missing from the system's list.
   EXPECT_TRUE(comesToHold({"No Device (silent)", "Headphones", "Speakers"}));
 }
 
@@ -95,7 +95,7 @@ TEST_F(Devices, AreNotLookedForWhileTheMenuIsClosed) {
   Q_EMIT menu_.aboutToShow();
   ASSERT_TRUE(comesToHold({"No Device (silent)", "Speakers"}));
   Q_EMIT menu_.aboutToHide();
-  // One look may still be on its way.
+  // One look for devices may still be under way.
   turnFor(5 * kInterval);
   const int looks = looks_;
   turnFor(10 * kInterval);

@@ -26,7 +26,7 @@
 
 namespace {
 
-/// Context and source of a text.
+/// A text's translation context and its source text.
 using Text = std::pair<std::string, std::string>;
 
 struct Translation {
@@ -76,7 +76,7 @@ class Language : public testing::TestWithParam<const char*> {
   }
 };
 
-/// What the window's program is made of, without the programs beside it.
+/// The sources that the program is built from.
 QStringList sources() {
   QStringList paths;
   for (const char* const folder :
@@ -134,11 +134,11 @@ TEST(Failures, AreAllThrownInWordsThatCanBeTranslated) {
   EXPECT_GE(count, 29);
 }
 
-/// Speaks a language while it lives.
+/// Installs a language's translations during its lifetime.
 class Speaking {
  public:
   explicit Speaking(const QLocale& locale) {
-    host::audition::speakLanguageOf(locale, *QCoreApplication::instance());
+    host::audition::installTranslations(locale, *QCoreApplication::instance());
   }
   Speaking(const Speaking&) = delete;
   Speaking& operator=(const Speaking&) = delete;

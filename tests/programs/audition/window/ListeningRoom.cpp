@@ -18,10 +18,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Longer than any event is held back.
+/// Longer than any event is delayed.
 constexpr auto kSettling = 100ms;
 
-/// The test delivers the unit's events; while this lives nobody else does.
+/// Lets the test alone deliver the unit's events while the returned object exists.
 std::unique_ptr<void, std::function<void(void*)>> takeOverEvents() {
   CFRunLoopGetCurrent()->setWakeUp([] {});
   return {CFRunLoopGetCurrent(), [](void*) { CFRunLoopGetCurrent()->setWakeUp({}); }};

@@ -13,8 +13,8 @@
 
 #include "programs/audition/Audition.h"
 
-/// The program as a user has it before him: its window with the real view, bound to a real
-/// converter that plays a file and records what it plays. Time passes only while he listens.
+/// The program as a user sees it: its window with the real view, bound to a real converter that
+/// plays a file, with a recording of what is played. Time passes only while the user listens.
 class ListeningRoom {
  public:
   explicit ListeningRoom(const std::filesystem::path& file,
@@ -24,18 +24,18 @@ class ListeningRoom {
   ListeningRoom& operator=(const ListeningRoom&) = delete;
   ~ListeningRoom();
 
-  /// The listening test's page.
+  /// Shows the listening test's page.
   void showTestPage();
-  /// Clicks the tab of that index, whatever comes of it.
+  /// Clicks the tab of that index, whether or not it then opens.
   void clickTab(int index);
-  /// A mouse click on the widget of that name.
+  /// Clicks the widget of that name.
   void click(const char* name);
-  /// A key, given to whatever has the focus.
+  /// Presses a key; whatever has the focus receives it.
   void press(Qt::Key key);
-  /// Plays so many frames in blocks of at most `block`, with the events and refreshes that so much
-  /// time brings. What was played.
+  /// Plays that many frames in blocks of at most `block`, with the events and refreshes that occur
+  /// in that time. Returns what was played.
   std::vector<std::vector<float>> listen(std::size_t frames, std::size_t block = 512);
-  /// Lets everything that was announced arrive.
+  /// Delivers all pending events.
   void settle();
   /// Completes the recording.
   void finish() { audition_.finish(); }

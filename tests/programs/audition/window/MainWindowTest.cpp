@@ -35,7 +35,7 @@ class Window : public testing::Test {
     return shown;
   }
   static void settle() { QCoreApplication::processEvents(); }
-  /// Whether the window lets go of what is dropped on it.
+  /// Drops the files on the window; returns whether it accepts them.
   bool drop(const QList<QUrl>& urls) {
     QMimeData data;
     data.setUrls(urls);

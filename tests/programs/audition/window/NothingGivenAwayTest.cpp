@@ -37,14 +37,14 @@ struct Sight {
   WhatIsToBeSeen seen;
 };
 
-/// What a test gave to see.
+/// What could be observed during a test.
 struct Account {
   std::vector<Sight> sights;
   std::vector<std::string> logged;
   std::string standardError;
 };
 
-/// A test in which A is the source in every cycle, or in none; all else is always the same.
+/// A test in which A is the source in every cycle, or in none; all else is identical.
 class Visit {
  public:
   Visit(const std::filesystem::path& file, bool aIsSource) : room_(file), aIsSource_(aIsSource) {}
@@ -52,7 +52,7 @@ class Visit {
   Account account() {
     testing::internal::CaptureStderr();
     setUpTest();
-    // The bit rate changes with what the encoder's thread has come to, until the test runs.
+    // Until the test runs, the bit rate depends on how far the encoder's thread has got.
     except_ = &room_.audition().window().status();
     listenToAll("before the test runs");
     answer();
@@ -121,7 +121,7 @@ class Visit {
 
 TEST(NothingIsGivenAway, BetweenATestInWhichAIsTheSourceAndOneInWhichItIsNot) {
   const TemporaryFolder folder;
-  // Loud, so that encoding makes overs that meters and lamps would show.
+  // Loud, so that encoding causes overs that meters and lamps would show.
   writeSound(folder / "mix.wav", noise(44100, 2, 400000, 1.0F));
   const auto one = Visit(folder / "mix.wav", true).account();
   const auto other = Visit(folder / "mix.wav", false).account();

@@ -28,7 +28,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// The window around the real view, with all that it keeps of the file and of the user.
+/// The window around the real view, with the file's analysis and the user's settings.
 class Overview : public testing::Test {
  protected:
   Overview() {
@@ -81,7 +81,7 @@ class Overview : public testing::Test {
     audition_->refresh();
   }
   WaveformView& waveform() { return audition_->window().transport().waveform(); }
-  /// Pixels of the marks of the encoded signal.
+  /// The number of pixels in the marks of the encoded signal.
   int encodedMarks() {
     audition_->session()->player().seek(0);
     audition_->refresh();

@@ -14,7 +14,7 @@ namespace {
 class Settings : public testing::Test {
  protected:
   Settings() { reopen(); }
-  /// As the next run of the program finds them.
+  /// Reads the settings anew, as the program's next run does.
   void reopen() {
     settings_.reset();
     settings_ = std::make_unique<QSettings>(QString::fromStdString(folder_ / "settings.ini"),

@@ -18,12 +18,12 @@ struct Click {
   bool switches() const { return fromSource != toSource; }
 };
 
-/// The room's file, what the converter makes of it, and what was heard over many clicks.
+/// The room's file, its encoded signal, and what was heard over many clicks.
 struct Listened {
   Sound source;
   Sound encoded;
   Sound output;
-  /// The same with every switch the other way.
+  /// The same with every switch in the other direction.
   Sound mirrored;
   std::vector<Click> clicks;
 
@@ -32,22 +32,22 @@ struct Listened {
   }
 };
 
-/// The share of the new signal, by samples since the click: the one that explains the output best
-/// over all these switches.
+/// The share of the new signal that best explains the output over all these switches, by samples
+/// since the click.
 std::vector<double> shareOfTheNew(const Listened& listened, const std::vector<Click>& clicks);
 
-/// Samples until the new signal is there, on an average.
+/// Average number of samples until the new signal is there.
 double delayOf(const std::vector<double>& share);
 
-/// The largest difference between the output and what the share makes of the two signals.
+/// The largest difference between the output and the two signals mixed by that share.
 double unexplained(const Listened& listened, const std::vector<Click>& clicks,
                    const std::vector<double>& share);
 
-/// What a listener could measure of one switch.
+/// What a listener could measure about one switch.
 struct Look {
-  /// Largest step, over the largest of either signal around it.
+  /// The largest step, relative to the largest of either signal around it.
   double step = 0;
-  /// Level over what the two levels mix to, dB, at its lowest.
+  /// The lowest level, in dB relative to the mix of the two signals' levels.
   double dip = 0;
 };
 

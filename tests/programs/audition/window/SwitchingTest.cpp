@@ -16,22 +16,22 @@
 #include "ui/TemporaryFolder.h"
 #include "view/listening_test/Draws.h"
 
-/// What a switch of what is heard sounds like, over a thousand switches in a listening test. The
-/// listener knows when he clicked and hears what follows. A delay, a dip or a click tells him
-/// nothing about what he switched to if
-///  - he hears one of the two signals, sample by sample, before a switch and soon after it,
+/// What a change of the monitored signal sounds like, over a thousand switches in a listening test.
+/// The listener knows when they clicked and hears what follows. A delay, a dip or a click tells
+/// nothing about the signal switched to if
+///  - one of the two signals is heard, sample by sample, before a switch and soon after it,
 ///  - the share of the new signal grows with the samples since the click along one curve, the same
 ///    for both directions and every switch, and
 ///  - a click that changes nothing leaves the signal as it is.
-/// All else that a switch sounds like then comes from the two signals. Steps and dips are measured
-/// besides, at places where a switch went one way in one recording and the other way in another, so
-/// that the place makes no difference.
+/// Everything else in the sound of a switch then comes from the two signals. Steps and dips are
+/// measured as well, at positions where a switch went one way in one recording and the other way in
+/// another, so that the position makes no difference.
 namespace {
 
 constexpr std::uint32_t kRate = 44100;
 constexpr std::size_t kSwitches = 1000;
 
-/// At a low rate the encoded signal is far from the source.
+/// A low bit rate, so that the encoded signal differs much from the source.
 host::AuditionOptions lowRate() {
   host::AuditionOptions options;
   options.setting = converter::hasHighEfficiencyEncoder() ? host::EncoderSetting{1, 0, 6}
@@ -46,8 +46,8 @@ class Recordings {
   }
   Sound mix() const { return readSound(folder_ / "mix.wav"); }
 
-  /// What `listens` heard in a room in which a test in learning mode, which never ends, runs: A is
-  /// the source, and the source is heard.
+  /// Runs `listens` in a room where a test in learning mode, which never ends, is running: A is the
+  /// source, and the source is heard.
   template <class Listens>
   Sound of(Listens listens) {
     ListeningRoom room(folder_ / "mix.wav", folder_ / "listened.wav", lowRate());
@@ -64,12 +64,12 @@ class Recordings {
   TemporaryFolder folder_;
 };
 
-/// Clicks at random on source, A, B and an answer until what is heard has changed `switches` times.
-/// Between two clicks pass `shortest` to `longest` frames.
+/// Clicks at random on source, A, B and an answer until the signal heard has changed `switches`
+/// times, with `shortest` to `longest` frames between clicks.
 Listened listenToSwitches(std::size_t switches, std::size_t shortest, std::size_t longest) {
   std::mt19937 random(20);
   Listened listened;
-  // Many a click changes nothing.
+  // Many clicks change nothing.
   Recordings recordings(2 * switches * (shortest + longest));
   listened.source = recordings.mix();
   listened.output = recordings.of([&](ListeningRoom& room) {
@@ -143,7 +143,7 @@ TEST_F(Switching, LeavesTheSignalUntouchedButForTenMillisecondsAfterASwitch) {
           << at;
     }
   };
-  // The room begins with the encoded signal, and the test with a fade away from it.
+  // The room starts with the encoded signal, and the test with a fade away from it.
   at = kFade;
   for (const auto& click : listened().clicks) {
     ASSERT_NO_FATAL_FAILURE(expectOneSignal(click.frame));
@@ -162,7 +162,7 @@ TEST_F(Switching, BringsTheNewSignalInAlongOneCurveWhicheverItIs) {
   EXPECT_GT(toSource.back(), 1 - 1e-4);
   for (std::size_t i = 0; i < kFade; ++i) EXPECT_NEAR(toSource[i], toEncoded[i], 1e-5) << i;
   EXPECT_NEAR(delayOf(toSource), delayOf(toEncoded), 1e-3);
-  // What single precision makes of it: its steps at the signals' peaks are 6e-8.
+  // Single-precision rounding: one step at the signals' peaks is 6e-8.
   EXPECT_LT(unexplained(listened(), switchesTo(true), toSource), 3e-7);
   EXPECT_LT(unexplained(listened(), switchesTo(false), toSource), 3e-7);
 }

@@ -21,7 +21,7 @@ TEST(VisibleRange, ZoomsAroundAPlaceThatStays) {
   VisibleRange range(100000);
   range.zoom(0.5, 30000);
   EXPECT_EQ(range.span(), 50000);
-  EXPECT_EQ(range.begin(), 15000);
+  EXPECT_EQ(range.start(), 15000);
   EXPECT_EQ(range.xOf(30000, 560), 168);
   range.zoom(10, 30000);
   EXPECT_TRUE(range.isAll());
@@ -43,7 +43,7 @@ TEST(VisibleRange, StaysWithinTheFile) {
   range.scroll(1000000);
   EXPECT_EQ(range.end(), 100000);
   range.scroll(-1000000);
-  EXPECT_EQ(range.begin(), 0);
+  EXPECT_EQ(range.start(), 0);
   EXPECT_EQ(range.span(), 10000);
 }
 
@@ -51,9 +51,9 @@ TEST(VisibleRange, TurnsOverToAPlaceThatIsNotToBeSeen) {
   VisibleRange range(100000);
   range.zoom(0.1, 0);
   range.follow(9000);
-  EXPECT_EQ(range.begin(), 0);
+  EXPECT_EQ(range.start(), 0);
   range.follow(10001);
-  EXPECT_EQ(range.begin(), 10001);
+  EXPECT_EQ(range.start(), 10001);
   range.follow(99999);
   EXPECT_EQ(range.end(), 100000);
 }
@@ -94,11 +94,11 @@ TEST(LoopGesture, DrawsALoopBothWays) {
 }
 
 TEST(LoopGesture, MovesAnEdgeEvenBeyondTheOther) {
-  auto begin = gesture(LoopPart::Begin, 300);
-  begin.moveTo(350);
-  EXPECT_EQ(begin.loop(), (LoopRange{350, 500}));
-  begin.moveTo(600);
-  EXPECT_EQ(begin.loop(), (LoopRange{500, 600}));
+  auto start = gesture(LoopPart::Start, 300);
+  start.moveTo(350);
+  EXPECT_EQ(start.loop(), (LoopRange{350, 500}));
+  start.moveTo(600);
+  EXPECT_EQ(start.loop(), (LoopRange{500, 600}));
   auto end = gesture(LoopPart::End, 500);
   end.moveTo(2000);
   EXPECT_EQ(end.loop(), (LoopRange{300, 1000}));

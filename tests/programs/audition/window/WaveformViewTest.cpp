@@ -24,7 +24,7 @@ namespace {
 constexpr std::int64_t kLength = 560000;
 constexpr int kMiddle = WaveformLanes::kWaveTop + 20;
 
-/// A waveform of a thousand frames a pixel: a loud half and a quiet one.
+/// A waveform with a thousand frames per pixel: a loud half and a quiet one.
 class Waveform : public testing::Test {
  protected:
   Waveform() {
@@ -132,7 +132,7 @@ TEST_F(Waveform, MovesTheWholeLoopByItsLane) {
   view_.setLoop(LoopRange{100000, 300000}, true);
   drag({200, 5}, {250, 5});
   EXPECT_EQ(lastLoop(), (LoopRange{150000, 350000}));
-  // Below the lane another loop is drawn.
+  // Below the lane, dragging draws another loop.
   drag({200, kMiddle}, {250, kMiddle});
   EXPECT_EQ(lastLoop(), (LoopRange{200000, 250000}));
 }
@@ -187,7 +187,7 @@ TEST_F(Waveform, DrawsALoopWithShiftAndArrows) {
   show(280000);
   QTest::keyPress(&view_, Qt::Key_Shift, Qt::ShiftModifier);
   for (int i = 0; i < 3; ++i) {
-    // As long as Shift is held.
+    // While Shift is held.
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Right, Qt::ShiftModifier);
     QCoreApplication::sendEvent(&view_, &press);
   }
@@ -222,9 +222,9 @@ TEST_F(Waveform, LeavesTheKeysOfTheConvertersViewAlone) {
 TEST_F(Waveform, ZoomsAndScrollsByTheWheel) {
   turnWheel({280, kMiddle}, {0, 120});
   EXPECT_EQ(view_.range().span(), 448000);
-  EXPECT_EQ(view_.range().begin(), 56000);
+  EXPECT_EQ(view_.range().start(), 56000);
   turnWheel({280, kMiddle}, {120, 0});
-  EXPECT_EQ(view_.range().begin(), 0);
+  EXPECT_EQ(view_.range().start(), 0);
   for (int i = 0; i < 9; ++i) turnWheel({280, kMiddle}, {0, -120});
   EXPECT_TRUE(view_.range().isAll());
 }
@@ -238,7 +238,7 @@ TEST_F(Waveform, GoesToPlacesAndMovesEdgesWhereItIsZoomed) {
 TEST_F(Waveform, TurnsOverWhilePlaying) {
   turnWheel({0, kMiddle}, {0, 120});
   show(500000);
-  EXPECT_EQ(view_.range().begin(), 0);
+  EXPECT_EQ(view_.range().start(), 0);
   view_.setFollowing(true);
   show(500001);
   EXPECT_EQ(view_.range().end(), kLength);

@@ -22,12 +22,12 @@ std::string nameOf(const QObject& object) {
 std::string asText(const QVariant& value) {
   QString text;
   QDebug(&text).noquote() << value;
-  // Counts pictures of the process; the picture itself is looked at.
+  // A counter of the process; the picture itself is compared elsewhere.
   static const QRegularExpression cacheKey(QStringLiteral("cacheKey=0x[0-9a-f]+"));
   return text.remove(cacheKey).toStdString();
 }
 
-/// Whether the value is an object, which prints as its address.
+/// Whether the value is an object, which would print as its address.
 bool isObject(const QMetaType& type) {
   return type.flags().testAnyFlags(QMetaType::IsPointer | QMetaType::PointerToQObject |
                                    QMetaType::PointerToGadget);
@@ -91,7 +91,7 @@ QImage pictureOf(QWidget& window, const QWidget* except) {
 WhatIsToBeSeen whatIsToBeSeen(const QWidget* except) {
   WhatIsToBeSeen seen;
   for (auto* const root : QApplication::topLevelWidgets()) {
-    // Menus and sheets come with the window that they belong to, in the order of their making.
+    // Menus and sheets are listed with the window that they belong to, in order of creation.
     if (root->parent() != nullptr) continue;
     auto objects = root->findChildren<QObject*>();
     objects.prepend(root);

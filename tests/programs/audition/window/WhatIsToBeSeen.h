@@ -6,19 +6,19 @@
 
 class QWidget;
 
-/// All that a user, or a program that reads the screen for him, can find out from the windows.
+/// Everything that a user or a screen reader can find out from the windows.
 struct WhatIsToBeSeen {
-  /// A line for each property and each accessible text of each widget, action and menu item, shown
+  /// One line for each property and accessible text of every widget, action and menu item, visible
   /// or hidden.
   std::vector<std::string> lines;
-  /// Every window that is shown.
+  /// Every visible window.
   std::vector<QImage> pictures;
 
   friend bool operator==(const WhatIsToBeSeen&, const WhatIsToBeSeen&) = default;
 };
 
-/// `except` and what is in it are left out.
+/// Leaves out `except` and its children.
 WhatIsToBeSeen whatIsToBeSeen(const QWidget* except = nullptr);
 
-/// The lines in which the two differ, and whether their pictures do.
+/// The lines in which the two differ, and whether their pictures differ.
 std::string differencesBetween(const WhatIsToBeSeen& one, const WhatIsToBeSeen& other);

@@ -18,14 +18,14 @@ using testing::SizeIs;
 namespace {
 
 constexpr std::uint32_t kRate = 44100;
-/// Listened to each of source, A and B, in frames.
+/// How long to listen to each of source, A and B, in frames.
 constexpr std::size_t kStretch = 8192;
-/// Cross-fades have ended after this many.
+/// Length of a cross-fade, in frames.
 constexpr std::size_t kFade = kRate / 100;
 /// Enough for the twenty cycles of the longest test.
 constexpr std::size_t kLength = std::size_t{20} * 3 * kStretch + kRate;
 
-/// What the listener did in one cycle; the stretches begin at these frames of the recording.
+/// What the listener did in one cycle; the stretches start at these frames of the recording.
 struct Cycle {
   std::size_t source = 0;
   std::size_t a = 0;
@@ -62,8 +62,8 @@ class WholeListeningTest : public testing::Test {
   }
   std::filesystem::path path(const std::string& name) const { return folder_ / name; }
 
-  /// Answers until the results sheet is there. Having listened, `saysA` is asked for the answer and
-  /// told whether A sounded like the source. Mouse and keyboard take turns.
+  /// Listens and answers until the results sheet appears. `saysA` is told whether A sounded like
+  /// the source and decides the answer. Mouse and keyboard take turns.
   void answerUntilTheEnd(
       ListeningRoom& room,
       const std::function<bool(std::size_t cycle, bool aSoundsLikeSource)>& saysA) {
@@ -93,14 +93,14 @@ class WholeListeningTest : public testing::Test {
     }
   }
 
-  /// Which of the two signals the recording holds there, in both channels.
+  /// Which of the two signals the recording holds at that position, in both channels.
   Signal recorded(const Sound& recording, std::size_t begin) const {
     Signal found = Signal::Neither;
     for (std::size_t channel = 0; channel < 2; ++channel) {
       const auto heard = stretch(recording.planes[channel], begin);
       const auto likeSource = correlation(heard, stretch(source_.planes[channel], begin));
       const auto likeEncoded = correlation(heard, stretch(encoded_.planes[channel], begin));
-      // The one it is, it is entirely; the other one it clearly is not.
+      // It must match one of them exactly and clearly not match the other.
       constexpr double same = 1 - 1e-9;
       constexpr double other = 0.9999;
       auto here = Signal::Neither;
@@ -112,7 +112,7 @@ class WholeListeningTest : public testing::Test {
     return found;
   }
 
-  /// The right answers, by the recording alone.
+  /// The number of right answers, judged by the recording alone.
   std::size_t rightAnswersIn(const Sound& recording) const {
     std::size_t right = 0;
     for (const auto& cycle : cycles_) {
@@ -127,12 +127,12 @@ class WholeListeningTest : public testing::Test {
     return right;
   }
 
-  /// Compares sheet and results file with what was recorded, and gives the score.
+  /// Compares the sheet and the results file with the recording, and returns the score.
   std::size_t expectTheRecordedScore(ListeningRoom& room) {
     room.widget<QAbstractButton>("saveResultsButton").click();
     QObject context;
     std::optional<std::string> proposed;
-    // The panel runs inside the click.
+    // The save panel runs inside the click.
     QTimer::singleShot(0, &context,
                        [&] { proposed = qt_test::answerSavePanel(path("results.txt")); });
     const auto cyclesText = room.text("cyclesField");
@@ -186,7 +186,7 @@ TEST_F(WholeListeningTest, ScoresAListenerWhoGuessesByWhatTheRecordingHolds) {
   answerUntilTheEnd(room, [](std::size_t cycle, bool) { return cycle % 3 != 0; });
   const auto verdict = room.text("summaryField");
   const auto right = expectTheRecordedScore(room);
-  // Before the twentieth answer only a score that proves something ends a test.
+  // Before the twentieth answer only a significant score ends a test.
   const bool passed = cycles_.size() < 20 || right >= 14;
   EXPECT_EQ(verdict.find("95% confidence") != std::string::npos, passed) << verdict;
 }
