@@ -77,13 +77,13 @@ Device requiredDevice(const std::vector<Device>& devices, std::string_view name)
                 {std::string(name), names});
 }
 
-bool doesRate(const Device& device, std::uint32_t sampleRate) {
+bool supportsRate(const Device& device, std::uint32_t sampleRate) {
   const auto& rates = device.sampleRates;
   return rates.empty() || std::find(rates.begin(), rates.end(), sampleRate) != rates.end();
 }
 
 std::uint32_t playingRate(const Device& device, std::uint32_t sampleRate) {
-  if (doesRate(device, sampleRate)) return sampleRate;
+  if (supportsRate(device, sampleRate)) return sampleRate;
   if (device.preferredRate >= sampleRate) return device.preferredRate;
   std::uint32_t nearest = 0;
   for (const auto rate : device.sampleRates) {
@@ -98,7 +98,7 @@ std::vector<Device> inOrderOfPreference(std::vector<Device> devices, std::uint32
                                         std::string_view chosen) {
   const auto place = [=](const Device& device) {
     if (!chosen.empty() && device.name == chosen) return 0;
-    return (doesRate(device, sampleRate) ? 1 : 3) + (device.isDefault ? 0 : 1);
+    return (supportsRate(device, sampleRate) ? 1 : 3) + (device.isDefault ? 0 : 1);
   };
   std::stable_sort(devices.begin(), devices.end(), [&](const Device& one, const Device& other) {
     return place(one) < place(other);

@@ -40,7 +40,7 @@ std::optional<Device> deviceNamed(const std::vector<Device>& devices, std::strin
 Device requiredDevice(const std::vector<Device>& devices, std::string_view name);
 
 /// Whether the device supports this sample rate; true if it does not tell which it supports.
-bool doesRate(const Device& device, std::uint32_t sampleRate);
+bool supportsRate(const Device& device, std::uint32_t sampleRate);
 
 /// The rate at which the device plays audio of `sampleRate`: the same if it supports it. Otherwise
 /// a higher one, which keeps the whole band: the preferred rate or else the lowest such. Otherwise

@@ -33,10 +33,10 @@ Player::Player(converter::ConverterUnit& unit, std::uint32_t maximumFrames,
 Player::~Player() = default;
 
 void Player::limitLength(std::int64_t frames) {
-  quiesce();
+  suspend();
   const auto end = std::min(end_.load(), std::max<std::int64_t>(frames, 1));
   if (end < end_.exchange(end)) cutShort_ = true;
-  wake();
+  resume();
 }
 
 void Player::play() {
@@ -59,7 +59,7 @@ void Player::setUnitFlag(AudioUnitPropertyID flag, bool on) {
   unit_.setProperty(flag, kAudioUnitScope_Global, 0, &value, sizeof value);
 }
 
-void Player::quiesce() {
+void Player::suspend() {
   const auto wanted = wanted_.exchange(Wanted::Silence);
   if (deviceRuns_) {
     const auto givenUp = std::chrono::steady_clock::now() + fadePatience;
@@ -73,7 +73,7 @@ void Player::quiesce() {
   wanted_ = wanted;
 }
 
-void Player::wake() {
+void Player::resume() {
   suspended_ = false;
 }
 
@@ -100,7 +100,7 @@ void Player::setLoop(std::optional<LoopRange> loop) {
     if (loop->length() < 1) loop.reset();
   }
   if (loop == loop_) return;
-  quiesce();
+  suspend();
   auto frame = position();
   if (loop && !loop->contains(frame)) frame = loop->start;
   const bool wasFinished = isFinished();
@@ -112,7 +112,7 @@ void Player::setLoop(std::optional<LoopRange> loop) {
 
 void Player::seek(std::int64_t frame) {
   if (isFinished()) wanted_ = Wanted::Silence;
-  quiesce();
+  suspend();
   frame = std::clamp<std::int64_t>(frame, 0, length());
   loops_ = loop_ && frame < loop_->end;
   const auto earliest = loop_ && !loops_ ? loop_->end : 0;
@@ -130,7 +130,7 @@ void Player::seek(std::int64_t frame) {
   runUpTo(leadIn);
   // At first the device may ask for several blocks at once.
   reader_.waitFor(format().sampleRate / 8);
-  wake();
+  resume();
 }
 
 void Player::runUpTo(std::int64_t leadIn) {

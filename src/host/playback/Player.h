@@ -80,8 +80,8 @@ class Player : public BlockRenderer {
 
   static constexpr std::int64_t unlimited = std::numeric_limits<std::int64_t>::max();
 
-  void quiesce();
-  void wake();
+  void suspend();
+  void resume();
   /// The position in the source, `frames` frames after the last seek.
   std::int64_t placeOf(std::int64_t frames) const;
   /// The number of frames from the last seek until playing ends.

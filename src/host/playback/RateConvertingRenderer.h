@@ -44,7 +44,7 @@ class RateConvertingRenderer : public BlockRenderer {
   /// Frames given to the resampler and to the device, since the resampler was made.
   std::int64_t fed_ = 0;
   std::int64_t given_ = 0;
-  /// By how much `ahead()` must be, so that there is always enough output.
+  /// The least `ahead()` with which there is always enough output.
   std::int64_t lead_ = 0;
   std::atomic<std::uint32_t> latency_{0};
 };

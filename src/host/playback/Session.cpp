@@ -24,7 +24,7 @@ Session::~Session() {
   stop();
 }
 
-bool Session::suits(const OpenedFile& file) const {
+bool Session::canLoad(const OpenedFile& file) const {
   return file.source->format() == format_;
 }
 

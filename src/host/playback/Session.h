@@ -23,8 +23,8 @@ class Session {
   explicit Session(OpenedFile file, OpenDevice open = openDevice);
   ~Session();
 
-  /// Whether `load` can take the file; another format needs a session of its own.
-  bool suits(const OpenedFile& file) const;
+  /// Whether `load` can take the file. Another format needs a session of its own.
+  bool canLoad(const OpenedFile& file) const;
   /// Plays another file of the same format through the same unit and output.
   void load(OpenedFile file);
 

@@ -81,15 +81,15 @@ void Audition::connectWindow() {
   connect(&window_, &MainWindow::loopRemoved, this,
           [this] { changeLoop([this] { loop_.choose(std::nullopt); }); });
   connect(&window_, &MainWindow::loopStartRequested, this,
-          [this] { changeLoop([this] { loop_.startAt(heardPosition()); }); });
+          [this] { changeLoop([this] { loop_.setStart(heardPosition()); }); });
   connect(&window_, &MainWindow::loopEndRequested, this,
-          [this] { changeLoop([this] { loop_.endAt(heardPosition()); }); });
+          [this] { changeLoop([this] { loop_.setEnd(heardPosition()); }); });
   connect(&deviceMenu_, &DeviceMenu::chosen, this, &Audition::setDevice);
 }
 
 void Audition::open(OpenedFile file) {
   const auto name = QString::fromStdString(file.path.filename().string());
-  if (session_ && session_->suits(file)) {
+  if (session_ && session_->canLoad(file)) {
     loop_.setPlayer(nullptr);
     session_->load(std::move(file));
     showRateNotice();

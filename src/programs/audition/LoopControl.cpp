@@ -23,11 +23,11 @@ void LoopControl::toggle() {
   apply();
 }
 
-void LoopControl::startAt(std::int64_t frame) {
+void LoopControl::setStart(std::int64_t frame) {
   if (player_ != nullptr) choose(loopFrom(frame, loop_, player_->length()));
 }
 
-void LoopControl::endAt(std::int64_t frame) {
+void LoopControl::setEnd(std::int64_t frame) {
   if (player_ != nullptr) choose(loopUpTo(frame, loop_));
 }
 

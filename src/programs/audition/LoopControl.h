@@ -21,8 +21,8 @@ class LoopControl {
   void choose(const std::optional<LoopRange>& loop);
   void toggle();
   /// Moves an edge of the loop to `frame`, and switches the loop on.
-  void startAt(std::int64_t frame);
-  void endAt(std::int64_t frame);
+  void setStart(std::int64_t frame);
+  void setEnd(std::int64_t frame);
 
  private:
   void apply();

@@ -16,7 +16,7 @@ constexpr int kLoopWidth = 128;
 
 /// Lets a click on the control leave the keyboard focus with the view.
 template <class Control>
-Control* keepingFocusInView(Control* control) {
+Control* keepFocusInView(Control* control) {
   control->setFocusPolicy(Qt::TabFocus);
   return control;
 }
@@ -32,16 +32,16 @@ QHBoxLayout* row() {
 
 TransportBar::TransportBar(QWidget* parent)
     : QWidget(parent),
-      open_(keepingFocusInView(new QPushButton(tr("Open…"), this))),
+      open_(keepFocusInView(new QPushButton(tr("Open…"), this))),
       file_(new ElidedLabel(Qt::ElideMiddle, this)),
-      device_(keepingFocusInView(new QPushButton(this))),
+      device_(keepFocusInView(new QPushButton(this))),
       deviceMenu_(new QMenu(this)),
       waveform_(new WaveformView(this)),
-      play_(keepingFocusInView(new PlayButton(this))),
-      time_(keepingFocusInView(new TimeDisplay(this))),
+      play_(keepFocusInView(new PlayButton(this))),
+      time_(keepFocusInView(new TimeDisplay(this))),
       total_(new QLabel(this)),
       analysis_(new AnalysisIndicator(this)),
-      loop_(keepingFocusInView(new QPushButton(this))) {
+      loop_(keepFocusInView(new QPushButton(this))) {
   device_->setMenu(deviceMenu_);
   device_->setFixedWidth(kDeviceWidth);
   device_->setToolTip(tr("The device that plays"));

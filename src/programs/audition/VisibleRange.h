@@ -19,7 +19,7 @@ class VisibleRange {
   std::int64_t span() const { return end_ - start_; }
   bool isAll() const { return start_ == 0 && end_ == length_; }
 
-  /// Sets another length; what is shown of the file stays, and all of it if it was all.
+  /// Sets another length. The visible part stays; if the whole file was visible, it still is.
   void setLength(std::int64_t length);
   /// Shows `factor` times as many frames, while `anchor` stays where it is on screen.
   void zoom(double factor, std::int64_t anchor);

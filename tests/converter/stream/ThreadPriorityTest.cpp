@@ -30,12 +30,12 @@ Place placeOfThisThread() {
 
 /// Runs on a thread of its own, so that the test's own priority stays as it is.
 template <typename Work>
-void onAThread(Work work) {
+void runOnThread(Work work) {
   std::thread(work).join();
 }
 
 TEST(ThreadPriority, IsWhatTheSystemSaysItIs) {
-  onAThread([] {
+  runOnThread([] {
     const int niceBefore = placeOfThisThread().nice;
     const ThreadPriority result = raiseThreadPriority();
     const Place place = placeOfThisThread();
@@ -47,7 +47,7 @@ TEST(ThreadPriority, IsWhatTheSystemSaysItIs) {
 }
 
 TEST(ThreadPriority, IsOrdinaryAgainAfterItWasDropped) {
-  onAThread([] {
+  runOnThread([] {
     raiseThreadPriority();
     dropThreadPriority();
     const Place place = placeOfThisThread();
@@ -58,7 +58,7 @@ TEST(ThreadPriority, IsOrdinaryAgainAfterItWasDropped) {
 
 TEST(ThreadPriority, OfOtherThreadsStaysAsItIs) {
   const Place before = placeOfThisThread();
-  onAThread([] { raiseThreadPriority(); });
+  runOnThread([] { raiseThreadPriority(); });
   const Place after = placeOfThisThread();
   EXPECT_EQ(after.policy, before.policy);
   EXPECT_EQ(after.nice, before.nice);

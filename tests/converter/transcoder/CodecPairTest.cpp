@@ -23,8 +23,8 @@ class Pair : public testing::TestWithParam<Format> {
   }
 
   /// The encoded signal from `start` to the end of the source, by a pair opened for `start`.
-  std::vector<float> encodedFrom(Position start) const {
-    return encodeFrom(setting_, kUnit, source_, start)[0];
+  std::vector<float> encodeFrom(Position start) const {
+    return ::encodeFrom(setting_, kUnit, source_, start)[0];
   }
 
   /// Error relative to the source at [place, place + 512), dB; `encoded` starts at `begin`.
@@ -46,10 +46,10 @@ class Pair : public testing::TestWithParam<Format> {
 };
 
 TEST_P(Pair, StartedAmidTheSignalIsAsGoodAsOneThatRanAllAlong) {
-  const std::vector<float> running = encodedFrom(0);
+  const std::vector<float> running = encodeFrom(0);
   for (Position start = 20 * Position{kBlockFrames}; start < 21 * Position{kBlockFrames};
        start += 256) {
-    EXPECT_LT(errorAt(encodedFrom(start), start, start), errorAt(running, 0, start) + 3) << start;
+    EXPECT_LT(errorAt(encodeFrom(start), start, start), errorAt(running, 0, start) + 3) << start;
   }
 }
 

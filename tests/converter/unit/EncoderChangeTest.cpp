@@ -171,7 +171,7 @@ constexpr double kStepOfTheFadeItself = 1.001;
 
 /// The changes that the unit adopts when every block of 256 samples requests the next setting: the
 /// newest request, once per access unit's length.
-std::vector<TakenChange> takenOf(const std::vector<Setting>& settings, std::size_t count) {
+std::vector<TakenChange> adoptedChanges(const std::vector<Setting>& settings, std::size_t count) {
   std::vector<TakenChange> taken;
   converter::Position next = 0;
   for (std::size_t number = 0; number < count + 16; ++number) {
@@ -199,7 +199,8 @@ TEST(EncoderChange, SurvivesAThousandInARow) {
   });
   EXPECT_EQ(rig.missedFrames(), 0U);
   output = part(output, rig.unit().latency(), output[0].size());
-  const ChangeReport report = checkChanges(rig.format(), input, output, takenOf(all, kChanges));
+  const ChangeReport report =
+      checkChanges(rig.format(), input, output, adoptedChanges(all, kChanges));
   EXPECT_GT(report.changes, 100U);
   EXPECT_EQ(report.strangeSamples, 0U);
   EXPECT_LE(report.largestStep, mostStep() * kStepOfTheFadeItself)

@@ -107,7 +107,7 @@ class RateChanging : public testing::TestWithParam<RateChange::Direction> {
   static bool halves() { return GetParam() == RateChange::Direction::halve; }
 
   /// A sine through the resampler, with its delay; `frequency` is relative to the input rate.
-  static std::vector<float> through(RateChange& change, double frequency, int blocks) {
+  static std::vector<float> resample(RateChange& change, double frequency, int blocks) {
     std::vector<float> samples(kBlock);
     std::vector<float> output;
     for (int block = 0; block < blocks; ++block) {
@@ -131,7 +131,7 @@ class RateChanging : public testing::TestWithParam<RateChange::Direction> {
 TEST_P(RateChanging, KeepsWithinItsDelayAndMovesNothing) {
   RateChange change(GetParam(), 1, kBlock);
   const double frequency = halves() ? 0.05 : 0.1;
-  const auto output = through(change, frequency, 40);
+  const auto output = resample(change, frequency, 40);
   const double step = 2 * std::numbers::pi * frequency * (halves() ? 2 : 0.5);
   for (std::size_t i = 4000; i < output.size(); ++i) {
     ASSERT_NEAR(output[i], 0.5 * std::cos(step * static_cast<double>(i)), 2e-6) << i;
@@ -140,9 +140,9 @@ TEST_P(RateChanging, KeepsWithinItsDelayAndMovesNothing) {
 
 TEST_P(RateChanging, StartsAnewAfterClear) {
   RateChange change(GetParam(), 1, kBlock);
-  const auto first = through(change, 0.03, 20);
+  const auto first = resample(change, 0.03, 20);
   change.clear();
-  EXPECT_EQ(through(change, 0.03, 20), first);
+  EXPECT_EQ(resample(change, 0.03, 20), first);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothWays, RateChanging,

@@ -35,8 +35,8 @@ class SoundRenderer : public host::BlockRenderer {
 };
 
 /// Renders what the device plays, in blocks of that size.
-Sound played(RateConvertingRenderer& renderer, std::uint32_t rate, std::size_t channels,
-             std::size_t frames, std::size_t block) {
+Sound playThrough(RateConvertingRenderer& renderer, std::uint32_t rate, std::size_t channels,
+                  std::size_t frames, std::size_t block) {
   auto sound = silence(rate, channels, frames);
   for (std::size_t at = 0; at < frames; at += block) {
     float* planes[2] = {};
@@ -61,7 +61,7 @@ TEST_P(RateConverting, LeavesASineASineAsLateAsItSays) {
   SoundRenderer source(sine(from, 1, from, hertz));
   RateConvertingRenderer renderer(source, source.format(), to);
   const std::size_t frames = to / 2;
-  const auto sound = played(renderer, to, 1, frames, 480);
+  const auto sound = playThrough(renderer, to, 1, frames, 480);
   const double step = 2 * std::numbers::pi * hertz / to;
   // The sine that fits best over the last tenth of a second, whole periods, and the rest.
   const std::size_t begin = frames - to / 10;
@@ -96,11 +96,11 @@ TEST_P(RateConverting, GivesTheSameInBlocksOfAnyLength) {
   SoundRenderer other(sound);
   RateConvertingRenderer even(one, one.format(), to);
   RateConvertingRenderer uneven(other, other.format(), to);
-  const auto expected = played(even, to, 2, to / 4, 512);
-  EXPECT_TRUE(played(uneven, to, 2, to / 4, 77).planes == expected.planes);
+  const auto expected = playThrough(even, to, 2, to / 4, 512);
+  EXPECT_TRUE(playThrough(uneven, to, 2, to / 4, 77).planes == expected.planes);
   SoundRenderer third(sound);
   RateConvertingRenderer large(third, third.format(), to);
-  EXPECT_TRUE(played(large, to, 2, to / 4, 5000).planes == expected.planes);
+  EXPECT_TRUE(playThrough(large, to, 2, to / 4, 5000).planes == expected.planes);
   EXPECT_GT(*std::max_element(expected.planes[1].begin(), expected.planes[1].end()), 0.1F);
 }
 
@@ -109,7 +109,7 @@ TEST_P(RateConverting, TakesAsMuchAsTheDevicePlays) {
   SoundRenderer source(silence(from, 2, 0));
   RateConvertingRenderer renderer(source, source.format(), to);
   const auto early = renderer.latency();
-  played(renderer, to, 2, std::size_t{to} * 5, 512);
+  playThrough(renderer, to, 2, std::size_t{to} * 5, 512);
   EXPECT_NEAR(static_cast<double>(source.given()), 5.0 * from, 129);
   EXPECT_NEAR(renderer.latency(), early, 129);
   // Short enough for a key press to seem immediate.
@@ -123,7 +123,7 @@ TEST_P(RateConverting, HasEverythingOfTheSourceInIt) {
   for (const double part : {0.01, 0.2, 0.45}) {
     SoundRenderer source(sine(from, 1, from, part * rate));
     RateConvertingRenderer renderer(source, source.format(), to);
-    const auto sound = played(renderer, to, 1, to / 2, 512);
+    const auto sound = playThrough(renderer, to, 1, to / 2, 512);
     double power = 0;
     const std::size_t begin = to / 4;
     for (std::size_t i = begin; i < sound.frames(); ++i) {

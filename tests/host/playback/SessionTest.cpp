@@ -71,13 +71,13 @@ TEST_F(SessionOfAFile, TakesOnlyFilesOfItsOwnFormat) {
   writeSound(folder_ / "mono.wav", noise(48000, 1, 480));
   writeSound(folder_ / "slow.wav", noise(44100, 2, 480));
   writeSound(folder_ / "fast.wav", noise(192000, 2, 480));
-  const auto suits = [&](const char* name) {
-    return session_->suits(host::openedForPlaying(folder_ / name));
+  const auto canLoad = [&](const char* name) {
+    return session_->canLoad(host::openedForPlaying(folder_ / name));
   };
-  EXPECT_TRUE(suits("mix.wav"));
-  EXPECT_FALSE(suits("mono.wav"));
-  EXPECT_FALSE(suits("slow.wav"));
-  EXPECT_FALSE(suits("fast.wav"));
+  EXPECT_TRUE(canLoad("mix.wav"));
+  EXPECT_FALSE(canLoad("mono.wav"));
+  EXPECT_FALSE(canLoad("slow.wav"));
+  EXPECT_FALSE(canLoad("fast.wav"));
 }
 
 TEST_F(SessionOfAFile, KeepsPlayingToTheSameWhenItLoadsAnotherFile) {

@@ -28,7 +28,7 @@ class Headless : public testing::Test {
   std::string path(const std::string& name) const { return (folder_ / name).string(); }
   /// Runs mix.wav with these options and `--json`; it must succeed and print nothing on standard
   /// error.
-  Json measured(const std::vector<std::string>& options = {}) {
+  Json measure(const std::vector<std::string>& options = {}) {
     std::vector<std::string> arguments = {"mix.wav", "--headless", "--json"};
     arguments.insert(arguments.end(), options.begin(), options.end());
     const auto outcome = Program(folder_.path()).run(arguments);
@@ -80,7 +80,7 @@ TEST_F(Headless, PrintsTheReadingsAsText) {
 
 TEST_F(Headless, TellsWhatWasMeasuredAndHow) {
   mix(noise(44100, 2, 44100 * 2));
-  const auto json = measured();
+  const auto json = measure();
   EXPECT_EQ(json["file"], "mix.wav");
   EXPECT_EQ(json["seconds"], 2.0);
   EXPECT_EQ(json["sample_rate_hz"], 44100);
@@ -95,7 +95,7 @@ TEST_F(Headless, TellsWhatWasMeasuredAndHow) {
 TEST_F(Headless, EncodesAsThePresetOrTheSettingSays) {
   mix(noise(48000, 2, 48000));
   const auto setting = [&](const char* option, const char* value) {
-    return measured({option, value})["setting"];
+    return measure({option, value})["setting"];
   };
   EXPECT_EQ(setting("--preset", "128k"), Json::parse(R"({"format": "AAC", "strategy": "VBRC",
       "rate_kbps": 128, "quality": null})"));
@@ -107,15 +107,15 @@ TEST_F(Headless, EncodesAsThePresetOrTheSettingSays) {
 
 TEST_F(Headless, SpendsTheBitsThatItIsToldTo) {
   mix(noise(48000, 2, 48000 * 4));
-  const auto low = measured({"--set", "aac,abr,64"})["bit_rate_kbps"].get<double>();
-  const auto high = measured({"--set", "aac,abr,128"})["bit_rate_kbps"].get<double>();
+  const auto low = measure({"--set", "aac,abr,64"})["bit_rate_kbps"].get<double>();
+  const auto high = measure({"--set", "aac,abr,128"})["bit_rate_kbps"].get<double>();
   EXPECT_NEAR(low, 64, 8);
   EXPECT_NEAR(high, 128, 16);
 }
 
 TEST_F(Headless, GivesOneRecordPerSignalForMono) {
   mix(noise(48000, 1, 48000));
-  const auto json = measured();
+  const auto json = measure();
   EXPECT_EQ(json["channels"], 1);
   EXPECT_EQ(json["source"].size(), 1U);
   EXPECT_EQ(json["encoded"].size(), 1U);
@@ -124,7 +124,7 @@ TEST_F(Headless, GivesOneRecordPerSignalForMono) {
 TEST_F(Headless, RecordsTheSourceBitForBit) {
   const auto sound = noise(48000, 2, 48000 * 2 + 123, 0.8F);
   mix(sound);
-  EXPECT_EQ(measured({"--monitor", "source", "--record", "out.wav"})["monitor"], "source");
+  EXPECT_EQ(measure({"--monitor", "source", "--record", "out.wav"})["monitor"], "source");
   const auto recorded = readSound(path("out.wav"));
   EXPECT_EQ(recorded.sampleRate, 48000U);
   EXPECT_TRUE(recorded.planes == sound.planes);
@@ -135,7 +135,7 @@ TEST_F(Headless, RecordsTheEncodedSignalInStepWithTheSource) {
     for (const std::size_t channels : {1U, 2U}) {
       const auto sound = noise(44100, channels, 44100 * 2 + 123, 0.8F);
       mix(sound);
-      measured({"--monitor", "encoded", "--record", "out.wav", "--set", setting});
+      measure({"--monitor", "encoded", "--record", "out.wav", "--set", setting});
       const auto recorded = readSound(path("out.wav"));
       EXPECT_EQ(recorded.frames(), sound.frames());
       EXPECT_EQ(bestLag(sound, recorded, 300), 0) << setting;
@@ -146,15 +146,15 @@ TEST_F(Headless, RecordsTheEncodedSignalInStepWithTheSource) {
 
 TEST_F(Headless, RecordsTheSameWhicheverDeviceIsNamed) {
   mix(noise(48000, 2, 48000));
-  measured({"--record", "a.wav"});
-  measured({"--record", "b.wav", "--device", "none", "--screenshot", "picture.png"});
+  measure({"--record", "a.wav"});
+  measure({"--record", "b.wav", "--device", "none", "--screenshot", "picture.png"});
   EXPECT_TRUE(readSound(path("a.wav")).planes == readSound(path("b.wav")).planes);
 }
 
 TEST_F(Headless, ReadsWhatALoudnessLibraryReadsInTheRecording) {
   mix(noise(48000, 2, 48000 * 3, 1.2F));
   for (const auto* const signal : {"source", "encoded"}) {
-    const auto json = measured({"--monitor", signal, "--record", "out.wav", "--preset", "128k"});
+    const auto json = measure({"--monitor", signal, "--record", "out.wav", "--preset", "128k"});
     const auto recorded = readSound(path("out.wav"));
     for (std::size_t channel = 0; channel < 2; ++channel) {
       const auto& reading = json[signal][channel];
@@ -177,7 +177,7 @@ TEST_F(Headless, FindsThePeakBetweenSamples) {
     sound.planes[0][i] = static_cast<float>(fade * wave * 0.9);
   }
   mix(sound);
-  const auto json = measured();
+  const auto json = measure();
   EXPECT_NEAR(json["source"][0]["sample_peak_dbfs"], -0.915 - 3.010, 0.01);
   EXPECT_NEAR(json["source"][0]["inter_sample_peak_dbtp"], -0.915, 0.1);
 }
@@ -186,18 +186,18 @@ TEST_F(Headless, EndsAfterTheSecondsThatItIsGiven) {
   auto sound = noise(48000, 2, 48000 * 3, 0.25F);
   for (auto& plane : sound.planes) plane[60000] = 0.9F;
   mix(sound);
-  const auto json = measured({"--seconds", "1.25", "--monitor", "source", "--record", "out.wav"});
+  const auto json = measure({"--seconds", "1.25", "--monitor", "source", "--record", "out.wav"});
   EXPECT_EQ(json["seconds"], 1.25);
   EXPECT_NEAR(json["source"][0]["sample_peak_dbfs"], -12.04, 0.01);
   auto expected = sound;
   for (auto& plane : expected.planes) plane.resize(60000);
   EXPECT_TRUE(readSound(path("out.wav")).planes == expected.planes);
-  EXPECT_NEAR(measured({"--seconds", "1.26"})["source"][0]["sample_peak_dbfs"], -0.915, 0.001);
+  EXPECT_NEAR(measure({"--seconds", "1.26"})["source"][0]["sample_peak_dbfs"], -0.915, 0.001);
 }
 
 TEST_F(Headless, EndsWithTheFileWhenItIsGivenMoreSeconds) {
   mix(noise(48000, 2, 24000));
-  EXPECT_EQ(measured({"--seconds", "60"})["seconds"], 0.5);
+  EXPECT_EQ(measure({"--seconds", "60"})["seconds"], 0.5);
 }
 
 TEST_F(Headless, CountsTheVeryLastSample) {
@@ -205,7 +205,7 @@ TEST_F(Headless, CountsTheVeryLastSample) {
   sound.planes[0].back() = 0.9F;
   sound.planes[1].back() = 1.1F;
   mix(sound);
-  const auto json = measured({"--monitor", "source", "--record", "out.wav"});
+  const auto json = measure({"--monitor", "source", "--record", "out.wav"});
   EXPECT_NEAR(json["source"][0]["sample_peak_dbfs"], -0.915, 0.001);
   EXPECT_GE(json["source"][0]["inter_sample_peak_dbtp"], -0.916);
   EXPECT_EQ(json["source"][1]["sample_clips"], 1);
@@ -214,7 +214,7 @@ TEST_F(Headless, CountsTheVeryLastSample) {
 
 TEST_F(Headless, HasNoPeaksForSilence) {
   mix(silence(48000, 2, 48000));
-  const auto json = measured();
+  const auto json = measure();
   for (const auto& channel : json["source"]) {
     EXPECT_EQ(channel["sample_peak_dbfs"], kFloorDb);
     EXPECT_EQ(channel["inter_sample_peak_dbtp"], kFloorDb);
@@ -227,7 +227,7 @@ TEST_F(Headless, MeasuresAFileOfOneSample) {
   auto sound = silence(44100, 2, 1);
   sound.planes[0][0] = 0.5F;
   mix(sound);
-  const auto json = measured({"--record", "out.wav", "--monitor", "source"});
+  const auto json = measure({"--record", "out.wav", "--monitor", "source"});
   EXPECT_NEAR(json["source"][0]["sample_peak_dbfs"], -6.02, 0.01);
   EXPECT_EQ(json["source"][1]["sample_peak_dbfs"], kFloorDb);
   EXPECT_TRUE(readSound(path("out.wav")).planes == sound.planes);
@@ -237,7 +237,7 @@ TEST_F(Headless, MeasuresFilesOfRatesThatTheConverterDoesNotDo) {
   const std::pair<std::uint32_t, std::uint32_t> rates[] = {{8000, 32000}, {384000, 192000}};
   for (const auto& [file, unit] : rates) {
     mix(sine(file, 2, file * 2, 1000));
-    const auto json = measured({"--monitor", "source", "--record", "out.wav"});
+    const auto json = measure({"--monitor", "source", "--record", "out.wav"});
     EXPECT_EQ(json["sample_rate_hz"], unit);
     EXPECT_EQ(json["seconds"], 2.0);
     const auto recorded = readSound(path("out.wav"));
@@ -250,7 +250,7 @@ TEST_F(Headless, MeasuresFilesOfRatesThatTheConverterDoesNotDo) {
 TEST_F(Headless, PlaysTheChosenChannelsOfAFileThatHasMore) {
   const auto surround = noise(48000, 6, 48000);
   mix(surround);
-  measured({"--channels", "5,2", "--monitor", "source", "--record", "out.wav"});
+  measure({"--channels", "5,2", "--monitor", "source", "--record", "out.wav"});
   EXPECT_TRUE(readSound(path("out.wav")).planes ==
               (std::vector{surround.planes[4], surround.planes[1]}));
 }
@@ -284,7 +284,7 @@ TEST_F(Headless, SaysWhatTheEncoderDoesWhereItCannotDoAsItIsTold) {
 
 TEST_F(Headless, DrawsTheWindow) {
   mix(noise(48000, 2, 48000));
-  measured({"--screenshot", "picture.png"});
+  measure({"--screenshot", "picture.png"});
   const QImage picture(QString::fromStdString(path("picture.png")), "PNG");
   ASSERT_FALSE(picture.isNull());
   EXPECT_GE(picture.width(), 560);
