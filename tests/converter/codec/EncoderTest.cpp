@@ -16,7 +16,7 @@ using converter::openDecoder;
 using converter::openEncoder;
 using converter::UnitFormat;
 
-TEST(Encoder, OpensForEverySettingThatParametersCanAskFor) {
+TEST(Encoder, OpensForEverySettingThatTheParametersAllow) {
   for (const double sampleRate : {32000.0, 44100.0, 48000.0, 88200.0, 96000.0}) {
     for (const UInt32 channels : {1U, 2U}) {
       const UnitFormat unit{.sampleRate = sampleRate, .channels = channels, .maximumFrames = 512};
@@ -35,7 +35,7 @@ TEST(Encoder, OpensForEverySettingThatParametersCanAskFor) {
   }
 }
 
-TEST(Encoder, RefusesASampleRateThatAacDoesNotKnow) {
+TEST(Encoder, RefusesASampleRateThatAacDoesNotSupport) {
   const UnitFormat unit{.sampleRate = 192000, .channels = 2, .maximumFrames = 512};
   EXPECT_THROW(openEncoder({.bitRate = 128000}, unit), std::runtime_error);
 }
@@ -98,7 +98,7 @@ TEST(Encoder, KeepsEveryAccessUnitUnderTheConstrainedPeak) {
   }
 }
 
-TEST(Encoder, CodesAsMuchOfTheBandAsItsRateAffords) {
+TEST(Encoder, EncodesAsMuchOfTheBandAsItsRateAllows) {
   if (!converter::hasHighEfficiencyEncoder()) GTEST_SKIP() << "this build has another encoder";
   const auto keeps = [](double frequency, double sampleRate, UInt32 bitRate) {
     const UnitFormat unit{.sampleRate = sampleRate, .channels = 2, .maximumFrames = 512};
@@ -129,13 +129,13 @@ TEST(Encoder, SpendsMoreBitsInHigherVbrModes) {
   EXPECT_GE(averageAt(100), averageAt(60));
 }
 
-TEST(Decoder, RefusesAnEmptyConfigurationOrGivesNothing) {
+TEST(Decoder, RefusesANonsenseConfiguration) {
   const UnitFormat unit;
   const std::uint8_t nonsense[] = {0xff, 0xff, 0xff};
   EXPECT_THROW(openDecoder(nonsense, unit, 1024), std::runtime_error);
 }
 
-TEST(Decoder, GivesNothingForAnAccessUnitThatIsNone) {
+TEST(Decoder, ReturnsNullForANonsenseAccessUnit) {
   const UnitFormat unit;
   const auto encoder = openEncoder({.bitRate = 128000}, unit);
   const auto decoder = openDecoder(encoder->configuration(), unit, encoder->timing().frameLength);

@@ -26,7 +26,7 @@ std::uint32_t rateOf(const ParameterValues& values, const UnitFormat& unit) {
   return nearestSetting(values, unit, kAll).bitRate;
 }
 
-TEST(Setting, CarriesWhatTheEncoderCanDoAsItIs) {
+TEST(Setting, KeepsWhatTheEncoderCanDo) {
   const auto setting = nearestSetting({0, 1, 14}, at(44100, 2), kAll);
   EXPECT_EQ(setting.format, Format::lc);
   EXPECT_EQ(setting.strategy, Strategy::constrainedVbr);
@@ -34,12 +34,12 @@ TEST(Setting, CarriesWhatTheEncoderCanDoAsItIs) {
   EXPECT_EQ(setting.vbrMode, 0);
 }
 
-TEST(Setting, TakesCodesByTruncation) {
+TEST(Setting, TruncatesCodes) {
   EXPECT_EQ(nearestSetting({1.99F, 0.99F, 7.99F}, at(48000, 2), kAll),
             nearestSetting({1, 0, 7}, at(48000, 2), kAll));
 }
 
-TEST(Setting, MovesValuesOutsideTheirCodesToTheNearestCode) {
+TEST(Setting, ClampsValuesOutOfRangeToTheNearestCode) {
   const auto unit = at(48000, 2);
   const auto lowest = nearestSetting({0, 0, 0}, unit, kAll);
   const auto highest = nearestSetting({2, 2, 127}, unit, kAll);
@@ -53,7 +53,7 @@ TEST(Setting, MovesValuesOutsideTheirCodesToTheNearestCode) {
   EXPECT_EQ(rateOf({0, 1, 1e9F}, unit), 320000U);
 }
 
-TEST(Setting, SharesTheQualitiesEvenlyAmongTheFiveModes) {
+TEST(Setting, MapsTheQualitiesEvenlyToTheFiveModes) {
   int used[6] = {};
   int last = 1;
   for (int quality = 0; quality <= 127; ++quality) {
@@ -67,7 +67,7 @@ TEST(Setting, SharesTheQualitiesEvenlyAmongTheFiveModes) {
   for (int mode = 1; mode <= 5; ++mode) EXPECT_NEAR(used[mode], 128 / 5.0, 1);
 }
 
-TEST(Setting, CarriesParametricStereoOfOneChannelByBandReplication) {
+TEST(Setting, UsesHeForHeV2WithOneChannel) {
   EXPECT_EQ(nearestSetting({2, 0, 7}, at(44100, 1), kAll),
             nearestSetting({1, 0, 7}, at(44100, 1), kAll));
   EXPECT_EQ(converter::highestFormat(kAll, 1), Format::he);

@@ -71,7 +71,7 @@ TEST(SignalMeters, LeaveTheSecondChannelClearedInMono) {
   expectSame(read[velk::kPeakStatsSlot_EncodedRight], converter::clearedStatistics());
 }
 
-TEST(SignalMeters, ReadClearedAfterAResetAlthoughNoBlockFollows) {
+TEST(SignalMeters, ReadClearedAfterAResetEvenIfNoBlockFollows) {
   const Feed feed;
   SignalMeters meters(2);
   feed.into(meters, 0, 5000);

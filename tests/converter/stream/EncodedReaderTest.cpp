@@ -53,7 +53,7 @@ class Reader : public testing::Test {
   std::vector<float> output_;
 };
 
-TEST_F(Reader, DoesNotWaitForAWorkerThatThereIsNot) {
+TEST_F(Reader, DoesNotWaitWithoutAWorker) {
   // Work is waiting, but no thread does it.
   ASSERT_NE(worker_.source().claim(), nullptr);
   worker_.source().push();
@@ -77,14 +77,14 @@ TEST_F(Reader, TakesBlocksByTheirPositions) {
   expectSignal(0, 3134, true);
 }
 
-TEST_F(Reader, CountsWhatHasNotCome) {
+TEST_F(Reader, CountsWhatHasNotArrived) {
   deliver(-962, 0);
   EXPECT_EQ(readTo(1500), 414U);
   expectSignal(0, 1086, true);
   expectSignal(1086, 1500, false);
 }
 
-TEST_F(Reader, DropsWhatComesTooLateAndKeepsTheRestInPlace) {
+TEST_F(Reader, DropsWhatArrivesTooLateAndKeepsTheRestInPlace) {
   EXPECT_EQ(readTo(1500), 1500U);
   deliver(-962, 0);
   deliver(1086);
@@ -102,7 +102,7 @@ TEST_F(Reader, CountsAGapBetweenTwoBlocks) {
   expectSignal(9278, 10000, true);
 }
 
-TEST_F(Reader, CountsTheStretchBeforeABlockBegins) {
+TEST_F(Reader, CountsTheMissingStartOfABlock) {
   deliver(-962, 0);
   deliver(1086, 3134);
   deliver(3134, 4000);

@@ -45,7 +45,7 @@ class Pair : public testing::TestWithParam<Format> {
   Setting setting_;
 };
 
-TEST_P(Pair, StartedAmidTheSignalIsAsGoodAsOneThatRanAllAlong) {
+TEST_P(Pair, StartedInMidSignalIsAsGoodAsOneThatRanAllAlong) {
   const std::vector<float> running = encodeFrom(0);
   for (Position start = 20 * Position{kBlockFrames}; start < 21 * Position{kBlockFrames};
        start += 256) {

@@ -51,7 +51,7 @@ class Blocks : public testing::Test {
 
 using TranscoderTest = Blocks;
 
-TEST_F(TranscoderTest, GivesTheBlockOfTheLongestDelayBefore) {
+TEST_F(TranscoderTest, ReturnsTheBlockFromTheLongestDelayBefore) {
   Transcoder transcoder(kUnit);
   for (std::size_t number = 0; number < 10; ++number) {
     EXPECT_EQ(process(transcoder, at(number)).position,
@@ -59,7 +59,7 @@ TEST_F(TranscoderTest, GivesTheBlockOfTheLongestDelayBefore) {
   }
 }
 
-TEST_F(TranscoderTest, BeginsWhereTheSourceBegins) {
+TEST_F(TranscoderTest, StartsWhereTheSourceStarts) {
   for (const std::size_t first : {std::size_t{0}, std::size_t{7}}) {
     Transcoder transcoder(kUnit);
     const auto begin = static_cast<Position>(first) * kBlockFrames;
@@ -74,7 +74,7 @@ TEST_F(TranscoderTest, BeginsWhereTheSourceBegins) {
   }
 }
 
-TEST_F(TranscoderTest, StartsAnewAfterAGapWithTheSettingInForceThere) {
+TEST_F(TranscoderTest, RestartsAfterAGapWithTheSettingInEffectThere) {
   Transcoder fresh(kUnit);
   Transcoder interrupted(kUnit);
   for (std::size_t number = 0; number < 8; ++number) process(interrupted, at(number, 16));
@@ -84,7 +84,7 @@ TEST_F(TranscoderTest, StartsAnewAfterAGapWithTheSettingInForceThere) {
   }
 }
 
-TEST_F(TranscoderTest, GivesTheSameAgainAfterClear) {
+TEST_F(TranscoderTest, GivesTheSameOutputAgainAfterClear) {
   Transcoder transcoder(kUnit);
   std::vector<AudioBlock> first;
   first.reserve(12);

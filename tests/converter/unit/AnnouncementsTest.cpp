@@ -84,7 +84,7 @@ TEST_F(Announcements, TellAWriteOfTheSameValueToo) {
   EXPECT_THAT(heard(), ElementsAre("property 5301", "property 5304"));
 }
 
-TEST_F(Announcements, TellNothingOfAWriteThatFailed) {
+TEST_F(Announcements, LeaveOutAWriteThatFailed) {
   EXPECT_NE(set(velk::kConverterProperty_MonitorSource, 1, 2), noErr);
   EXPECT_NE(set(velk::kConverterProperty_PeakStats, 1), noErr);
   const AUPreset none{9, nullptr};
@@ -116,7 +116,7 @@ TEST_F(Announcements, TellOthersTheWrittenParameterOnceAndTheRateOrQuality) {
   EXPECT_THAT(heard(), ElementsAre("parameter 2 = 100"));
 }
 
-TEST_F(Announcements, TellNothingOfRendering) {
+TEST_F(Announcements, LeaveOutRendering) {
   rig_.render(music(2, 10000, 44100));
   rig_.unit().reset();
   EXPECT_THAT(heard(), IsEmpty());

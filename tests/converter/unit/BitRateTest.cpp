@@ -41,7 +41,7 @@ TEST(BitRate, FollowsTheLastSecondsAndAveragesAll) {
   EXPECT_LT(quiet.averageKbps, loud.averageKbps);
 }
 
-TEST(BitRate, StartsAnewWithAChangeOfSetting) {
+TEST(BitRate, RestartsWithAChangeOfSetting) {
   Rig rig;
   rig.setSetting(0, 0, 14);
   rig.render(music(2, std::size_t{3} * 44100, 44100));

@@ -141,7 +141,7 @@ TEST(BitStream, ComesOnTheWorkersThread) {
   EXPECT_FALSE(recorder.isOnCallersThread);
 }
 
-TEST(BitStream, BeginsAnewWithEveryChangeOfEncoder) {
+TEST(BitStream, StartsAgainWithEveryChangeOfEncoder) {
   const Signal input = music(2, 60000, 44100);
   Recorder recorder;
   Rig rig;
@@ -161,7 +161,7 @@ TEST(BitStream, BeginsAnewWithEveryChangeOfEncoder) {
   }
 }
 
-TEST(BitStream, BeginsAnewWithEveryReset) {
+TEST(BitStream, StartsAgainWithEveryReset) {
   const Signal input = music(2, 30000, 44100);
   Recorder recorder;
   Rig rig;
@@ -175,7 +175,7 @@ TEST(BitStream, BeginsAnewWithEveryReset) {
   EXPECT_EQ(recorder.streams[1].units.front().bytes, recorder.streams[0].units.front().bytes);
 }
 
-TEST(BitStream, IsNotShownToASinkThatWasTakenAway) {
+TEST(BitStream, IsNotSentToADetachedSink) {
   Recorder recorder;
   Rig rig;
   rig.unit().setBitStreamSink(&recorder);
@@ -187,7 +187,7 @@ TEST(BitStream, IsNotShownToASinkThatWasTakenAway) {
   EXPECT_EQ(recorder.streams[0].units.size(), units);
 }
 
-TEST(BitStream, ChangesNothingOfTheSound) {
+TEST(BitStream, DoesNotChangeTheSound) {
   const Signal input = music(2, 40000, 44100);
   Rig plain;
   Recorder recorder;

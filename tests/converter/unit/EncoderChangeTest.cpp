@@ -151,7 +151,7 @@ TEST(EncoderChange, ToTheSameEffectiveSettingChangesNothing) {
   EXPECT_EQ(output, still.render(input, 1000));
 }
 
-TEST(EncoderChange, TakesPlaceWhereTheNextBlockBegins) {
+TEST(EncoderChange, TakesPlaceWhereTheNextBlockStarts) {
   const Signal input = music(2, 50000, 44100);
   const auto render = [&](std::size_t block) {
     Rig rig;

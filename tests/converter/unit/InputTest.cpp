@@ -82,7 +82,7 @@ TEST_P(Input, GivesFiniteEncodedSoundAndLeavesTheUnitInOrder) {
 INSTANTIATE_TEST_SUITE_P(OfEveryKind, Input, testing::ValuesIn(kInputs),
                          [](const auto& test) { return std::string(test.param.name); });
 
-TEST(NoNumber, IsEncodedAsSilence) {
+TEST(NaN, IsEncodedAsSilence) {
   Rig rig;
   Signal input = silence(2, kFrames);
   for (auto& samples : input) std::ranges::fill(samples, std::numeric_limits<float>::quiet_NaN());

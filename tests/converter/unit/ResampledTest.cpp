@@ -36,7 +36,7 @@ TEST(Resampled, GivesTheSameForEveryBlockSize) {
   EXPECT_EQ(even.missedFrames(), 0U);
 }
 
-TEST(Resampled, StartsAnewAfterAReset) {
+TEST(Resampled, StartsAgainAfterAReset) {
   const Signal input = music(2, 80000, 192000);
   Rig fresh(kFormat);
   Rig rig(kFormat);
@@ -138,7 +138,7 @@ TEST_P(RateChanging, KeepsWithinItsDelayAndMovesNothing) {
   }
 }
 
-TEST_P(RateChanging, StartsAnewAfterClear) {
+TEST_P(RateChanging, StartsAgainAfterClear) {
   RateChange change(GetParam(), 1, kBlock);
   const auto first = resample(change, 0.03, 20);
   change.clear();

@@ -90,7 +90,7 @@ TEST(Reset, EndsWhatIsMetered) {
   expectStatistics(rig, ended);
 }
 
-TEST(Reset, KeepsTheCountOfMissedFramesAndStartsTheBitRateAnew) {
+TEST(Reset, KeepsTheCountOfMissedFramesAndRestartsTheBitRate) {
   Rig rig;
   rig.renderTooFast(music(2, std::size_t{6} * 44100, 44100));
   rig.unit().reset();

@@ -44,7 +44,7 @@ TEST(Devices, AreNotFoundUnderAnotherName) {
   EXPECT_FALSE(host::deviceNamed({}, "default"));
 }
 
-TEST(Devices, AreAllNamedToWhomAsksForOneThatIsNotThere) {
+TEST(Devices, AreAllListedWhenTheOneAskedForIsMissing) {
   try {
     static_cast<void>(host::requiredDevice(devices, "Gramophone"));
     FAIL();

@@ -95,7 +95,7 @@ TEST_F(Looping, GivesTheVeryFramesOfTheLoopButForTheJoinForAHundredRounds) {
   EXPECT_EQ(player().missedFrames(), 0U);
 }
 
-TEST_F(Looping, FadesOverToWhatLiesBeforeTheLoopSoThatTheJoinIsNoStep) {
+TEST_F(Looping, CrossFadesIntoWhatLiesBeforeTheLoopSoThatTheJoinIsNoStep) {
   make(noise(48000, 2, 200000));
   for (const LoopRange loop : {LoopRange{3000, 7321}, {100000, 180001}, {512, 1030}}) {
     player().setLoop(loop);
@@ -171,7 +171,7 @@ TEST_F(Looping, ShowsThePlaceThatIsHeardInEveryRound) {
   EXPECT_EQ(player().audiblePosition(600), 3100);
 }
 
-TEST_F(Looping, RunsIntoTheLoopFromBeforeAndOnFromBehind) {
+TEST_F(Looping, RunsIntoTheLoopFromBeforeAndOnFromAfterIt) {
   make(noise(48000, 2, 20000));
   player().setLoop(LoopRange{3000, 5000});
   player().seek(1000);

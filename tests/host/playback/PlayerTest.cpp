@@ -74,7 +74,7 @@ TEST_F(Playing, GivesSilenceBeforeItIsStarted) {
   EXPECT_EQ(player().position(), 0);
 }
 
-TEST_F(Playing, BeginsWithTheVeryFirstFrame) {
+TEST_F(Playing, StartsWithTheVeryFirstFrame) {
   make(ramp(4000));
   player().play();
   EXPECT_TRUE(player().isPlaying());
@@ -139,7 +139,7 @@ TEST_F(Playing, FadesOutOnPauseAndGoesOnFromThere) {
   EXPECT_EQ(placeOf(heard[511]), paused + 511);
 }
 
-TEST_F(Playing, ContinuesAtTheFrameThatItWasSentTo) {
+TEST_F(Playing, ContinuesAtTheTargetOfASeek) {
   make(ramp(40000));
   player().play();
   blocks(4, 256);
@@ -154,7 +154,7 @@ TEST_F(Playing, ContinuesAtTheFrameThatItWasSentTo) {
   EXPECT_EQ(player().position(), 30512);
 }
 
-TEST_F(Playing, LeadsTheUnitUpToThePlaceWithoutMeteringWhatNobodyHears) {
+TEST_F(Playing, RunsTheUnitUpToThePlaceWithoutMeteringWhatNobodyHears) {
   make(ramp(40000));
   for (const std::int64_t place : {0, 1, 700, 1500, 30000}) {
     unit_->metered.clear();
@@ -170,7 +170,7 @@ TEST_F(Playing, LeadsTheUnitUpToThePlaceWithoutMeteringWhatNobodyHears) {
   }
 }
 
-TEST_F(Playing, StaysPausedWhenItIsSentElsewhere) {
+TEST_F(Playing, StaysPausedAfterASeek) {
   make(ramp(40000));
   player().seek(30000);
   EXPECT_FALSE(player().isPlaying());
@@ -274,7 +274,7 @@ class Ear : public host::AudioTap {
   std::vector<float> heard;
 };
 
-TEST_F(Playing, LetsTheTapHearWhatIsPlayedAndNoSilenceAround) {
+TEST_F(Playing, SendsTheTapWhatIsPlayedAndNoSilenceAroundIt) {
   Ear ear;
   make(ramp(1000));
   player().setTap(&ear);

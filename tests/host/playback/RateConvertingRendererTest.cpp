@@ -55,7 +55,7 @@ struct Rates {
 
 class RateConverting : public testing::TestWithParam<Rates> {};
 
-TEST_P(RateConverting, LeavesASineASineAsLateAsItSays) {
+TEST_P(RateConverting, KeepsASineASineAndIsAsLateAsItSays) {
   const auto [from, to] = GetParam();
   constexpr double hertz = 1000;
   SoundRenderer source(sine(from, 1, from, hertz));

@@ -109,7 +109,7 @@ struct Format {
 
 class SeekingOf : public testing::TestWithParam<Format> {};
 
-TEST_P(SeekingOf, LetsTheEncodedSignalBeginAsIfPlayedThrough) {
+TEST_P(SeekingOf, StartsTheEncodedSignalAsIfPlayedThrough) {
   const auto music = noise(kRate, 2, 90000);
   Listening whole(music, GetParam().code);
   const auto through = whole.play(80000);

@@ -36,7 +36,7 @@ class SessionOfAFile : public testing::Test {
   std::optional<Session> session_;
 };
 
-TEST_F(SessionOfAFile, PlaysToNobodyInRealTime) {
+TEST_F(SessionOfAFile, PlaysSilentlyInRealTime) {
   session_->setDevice(std::nullopt);
   ASSERT_NE(session_->output(), nullptr);
   EXPECT_TRUE(session_->output()->isSilent());

@@ -64,7 +64,7 @@ TEST_F(Windowed, CompletesItsFilesWhenItIsTerminated) {
   EXPECT_EQ(QImage(QString::fromStdString(path("shot.png"))).width(), 560);
 }
 
-TEST_F(Windowed, GoesOnWhereItWasLeft) {
+TEST_F(Windowed, ContinuesWhereItWasLeft) {
   const auto first =
       program_.run({path("mix.wav"), "--device", "none", "--seconds", "0.2", "--set", "he,abr,64"});
   EXPECT_EQ(first.status, 0) << first.err;

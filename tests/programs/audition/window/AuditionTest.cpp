@@ -127,7 +127,7 @@ TEST_F(Auditioning, GrowsAndShrinksWithTheView) {
   EXPECT_EQ(audition.window().height(), low);
 }
 
-TEST_F(Auditioning, BeginsWithTheSettingOfTheCommandLine) {
+TEST_F(Auditioning, StartsWithTheSettingOfTheCommandLine) {
   host::AuditionOptions options;
   options.setting = host::EncoderSetting{1, 0, 7};
   options.monitorsSource = true;

@@ -278,7 +278,7 @@ TEST_F(Overview, OffersTheFilesThatWereOpenedLast) {
   EXPECT_EQ(recent(), (QStringList{"No Files", "&Clear List"}));
 }
 
-TEST_F(Overview, GoesOnWhereTheUserLeftOff) {
+TEST_F(Overview, ContinuesWhereTheUserLeftOff) {
   EXPECT_EQ(audition_->sessionToSave(), std::nullopt);
   open("loud.wav");
   host::applyEncoderSetting(&audition_->session()->unit(), {0, 0, 5});

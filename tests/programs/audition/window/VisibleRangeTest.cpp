@@ -47,7 +47,7 @@ TEST(VisibleRange, StaysWithinTheFile) {
   EXPECT_EQ(range.span(), 10000);
 }
 
-TEST(VisibleRange, TurnsOverToAPlaceThatIsNotToBeSeen) {
+TEST(VisibleRange, ScrollsToAPlaceThatIsNotVisible) {
   VisibleRange range(100000);
   range.zoom(0.1, 0);
   range.follow(9000);
@@ -69,7 +69,7 @@ TEST(VisibleRange, FollowsTheLengthOfAFileThatTurnsOutShorter) {
   EXPECT_EQ(range.span(), 10000);
 }
 
-TEST(VisibleRange, BearsHavingNothingToShow) {
+TEST(VisibleRange, CopesWithNothingToShow) {
   VisibleRange none;
   none.zoom(0.5, 0);
   none.scroll(5);

@@ -99,7 +99,7 @@ TEST_F(Waveform, ShowsThePlaceThatSounds) {
   EXPECT_EQ(after.pixel(270, 3), before.pixel(270, 3));
 }
 
-TEST_F(Waveform, DrawsAnewOnlyWhenSomethingHasChanged) {
+TEST_F(Waveform, RedrawsOnlyWhenSomethingHasChanged) {
   picture();
   const auto before = picture();
   show(0);
@@ -137,13 +137,13 @@ TEST_F(Waveform, MovesTheWholeLoopByItsLane) {
   EXPECT_EQ(lastLoop(), (LoopRange{200000, 250000}));
 }
 
-TEST_F(Waveform, KeepsAMiddleToTakeHoldOfInAVeryShortLoop) {
+TEST_F(Waveform, KeepsAMiddleToGrabInAVeryShortLoop) {
   view_.setLoop(LoopRange{100000, 104000}, true);
   drag({102, 5}, {202, 5});
   EXPECT_EQ(lastLoop(), (LoopRange{200000, 204000}));
 }
 
-TEST_F(Waveform, ForgetsADragThatIsGivenUp) {
+TEST_F(Waveform, ForgetsACancelledDrag) {
   QTest::mousePress(&view_, Qt::LeftButton, {}, QPoint(100, kMiddle));
   QTest::mouseMove(&view_, QPoint(300, kMiddle));
   key(Qt::Key_Escape);
@@ -235,7 +235,7 @@ TEST_F(Waveform, GoesToPlacesAndMovesEdgesWhereItIsZoomed) {
   EXPECT_EQ(places_[0][0].toLongLong(), 224000);
 }
 
-TEST_F(Waveform, TurnsOverWhilePlaying) {
+TEST_F(Waveform, ScrollsWhilePlaying) {
   turnWheel({0, kMiddle}, {0, 120});
   show(500000);
   EXPECT_EQ(view_.range().start(), 0);
