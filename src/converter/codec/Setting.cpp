@@ -8,7 +8,7 @@
 namespace converter {
 namespace {
 
-/// The code that the value stands for: truncated toward zero and clamped to 0...`highest`.
+/// The code that the value stands for, by truncation toward zero, moved into 0 to `highest`.
 std::uint32_t codeOf(float value, std::uint32_t highest) {
   if (!(value > 0)) return 0;
   return static_cast<std::uint32_t>(std::min(value, static_cast<float>(highest)));
@@ -63,7 +63,7 @@ std::uint32_t highestPeak(Format format, const UnitFormat& unit) {
   return format != Format::lc && coreOf(format, unit).channels == 1 ? 224000 : 320000;
 }
 
-/// Maps the qualities 0 to 127 evenly to the five modes.
+/// The five modes share the qualities 0 to 127 evenly.
 std::uint8_t vbrModeOf(float quality) {
   return static_cast<std::uint8_t>(1 + codeOf(quality, 127) * 5 / 128);
 }

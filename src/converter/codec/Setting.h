@@ -11,7 +11,8 @@ namespace converter {
 enum class Format : std::uint8_t { lc, he, heV2 };
 enum class Strategy : std::uint8_t { abr, constrainedVbr, vbr };
 
-/// A setting that the encoder can carry out. Aligned so that threads can exchange it as one word.
+/// One way to run the encoder; always one that it can do. Aligned so that threads can exchange it
+/// as one word.
 struct alignas(8) Setting {
   /// bit/s. `abr`: the target. `constrainedVbr`: the peak rate. `vbr`: 0.
   std::uint32_t bitRate = 0;
@@ -26,7 +27,7 @@ struct alignas(8) Setting {
 };
 static_assert(sizeof(Setting) == 8 && std::atomic<Setting>::is_always_lock_free);
 
-/// The unit's three parameters, exactly as written.
+/// The unit's three parameters as they were written.
 struct ParameterValues {
   float format = 0;
   float strategy = 0;
@@ -44,9 +45,9 @@ struct EncoderAbilities {
 /// Highest format available: `heV2` in stereo, `he` in mono, `lc` without high efficiency.
 Format highestFormat(const EncoderAbilities& abilities, UInt32 channels);
 
-/// The setting nearest to the parameters that the encoder can carry out. Values out of range are
-/// clamped to the nearest code, and NaN to 0; a rate that the format cannot do at this sample rate
-/// becomes the nearest that it can.
+/// The setting nearest to the parameters that the encoder can do. Values outside their codes, and
+/// those that are no number, become the nearest code; a rate outside what the format can do at this
+/// sample rate becomes the nearest rate inside.
 Setting nearestSetting(const ParameterValues& values, const UnitFormat& unit,
                        const EncoderAbilities& abilities);
 

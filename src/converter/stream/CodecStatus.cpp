@@ -21,7 +21,7 @@ BitRate CodecStatus::bitRate() const {
   return std::bit_cast<BitRate>(bitRate_.load(std::memory_order_relaxed));
 }
 
-Setting CodecStatus::settingUsedFor(const Setting& asked) const {
+Setting CodecStatus::carrying(const Setting& asked) const {
   const bool isRefused = carriesAnother_.load(std::memory_order_acquire) &&
                          refused_.load(std::memory_order_relaxed) == asked;
   return isRefused ? inUse_.load(std::memory_order_relaxed) : asked;

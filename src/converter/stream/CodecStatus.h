@@ -17,7 +17,7 @@ class CodecStatus {
 
   /// The setting used for `asked`: `asked` itself, unless no codec could be opened for it and the
   /// one before goes on.
-  Setting settingUsedFor(const Setting& asked) const;
+  Setting carrying(const Setting& asked) const;
 
  private:
   /// A `BitRate`, whose own alignment is too small for one atomic word.

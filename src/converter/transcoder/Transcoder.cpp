@@ -77,7 +77,7 @@ std::unique_ptr<CodecPair> Transcoder::openPair(const Setting& setting, Position
 }
 
 /// Keeps the old pair when the new one cannot be opened.
-void Transcoder::startFade(const SettingChange& change) {
+void Transcoder::beginFade(const SettingChange& change) {
   auto to = openPair(change.setting, change.position);
   if (!to) return;
   pair_->detachBitStreamSink();
@@ -97,7 +97,7 @@ UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encod
     fade_.reset();
   }
   if (!fade_ && !changes_.empty() && changes_.front().position <= position) {
-    startFade(changes_.front());
+    beginFade(changes_.front());
     changes_.pop_front();
   }
   Position until = end;

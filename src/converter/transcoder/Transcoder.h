@@ -30,7 +30,7 @@ class Transcoder final : public BlockTranscoder {
   void restart(const SourceBlock& source);
   std::unique_ptr<CodecPair> openPair(const Setting& setting, Position start);
   void takeFailures();
-  void startFade(const SettingChange& change);
+  void beginFade(const SettingChange& change);
   UInt32 renderStep(Position position, Position end, AudioBlock& encoded);
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
 

@@ -103,7 +103,7 @@ void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element
     case velk::kConverterProperty_ListeningTestActive:
       return put(data, listeningTestActive_);
     case kConverterProperty_EffectiveSetting:
-      return put(data, effectiveSetting(renderer_.codec().settingUsedFor(parameters_.setting())));
+      return put(data, effectiveSetting(renderer_.codec().carrying(parameters_.setting())));
     case kConverterProperty_BitRate:
       return put(data, renderer_.codec().bitRate());
     case kConverterProperty_MissedFrames:

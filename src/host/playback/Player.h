@@ -90,8 +90,7 @@ class Player : public BlockRenderer {
   /// frames as history for codec and meters, and the unit's latency.
   void runUpTo(std::int64_t leadIn);
   void setUnitFlag(AudioUnitPropertyID flag, bool on);
-  /// Renders up to `frames` frames at `offset`; fewer if the source cannot keep up or has ended.
-  /// Returns the number.
+  /// Renders up to `frames` frames at the offset; fewer when the source is behind.
   std::uint32_t renderSound(float* const* planes, std::uint32_t offset,
                             std::uint32_t frames) noexcept;
   void feedUnit(const float* interleaved, std::size_t got, float* const* output,

@@ -105,7 +105,7 @@ RtAudioOutput::~RtAudioOutput() {
   try {
     if (audio_.isStreamOpen()) audio_.closeStream();
   } catch (const RtAudioError&) {
-    // The device has already disappeared.
+    // The device has gone already.
     failed_ = true;
   }
   openOutput = nullptr;

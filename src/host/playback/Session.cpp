@@ -37,7 +37,7 @@ void Session::load(OpenedFile file) {
   truncated_ = std::move(file.truncated);
   player_ = std::make_unique<Player>(*unit_, kMaximumFrames, std::move(file.source));
   player_->setTap(tap_);
-  // The readings belong to the other file.
+  // What was read of the other file says nothing about this one.
   const UInt32 reset = 1;
   unit_->setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global, 0, &reset,
                      sizeof reset);

@@ -60,7 +60,7 @@ std::filesystem::path resolve(const std::filesystem::path& path) {
   return std::filesystem::weakly_canonical(std::filesystem::absolute(path, error), error);
 }
 
-bool parseMonitor(const std::string& word) {
+bool monitorsSource(const std::string& word) {
   if (word == "source") return true;
   if (word == "encoded") return false;
   throw UsageError("bad --monitor '" + word + "': give source or encoded");
@@ -131,7 +131,7 @@ std::variant<AuditionOptions, HelpText> parseAuditionArguments(int argc, const c
                  "The channels to play of a file that has more than two, numbered from 1")
       ->type_name("L,R");
   if (const auto text = parseArguments(app, argc, argv)) return *text;
-  if (monitor) options.monitorsSource = parseMonitor(*monitor);
+  if (monitor) options.monitorsSource = monitorsSource(*monitor);
   if (preset) options.preset = presetIndex(*preset);
   if (channels) options.channels = parsedChannelChoice(*channels);
   if (setting) options.setting = parsedEncoderSetting(*setting);
