@@ -4,7 +4,7 @@
 
 #include "skins/appkit/AppKitView.h"
 #include "skins/appkit/AudioUnitPump.h"
-#include "skins/appkit/Captions.h"
+#include "skins/appkit/CaptionTranslation.h"
 #include "skins/appkit/Exceptions.h"
 #include "skins/appkit/LevelFormatter.h"
 #include "skins/appkit/Segments.h"

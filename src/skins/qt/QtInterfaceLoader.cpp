@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "skins/qt/AudioUnitPump.h"
-#include "skins/qt/Captions.h"
+#include "skins/qt/CaptionTranslation.h"
 #include "skins/qt/Form.h"
 #include "skins/qt/ViewServices.h"
 #include "skins/qt/Wiring.h"

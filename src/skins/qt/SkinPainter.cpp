@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 
 namespace ui::qt {
 

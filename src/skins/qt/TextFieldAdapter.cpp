@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <utility>
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "ui/Bundle.h"
 #include "ui/Localization.h"
 

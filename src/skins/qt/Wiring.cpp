@@ -4,7 +4,7 @@
 #include <QVariant>
 #include <string>
 
-#include "skins/qt/Adapters.h"
+#include "skins/qt/AdapterFactory.h"
 #include "skins/qt/PopUpButtonAdapter.h"
 #include "skins/qt/QtView.h"
 #include "ui/DeclaredConnections.h"

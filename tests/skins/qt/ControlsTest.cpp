@@ -17,7 +17,7 @@
 #include "skins/qt/Mouse.h"
 #include "skins/qt/PopUpBox.h"
 #include "skins/qt/PopUpButtonAdapter.h"
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SegmentedControlAdapter.h"
 #include "skins/qt/SliderAdapter.h"
 #include "skins/qt/TextFieldAdapter.h"

@@ -19,7 +19,7 @@
 
 #include "skins/qt/Host.h"
 #include "skins/qt/Lamp.h"
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SegmentedControlAdapter.h"
 #include "skins/qt/SkinStyle.h"
 #include "skins/qt/Tour.h"

@@ -19,7 +19,7 @@
 #include "skins/qt/Keys.h"
 #include "skins/qt/Lamp.h"
 #include "skins/qt/Mouse.h"
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SegmentedControlAdapter.h"
 #include "view/behaviour/Stage.h"
 #include "view/fakes/BoundView.h"

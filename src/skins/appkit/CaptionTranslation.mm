@@ -1,4 +1,4 @@
-#include "skins/appkit/Captions.h"
+#include "skins/appkit/CaptionTranslation.h"
 
 #include "skins/appkit/Strings.h"
 #include "skins/appkit/ViewTree.h"

@@ -1,4 +1,4 @@
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 
 namespace ui::qt {
 

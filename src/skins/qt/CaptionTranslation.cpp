@@ -1,4 +1,4 @@
-#include "skins/qt/Captions.h"
+#include "skins/qt/CaptionTranslation.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

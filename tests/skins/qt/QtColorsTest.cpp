@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SkinColors.h"
 
 namespace {
