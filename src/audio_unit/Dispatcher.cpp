@@ -79,7 +79,7 @@ std::optional<Dispatcher::TimePoint> Dispatcher::pump(TimePoint now) {
     throw;
   }
   // With the outbox empty, nothing refers to these registrations.
-  std::erase_if(registrations_, [](const auto& each) { return each->isEnded(); });
+  std::erase_if(registrations_, [](const auto& each) { return each->isUnitGone(); });
   return nextDue(now);
 }
 
@@ -108,7 +108,7 @@ void Dispatcher::receive(const ChangeQueue::Entry& entry, std::vector<Delivery>&
   const Change& change = entry.change;
   for (const auto& pointer : registrations_) {
     Registration& registration = *pointer;
-    if (registration.isEnded() || registration.unit->serial != change.unitSerial ||
+    if (registration.isUnitGone() || registration.unit->serial != change.unitSerial ||
         entry.ticket < registration.firstTicket || !isSameEvent(registration.event, change.event)) {
       continue;
     }
@@ -131,7 +131,7 @@ void Dispatcher::receive(const ChangeQueue::Entry& entry, std::vector<Delivery>&
 void Dispatcher::announceEverything(TimePoint now, UInt64 end, std::vector<Delivery>& batch) {
   for (const auto& pointer : registrations_) {
     Registration& registration = *pointer;
-    if (registration.isEnded()) continue;
+    if (registration.isUnitGone()) continue;
     switch (registration.event.mEventType) {
       case kAudioUnitEvent_ParameterValueChange: {
         const AudioUnitParameter& parameter = registration.event.mArgument.mParameter;
@@ -163,7 +163,7 @@ void Dispatcher::deliver(const Delivery& delivery, TimePoint now) {
   Registration& registration = *delivery.registration;
   UInt64 time = delivery.hostTime;
   AudioUnitParameterValue value = 0;
-  if (registration.isEnded()) return;
+  if (registration.isUnitGone()) return;
   if (registration.isForValues()) {
     registration.valueState = Registration::ValueState::Quiet;
     registration.lastCallback = now;

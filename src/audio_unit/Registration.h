@@ -29,8 +29,8 @@ struct Registration {
   UInt64 valueTicket = 0;
   std::optional<RunLoop::TimePoint> lastCallback{};
 
-  /// Whether the unit is gone.
-  bool isEnded() const { return !unit->isAlive.load(std::memory_order_acquire); }
+  /// Whether the unit has been destroyed, which ends the registration.
+  bool isUnitGone() const { return !unit->isAlive.load(std::memory_order_acquire); }
   bool isForValues() const { return event.mEventType == kAudioUnitEvent_ParameterValueChange; }
   /// When a waiting value may be delivered; nothing means at once.
   std::optional<RunLoop::TimePoint> valueDue() const {
