@@ -21,7 +21,7 @@ class CaptionClick final : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonPress) {
-      // Taken, so that the release comes here too.
+      // Accept the press so that the release comes here too.
       return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
     }
     if (event->type() != QEvent::MouseButtonRelease) {

@@ -8,9 +8,9 @@ class Bundle;
 
 namespace ui::qt {
 
-/// Looks every caption up in the bundle's strings table that the widget and those within it show or
-/// have read out: texts, titles, tabs, menu items, tool tips, and accessible names part by part, as
-/// commas separate them.
+/// Replaces every caption of the widget and its children by its entry in the bundle's strings
+/// table: texts, titles, tabs, menu items, tool tips and accessible names. The comma-separated
+/// parts of an accessible name are looked up one by one.
 void translateCaptions(QWidget& widget, const Bundle& bundle);
 
 }  // namespace ui::qt

@@ -7,8 +7,9 @@
 
 namespace ui::qt {
 
-/// A row of checkable buttons of which one at most is on: the buttons directly in a widget, in the
-/// order of its layout. The left and right arrow keys go from one to the next and select it.
+/// A row of checkable buttons, at most one of which is on. Its segments are the buttons in the
+/// widget's own layout. The left and right arrow keys move to the neighbouring segment and select
+/// it.
 class SegmentedControlAdapter final : public QObject,
                                       public Adapter<SegmentedControl, QWidget>,
                                       public ActionSource {
@@ -29,7 +30,7 @@ class SegmentedControlAdapter final : public QObject,
   Action action_;
 };
 
-/// The buttons directly in the widget, in the order of its layout.
+/// The buttons in the widget's own layout, in order.
 std::vector<QAbstractButton*> segmentsOf(const QWidget& widget);
 
 }  // namespace ui::qt
