@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::string_view kViewName = "view";
 
-/// The objects at the top of the file.
+/// Loads the file and returns its top-level objects, autoreleased.
 NSArray* instantiate(NSBundle* bundle, std::string_view name, id owner) {
   NSArray* objects = nil;
   BOOL loaded = NO;
@@ -41,13 +41,13 @@ NSArray* instantiate(NSBundle* bundle, std::string_view name, id owner) {
     throw InterfaceError("is missing or cannot be read");
   }
 #ifdef GNUSTEP
-  // Here each of them is the caller's besides.
+  // GNUstep gives the caller a reference to each of them as well.
   [objects makeObjectsPerformSelector:@selector(release)];
 #endif
   return objects;
 }
 
-/// What the file holds for one of the core's objects.
+/// The file's object for the core's object of that name.
 id objectNamed(const std::string& name, Velk_View* view) {
   if (name == kViewName) {
     return view;
@@ -59,7 +59,7 @@ id objectNamed(const std::string& name, Velk_View* view) {
   return object;
 }
 
-/// Gives the file's formatters what they need, and shows the levels that the file sets.
+/// Sets up the file's level formatters and shows the levels that the file contains.
 void showLevels(NSArray* topLevelObjects, const LevelText& levelText) {
   forEachViewOf(topLevelObjects, [&](NSView* view) {
     if (![view isKindOfClass:[NSTextField class]]) {
