@@ -25,7 +25,7 @@ NSArray* instantiate(NSBundle* bundle, std::string_view name, id owner) {
   NSArray* objects = nil;
   BOOL loaded = NO;
   NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-  NSException* exception = exceptionOf([&] {
+  NSException* exception = catchException([&] {
     NSNib* nib = [[[NSNib alloc] initWithNibNamed:nsString(name) bundle:bundle] autorelease];
     loaded = nib != nil && [nib instantiateWithOwner:owner topLevelObjects:&objects];
   });

@@ -62,8 +62,8 @@ Representatives& representatives() {
   return all;
 }
 
-/// What an observer has thrown during the innermost post. It is kept here because a C++ exception
-/// must not pass through NSNotificationCenter.
+/// What an observer has thrown during the innermost post. It has to pass the centre by: that is not
+/// made for exceptions of C++.
 std::exception_ptr& failure() {
   static std::exception_ptr exception;
   return exception;

@@ -14,7 +14,7 @@ bool writeMacRoman(const std::filesystem::path& file, std::string_view utf8) {
   }
   NSURL* url = [NSURL fileURLWithPath:nsString(file.string())];
   BOOL written = NO;
-  NSException* exception = exceptionOf([&] {
+  NSException* exception = catchException([&] {
     written = [text writeToURL:url
                     atomically:YES
                       encoding:NSMacOSRomanStringEncoding

@@ -75,7 +75,7 @@ class ConnectedObject final : public InterfaceObject {
     }
     for (const Connections::NamedAction& action : declared_->actions()) {
       if (action.selector == selector) {
-        // Call a copy, because the action may destroy this object.
+        // What it does may destroy this object and the place where it is kept.
         const Action work = action.action;
         Object* const control = controls_->control(sender);
         guarded([&] { work(control); });

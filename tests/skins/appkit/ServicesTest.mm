@@ -169,7 +169,7 @@ TEST(NotificationCenter, LetsAnExceptionOfAnObserverReachWhoeverPosted) {
   });
 }
 
-TEST(RunLoop, FiresATimerRepeatedlyAndDoesDeferredWorkOnce) {
+TEST(RunLoop, FiresATimerAgainAndAgainAndLaterWorkOnce) {
   ui::appkit::AppKitRunLoop loop;
   std::unique_ptr<ui::Timer> timer;
   std::unique_ptr<ui::Deferred> later;
