@@ -50,7 +50,7 @@ void connectCaptionClicks(QWidget& view) {
     auto* button = view.findChild<QAbstractButton*>(name);
     if (button == nullptr) {
       throw InterfaceError("widget \"" + caption->objectName().toStdString() +
-                           "\" stands for a button that is not there: \"" + name.toStdString() +
+                           "\" clicks a button that does not exist: \"" + name.toStdString() +
                            "\"");
     }
     new CaptionClick(*caption, *button);

@@ -85,7 +85,7 @@ void requireValidGridPlace(std::string_view item) {
     int place = -1;
     const auto read = std::from_chars(value.data(), value.data() + value.size(), place);
     if (read.ec != std::errc() || place < 0 || place > kMaxPlace) {
-      throw InterfaceError("no grid has the place \"" + std::string(value) + "\"");
+      throw InterfaceError("\"" + std::string(value) + "\" is not a place in a grid");
     }
   }
 }
@@ -123,7 +123,7 @@ std::unique_ptr<QWidget> readWidgets(const std::filesystem::path& path, QStyle& 
 std::unique_ptr<QtView> extractView(QWidget& top) {
   auto* pages = qobject_cast<QStackedWidget*>(&top);
   if (pages == nullptr) {
-    throw InterfaceError("its top widget is no QStackedWidget");
+    throw InterfaceError("its top widget is not a QStackedWidget");
   }
   QtView* view = nullptr;
   std::vector<SheetDialog*> sheets;
@@ -135,7 +135,7 @@ std::unique_ptr<QtView> extractView(QWidget& top) {
       sheets.push_back(sheet);
     } else {
       throw InterfaceError("page \"" + page->objectName().toStdString() +
-                           "\" is neither its one view nor a sheet");
+                           "\" is neither the one view nor a sheet");
     }
   }
   if (view == nullptr) {

@@ -75,7 +75,7 @@ class Wiring {
   void connectItems(const QStringList& names, Object& control) const {
     auto* popUp = dynamic_cast<PopUpButton*>(&control);
     if (!names.isEmpty() && (popUp == nullptr || names.size() > popUp->numberOfItems())) {
-      throw InterfaceError("it has fewer menu items than actions for them");
+      throw InterfaceError("it has fewer menu items than item actions");
     }
     for (int index = 0; index < names.size(); ++index) {
       if (!names[index].isEmpty()) {

@@ -149,7 +149,7 @@ TEST(InterfaceFile, ConnectsOnlyWhatTheViewsClassesHave) {
         classes[element["id"]] = element["customClass"];
       }
       if (!element["id"].empty()) {
-        EXPECT_TRUE(ids.insert(element["id"]).second) << element["id"] << " stands twice";
+        EXPECT_TRUE(ids.insert(element["id"]).second) << element["id"] << " occurs twice";
       }
     });
     int actions = 0;

@@ -55,7 +55,7 @@ TEST(OpeningAndClosingViews, AccumulatesNoMemory) {
   if (kMeasures) {
     const double perView =
         (static_cast<double>(after) - static_cast<double>(before)) / static_cast<double>(times);
-    EXPECT_LT(perView, 256.0) << "bytes a view";
+    EXPECT_LT(perView, 256.0) << "bytes per view";
   }
   EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }

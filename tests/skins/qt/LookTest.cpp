@@ -65,7 +65,7 @@ void expectNothingClipped(const QWidget& top) {
     const std::string name = widget->objectName().toStdString();
     const QSize needed = textSize(*widget);
     EXPECT_GE(widget->width(), needed.width()) << name << " is too narrow";
-    EXPECT_GE(widget->height(), needed.height()) << name << " is too low";
+    EXPECT_GE(widget->height(), needed.height()) << name << " is not tall enough";
     EXPECT_TRUE(top.rect().contains(placeIn(top, *widget)))
         << name << " sticks out of " << top.objectName().toStdString();
   }

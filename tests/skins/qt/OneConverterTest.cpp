@@ -267,7 +267,7 @@ TEST_F(OneConverter, RefreshesAMenuAtMostOncePerFiftyMillisecondsInABurst) {
     outsideSets(velk::kConverterParam_RateQuality, static_cast<float>(quality));
   }
   settle();
-  EXPECT_EQ(refreshes, 1) << "all at one time";
+  EXPECT_EQ(refreshes, 1) << "all changes came at once";
   EXPECT_EQ(menu(*first_).currentText(), "AAC VBR Quality: 2999");
 }
 
