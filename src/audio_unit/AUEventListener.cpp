@@ -21,8 +21,7 @@ bool isInterval(Float32 seconds) {
   return seconds >= 0 && seconds <= kLongestInterval;
 }
 
-/// Rounded to the microsecond: 0.05 as a 32-bit float is 50 ms, not a fraction of a nanosecond
-/// more.
+/// Rounded to the microsecond, so that 0.05 as a 32-bit float is exactly 50 ms.
 std::chrono::microseconds toMicroseconds(Float32 seconds) {
   return std::chrono::microseconds(std::llround(static_cast<double>(seconds) * 1e6));
 }

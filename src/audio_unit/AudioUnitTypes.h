@@ -4,8 +4,7 @@
 
 #include "audio_unit/CoreFoundation.h"
 
-/// Types, structures and constants under the framework's names, as its documentation describes
-/// them.
+/// Types, structures and constants with the framework's documented names and meanings.
 
 using UInt32 = std::uint32_t;
 using SInt32 = std::int32_t;

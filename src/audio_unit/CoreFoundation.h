@@ -20,7 +20,7 @@ using CFArrayRef = const audio_unit::PointerArray*;
 using CFRunLoopRef = audio_unit::RunLoop*;
 
 /// Makes a string with a copy of the UTF-8 characters; the caller owns one reference. Null for
-/// null.
+/// null characters.
 AUDIO_UNIT_EXPORT CFStringRef CFStringCreateWithUTF8(const char* characters);
 /// The string as UTF-8, valid as long as the string lives. Null for null.
 AUDIO_UNIT_EXPORT const char* CFStringGetUTF8Ptr(CFStringRef text);

@@ -8,8 +8,7 @@ namespace audio_unit {
 
 class Dispatcher;
 
-/// A listener made by `AUEventListenerCreate`. Its registrations are kept by its run loop's
-/// dispatcher.
+/// A listener made by `AUEventListenerCreate`. Its run loop's dispatcher keeps its registrations.
 class EventListener {
  public:
   AUEventListenerProc proc;

@@ -21,8 +21,7 @@ class AUDIO_UNIT_EXPORT LoopPump {
   ~LoopPump();
 
   int descriptor() const { return descriptor_; }
-  /// Delivers what is due. Returns the time until the next waiting event is due, or nothing if none
-  /// is waiting.
+  /// Delivers what is due. Returns the time until the next waiting event is due, if there is one.
   std::optional<std::chrono::steady_clock::duration> pump();
 
  private:

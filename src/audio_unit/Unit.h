@@ -41,8 +41,7 @@ class AUDIO_UNIT_EXPORT Unit {
   const std::shared_ptr<UnitIdentity>& identity() const { return identity_; }
 
  protected:
-  // Announcing does not itself allocate, lock or block, so any thread may do it, including the
-  // audio thread.
+  // Announcing does not itself allocate, lock or block: any thread may do it, the audio thread too.
 
   /// Tells every listener that the parameter may have a new value or a new meaning. The value is
   /// read with `getParameter`; a parameter that cannot be read is not announced.

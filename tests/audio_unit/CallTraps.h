@@ -1,7 +1,6 @@
 #pragma once
 
-/// While an instance lives, counts the calling thread's calls of operator new, operator delete and
-/// pthread_mutex_lock.
+/// While an instance lives, counts the calling thread's allocations, frees and mutex locks.
 class CallTraps {
  public:
   struct Counts {

@@ -5,8 +5,7 @@
 
 #include "audio_unit/Unit.h"
 
-/// A unit with eight parameters and no properties. Any thread may use it; scope and element are
-/// ignored.
+/// A unit with eight parameters, at any scope and element, and no properties. Any thread.
 class FakeUnit : public audio_unit::Unit {
  public:
   using Unit::announceParameter;

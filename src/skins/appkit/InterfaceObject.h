@@ -30,8 +30,7 @@ class InterfaceObject {
 };
 
 /// Adds to the class a setter and a getter for every declared outlet and a method for every
-/// declared action. They forward to the instance's `interfaceObject`. Existing methods of the class
-/// stay.
+/// declared action, which forward to the instance's `interfaceObject`. Keeps existing methods.
 void addMethods(Class objectClass, const Connections& declared);
 
 }  // namespace ui::appkit

@@ -11,8 +11,7 @@
 
 namespace ui::qt {
 
-/// What views need from outside. `userEnvironment` returns the real one; a test may replace any
-/// member.
+/// What views need from outside. See `userEnvironment` for the real one; tests replace members.
 struct Environment {
   /// The folder that holds the interface file, the strings tables and the help pages.
   std::filesystem::path resources;
@@ -30,8 +29,7 @@ struct Environment {
 /// The user's languages and locale, Qt's event loop and the desktop's way of opening documents.
 Environment userEnvironment(std::filesystem::path resources);
 
-/// The language codes, such as "de", of locale names, such as "de-DE", in order and without
-/// duplicates.
+/// The language codes ("de") of locale names ("de-DE"), in order and without duplicates.
 std::vector<std::string> languageCodes(const std::vector<std::string>& locales);
 
 }  // namespace ui::qt

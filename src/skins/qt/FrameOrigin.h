@@ -13,8 +13,7 @@ namespace ui::qt {
 /// as drawn in the interface file.
 inline constexpr const char* kFrameOriginProperty = "frameOrigin";
 
-/// The value of `kFrameOriginProperty` or, without one, the lower left corner in the parent, y
-/// upwards.
+/// The value of `kFrameOriginProperty` or, without one, the lower left corner in the parent.
 Point frameOrigin(const QWidget& widget);
 /// Sets `kFrameOriginProperty`. A widget in a layout stays where the layout puts it.
 void setFrameOrigin(QWidget& widget, Point origin);

@@ -8,8 +8,7 @@
 namespace ui::qt {
 
 /// A row of checkable buttons, at most one of which is on. Its segments are the buttons in the
-/// widget's own layout. The left and right arrow keys move to the neighbouring segment and select
-/// it.
+/// widget's own layout. The left and right arrow keys select the neighbouring segment.
 class SegmentedControlAdapter final : public QObject,
                                       public Adapter<SegmentedControl, QWidget>,
                                       public ActionSource {

@@ -5,8 +5,7 @@
 namespace ui::qt {
 
 /// The look of the views: flat controls, tabs underlined in the accent colour, the system's
-/// palette. The metrics are the same on every desktop, so that a layout that fits on one fits on
-/// all.
+/// palette. The metrics are the same on every desktop: a layout that fits on one fits on all.
 ///
 /// A push button's dynamic property `look` may be "help" (a round button), "disclosure" (a triangle
 /// that points down while on), "firstSegment" or "lastSegment" (the touching halves of a pair).

@@ -2,8 +2,8 @@
 
 namespace appkit_test {
 
-/// The application object, set up so that it starts the same way everywhere. Make one, on the main
-/// thread.
+/// The application object, set up so that it starts the same way everywhere. Make only one, on the
+/// main thread.
 class Application {
  public:
   Application();

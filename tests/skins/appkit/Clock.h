@@ -2,8 +2,7 @@
 
 #include <chrono>
 
-/// The clocks of the whole process: those of the standard library as well as the toolkit's dates
-/// and timers.
+/// The clocks of the whole process: the standard library's and the toolkit's dates and timers.
 namespace appkit_test {
 
 using Moment = std::chrono::steady_clock::time_point;

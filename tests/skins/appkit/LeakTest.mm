@@ -15,8 +15,7 @@
 #include "skins/appkit/MainThread.h"
 #include "view/fakes/FakeConverter.h"
 
-// The toolkit's own count of its objects. Declared here because its header does not compile as
-// standard C++.
+// The toolkit's own count of its objects. Its header does not compile as standard C++.
 extern "C" {
 BOOL GSDebugAllocationActive(BOOL active);
 const char* GSDebugAllocationList(BOOL sinceLastList);

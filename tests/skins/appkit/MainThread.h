@@ -5,8 +5,8 @@
 
 /// Tests expect to go on while a sheet is open, but on GNUstep the call that shows one returns only
 /// when the sheet has ended. So tests run on a thread of their own, the script thread. Meanwhile
-/// the application's main thread stands still, in whichever of its loops it is, and works only on
-/// request.
+/// the application's main thread stands still, in whichever of its loops it is, and only does what
+/// it is asked to do.
 ///
 /// Time does not pass by itself anywhere in the process: where the application's run loop would
 /// wait, the clocks jump ahead.

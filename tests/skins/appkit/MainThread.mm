@@ -21,8 +21,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::nanoseconds;
 
-/// Polls the run loop's descriptors, waiting for at most that long. Returns whether one has an
-/// event.
+/// Polls the run loop's descriptors for at most that long. Returns whether one has an event.
 using Poll = std::function<bool(milliseconds)>;
 
 /// The time that each poll takes, so that polling repeatedly until some time also ends.
@@ -90,8 +89,7 @@ class Turns {
   }
 
   // Main thread.
-  /// Called where a run loop, of any kind, would wait. Returns whether the loop should look for
-  /// events.
+  /// Called where any run loop would wait. Returns whether that should look for events.
   bool wait(milliseconds time, const Poll& poll) {
     if (realSince_) {
       passWhatHasPassed();
@@ -161,8 +159,7 @@ class Turns {
     isServing_ = false;
   }
 
-  /// `work` returns whether the main thread keeps serving the script; otherwise the application
-  /// runs.
+  /// `work` returns whether the main thread stays with the script or lets the application run.
   void giveTurn(std::function<bool()> work) {
     const std::lock_guard lock(mutex_);
     work_ = std::move(work);

@@ -20,8 +20,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Runs Qt's event loop until the condition holds, for at most ten seconds. Returns whether it
-/// holds.
+/// Runs Qt's event loop for at most ten seconds. Returns whether the condition then holds.
 template <class Condition>
 bool turnUntil(Condition condition) {
   return QTest::qWaitFor(condition, 10000);

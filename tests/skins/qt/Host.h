@@ -30,8 +30,7 @@ struct HostOptions {
   fakes::FakeRunLoop* runLoop = nullptr;
 };
 
-/// A temporary copy of the bundle's resources, which a test may change. Lives as long as this
-/// object.
+/// A temporary copy of the bundle's resources, which a test may change.
 class ResourceFolder {
  public:
   ResourceFolder();

@@ -17,8 +17,7 @@
 #include "view/fakes/FakeConverter.h"
 #include "view/fakes/NotificationRecorder.h"
 
-/// Which view gets the keys: the focused one of two, and the view itself after any use of the
-/// mouse.
+/// Which view gets the keys: of two the focused one, and any view after the mouse was used in it.
 namespace {
 
 using namespace std::chrono_literals;

@@ -103,8 +103,7 @@ class PhysicalKeys : public testing::TestWithParam<Layout> {
     server->pressKey(key);
     EXPECT_TRUE(QTest::qWaitFor([&] { return posted_.names().size() >= wanted; }, kDeadline));
   }
-  /// Presses a key that must have no effect, and then a bound one: when that has arrived, so has
-  /// the first.
+  /// Presses a key that must have no effect, then a bound one, which can only arrive after it.
   void pressIneffective(unsigned key) {
     server->pressKey(key);
     press(kS, 1);
