@@ -16,17 +16,17 @@ using audio_unit::EventListener;
 
 constexpr Float32 kLongestInterval = 3600;
 
-/// Also false for a value that is not a number.
+/// False for NaN, too.
 bool isInterval(Float32 seconds) {
   return seconds >= 0 && seconds <= kLongestInterval;
 }
 
-/// To the microsecond, so that 0.05 as a 32-bit float is 50 ms and not a few nanoseconds more.
+/// Rounded to the microsecond, so that 0.05 as a 32-bit float is exactly 50 ms.
 std::chrono::microseconds toMicroseconds(Float32 seconds) {
   return std::chrono::microseconds(std::llround(static_cast<double>(seconds) * 1e6));
 }
 
-/// The unit that the event is about, or the error for an event that is about none.
+/// Gets the unit that the event concerns; an error if the event is malformed or names no unit.
 OSStatus findUnit(const AudioUnitEvent* event, AudioUnit& unit) {
   if (!event) return kAudio_ParamError;
   switch (event->mEventType) {

@@ -4,7 +4,7 @@
 
 #include "audio_unit/CoreFoundation.h"
 
-/// Types, records and constants under the framework's names, as its documentation describes them.
+/// Types, structures and constants with the framework's documented names and meanings.
 
 using UInt32 = std::uint32_t;
 using SInt32 = std::int32_t;
@@ -28,7 +28,7 @@ using AudioUnitParameterValue = Float32;
 
 enum : OSStatus {
   noErr = 0,
-  /// An argument that is missing or out of range.
+  /// An argument is missing or out of range.
   kAudio_ParamError = -50,
   kAudioUnitErr_InvalidProperty = -10879,
   kAudioUnitErr_InvalidParameter = -10878,

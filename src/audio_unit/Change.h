@@ -4,16 +4,17 @@
 
 namespace audio_unit {
 
-/// One change on its way to the listeners.
+/// A change on its way to the listeners.
 struct Change {
   AudioUnitEvent event;
-  /// Which unit it is about: unlike an address, a serial number is never used again.
+  /// Identifies the unit: unlike an address, a serial number is never reused.
   UInt64 unitSerial;
-  /// The new value of a parameter; 0 in every other event.
+  /// The parameter's new value; 0 if the event is not a value change.
   AudioUnitParameterValue value;
-  /// When it was made: steady clock, nanoseconds.
+  /// When the change was made: steady clock, nanoseconds.
   UInt64 hostTime;
-  /// Who is not to be called back. Only compared, for both may be gone by the time of delivery.
+  /// The sender, which is not called back. Only compared, never dereferenced: both may be gone by
+  /// the time of delivery.
   const EventListener* sendingListener;
   const void* sendingObject;
 };

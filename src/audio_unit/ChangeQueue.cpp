@@ -15,7 +15,7 @@ bool ChangeQueue::push(const Change& change) noexcept {
     Cell& place = cell(ticket);
     const UInt64 turn = place.turn.load(std::memory_order_acquire);
     if (turn == ticket) {
-      // Release, so that whoever reads `nextTicket` afterwards also sees what led to this change.
+      // Release: a thread that then reads `nextTicket` also sees everything done before this push.
       if (tail_.compare_exchange_weak(ticket, ticket + 1, std::memory_order_release,
                                       std::memory_order_relaxed)) {
         place.change = change;

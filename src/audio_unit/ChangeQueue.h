@@ -9,31 +9,31 @@
 
 namespace audio_unit {
 
-/// A bounded queue from any number of threads to one. Adding is lock-free and never allocates.
+/// A bounded queue with any number of writing threads and one reading thread. Pushing is lock-free
+/// and never allocates.
 ///
-/// Every cell carries the number of the round in which it may be written or read next, as in Dmitry
-/// Vyukov's bounded queue: a writer claims a place by advancing one counter, fills the cell and
-/// then marks it readable.
+/// As in Dmitry Vyukov's bounded queue, each cell holds the turn at which it may next be written or
+/// read: a writer claims a cell by advancing the tail, fills it and then marks it readable.
 class ChangeQueue {
  public:
   struct Entry {
     Change change;
-    /// Place in the order of all changes that this queue ever took.
+    /// Position among all changes this queue has ever taken.
     UInt64 ticket;
   };
 
-  /// `capacity` is a power of two.
+  /// `capacity` must be a power of two.
   explicit ChangeQueue(std::size_t capacity);
 
-  /// Any thread. False when the queue is full.
+  /// Returns false if the queue is full. Any thread.
   bool push(const Change& change) noexcept;
   /// The ticket that the next change will get. Any thread.
   UInt64 nextTicket() const noexcept { return tail_.load(std::memory_order_acquire); }
 
-  /// Takes the oldest change if its ticket is below `end` and its writer has finished. Reading
+  /// Takes the oldest change, if its ticket is below `end` and its writer has finished. Reading
   /// thread only.
   std::optional<Entry> pop(UInt64 end) noexcept;
-  /// Whether `pop` could take one. Reading thread only.
+  /// Whether `pop` could take a change. Reading thread only.
   bool isReadable() const noexcept;
 
  private:

@@ -8,7 +8,7 @@
 
 namespace audio_unit {
 
-/// Made with one reference; the last release destroys it.
+/// Starts with one reference; the last release destroys it.
 class CountedObject {
  public:
   CountedObject(const CountedObject&) = delete;

@@ -9,14 +9,14 @@
 namespace audio_unit {
 namespace {
 
-// The records of a parameter and of a property have the same fields.
+// A property's address has the same fields as a parameter's.
 AudioUnitParameter target(const AudioUnitEvent& event) {
   if (event.mEventType != kAudioUnitEvent_PropertyChange) return event.mArgument.mParameter;
   const AudioUnitProperty& property = event.mArgument.mProperty;
   return {property.mAudioUnit, property.mPropertyID, property.mScope, property.mElement};
 }
 
-// Which unit the events are about is for the serial number to say, not for its address.
+// Ignores the units: serial numbers tell those apart, since an address may be reused.
 bool isSameEvent(const AudioUnitEvent& a, const AudioUnitEvent& b) {
   const AudioUnitParameter first = target(a);
   const AudioUnitParameter second = target(b);
@@ -74,18 +74,18 @@ std::optional<Dispatcher::TimePoint> Dispatcher::pump(TimePoint now) {
       deliver(delivery, now);
     }
   } catch (...) {
-    // The caller learns no time for what is left: have it pump again.
+    // The caller gets no due time for what is left, so ask it to pump again.
     wakeUp().request();
     throw;
   }
-  // Nothing refers to a registration now that the outbox is empty.
-  std::erase_if(registrations_, [](const auto& each) { return each->isEnded(); });
+  // With the outbox empty, nothing refers to these registrations.
+  std::erase_if(registrations_, [](const auto& each) { return each->isUnitGone(); });
   return nextDue(now);
 }
 
 void Dispatcher::collect(TimePoint now) {
-  // Asked before the end is fixed: all that a thread queued before its change found no room is then
-  // below the end, and what is read from the units is newer than all of it.
+  // Read before `end`: whatever a thread queued before its overflowing change is then below `end`,
+  // and older than the values that are read from the units.
   const bool hasOverflowed = mailbox_.takeOverflow();
   const UInt64 end = mailbox_.nextTicket();
   std::vector<Delivery> batch;
@@ -108,7 +108,7 @@ void Dispatcher::receive(const ChangeQueue::Entry& entry, std::vector<Delivery>&
   const Change& change = entry.change;
   for (const auto& pointer : registrations_) {
     Registration& registration = *pointer;
-    if (registration.isEnded() || registration.unit->serial != change.unitSerial ||
+    if (registration.isUnitGone() || registration.unit->serial != change.unitSerial ||
         entry.ticket < registration.firstTicket || !isSameEvent(registration.event, change.event)) {
       continue;
     }
@@ -117,7 +117,7 @@ void Dispatcher::receive(const ChangeQueue::Entry& entry, std::vector<Delivery>&
       if (!isSender) batch.push_back({&registration, entry.ticket, change.hostTime});
       continue;
     }
-    // The sender's own change wakes nobody, but it is what somebody who is called anyway is told.
+    // The sender's own change causes no callback, but if one is pending it carries the new value.
     if (isSender && registration.valueState == Registration::ValueState::Quiet) continue;
     registration.value = change.value;
     registration.valueHostTime = change.hostTime;
@@ -131,7 +131,7 @@ void Dispatcher::receive(const ChangeQueue::Entry& entry, std::vector<Delivery>&
 void Dispatcher::announceEverything(TimePoint now, UInt64 end, std::vector<Delivery>& batch) {
   for (const auto& pointer : registrations_) {
     Registration& registration = *pointer;
-    if (registration.isEnded()) continue;
+    if (registration.isUnitGone()) continue;
     switch (registration.event.mEventType) {
       case kAudioUnitEvent_ParameterValueChange: {
         const AudioUnitParameter& parameter = registration.event.mArgument.mParameter;
@@ -142,7 +142,7 @@ void Dispatcher::announceEverything(TimePoint now, UInt64 end, std::vector<Deliv
         }
         registration.valueHostTime = hostTime(now);
         registration.valueTicket = end;
-        // A change whose writer is not through yet is older than the value just read.
+        // Ignore changes still being written: they are older than the value just read.
         registration.firstTicket = end;
         if (registration.valueState == Registration::ValueState::Quiet) {
           registration.valueState = Registration::ValueState::Waiting;
@@ -163,14 +163,14 @@ void Dispatcher::deliver(const Delivery& delivery, TimePoint now) {
   Registration& registration = *delivery.registration;
   UInt64 time = delivery.hostTime;
   AudioUnitParameterValue value = 0;
-  if (registration.isEnded()) return;
+  if (registration.isUnitGone()) return;
   if (registration.isForValues()) {
     registration.valueState = Registration::ValueState::Quiet;
     registration.lastCallback = now;
     time = registration.valueHostTime;
     value = registration.value;
   }
-  // The callback may dispose of the listener: neither it nor the registration is used afterwards.
+  // Copies, because the callback may dispose of the listener and its registrations.
   const EventListener listener = *registration.listener;
   const AudioUnitEvent event = registration.event;
   listener.proc(listener.userData, registration.object, &event, time, value);

@@ -12,8 +12,8 @@
 
 namespace audio_unit {
 
-/// The receiving side of a run loop: its listeners, what they are registered for, and the delivery
-/// of the changes in its mailbox. Used on the run loop's thread only.
+/// The receiving side of a run loop: keeps its listeners and their registrations, and delivers the
+/// changes in its mailbox. Used on the run loop's thread only.
 class Dispatcher {
  public:
   using TimePoint = RunLoop::TimePoint;
@@ -21,14 +21,15 @@ class Dispatcher {
   Dispatcher();
   Dispatcher(const Dispatcher&) = delete;
   Dispatcher& operator=(const Dispatcher&) = delete;
-  /// Listeners that are left hear nothing any more.
+  /// Remaining listeners receive nothing more; disposing of them later is safe.
   ~Dispatcher();
 
   void addListener(EventListener& listener);
   void removeListener(EventListener& listener);
-  /// The event names a living unit.
+  /// The event must name a living unit. Registering the same pair again has no effect.
   void addRegistration(EventListener& listener, void* object, const AudioUnitEvent& event);
 
+  /// See `RunLoop::pump`.
   std::optional<TimePoint> pump(TimePoint now);
 
   WakeUp& wakeUp() noexcept { return mailbox_.wakeUp(); }
@@ -37,7 +38,7 @@ class Dispatcher {
   struct Delivery {
     Registration* registration;
     UInt64 ticket;
-    /// Of a gesture or property event; a value's is with the registration.
+    /// For gesture and property events; a value's time is kept in its registration.
     UInt64 hostTime;
   };
 
@@ -49,10 +50,10 @@ class Dispatcher {
 
   Mailbox& mailbox_;
   std::vector<EventListener*> listeners_;
-  /// In the order in which they were made.
+  /// In order of registration.
   std::vector<std::unique_ptr<Registration>> registrations_;
   UInt64 registrationCount_ = 0;
-  /// Due and in order. Kept here, so that a pump inside a callback goes on where the outer one is.
+  /// What is due, in order. A member, so that a pump inside a callback continues the outer one.
   std::deque<Delivery> outbox_;
 };
 

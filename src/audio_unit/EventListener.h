@@ -8,13 +8,13 @@ namespace audio_unit {
 
 class Dispatcher;
 
-/// A listener as `AUEventListenerCreate` makes it. What it is registered for is in its run loop.
+/// A listener made by `AUEventListenerCreate`. Its run loop's dispatcher keeps its registrations.
 class EventListener {
  public:
   AUEventListenerProc proc;
   void* userData;
   std::chrono::microseconds notificationInterval;
-  /// Null once the run loop is gone: nothing arrives any more.
+  /// Null once the run loop is gone; nothing arrives then.
   Dispatcher* dispatcher;
 };
 

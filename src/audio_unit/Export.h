@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what the shared library offers.
+/// Marks the symbols that the shared library exports.
 #define AUDIO_UNIT_EXPORT __attribute__((visibility("default")))

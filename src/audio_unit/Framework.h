@@ -1,7 +1,7 @@
 #pragma once
 
-/// Everything that a view or a host uses of the Audio Unit framework: the system's own where it
-/// exists, this room's stand-in elsewhere.
+/// Everything a view or a host uses of the Audio Unit framework: the system's own on macOS, this
+/// library's replacement elsewhere.
 #ifdef __APPLE__
 #include <AudioToolbox/AudioToolbox.h>
 #include <CoreFoundation/CoreFoundation.h>

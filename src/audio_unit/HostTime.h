@@ -6,7 +6,7 @@
 
 namespace audio_unit {
 
-/// A time of the steady clock as listeners are told it: nanoseconds.
+/// A steady-clock time as listeners receive it, in nanoseconds.
 inline UInt64 hostTime(std::chrono::steady_clock::time_point time) {
   return static_cast<UInt64>(
       std::chrono::duration_cast<std::chrono::nanoseconds>(time.time_since_epoch()).count());

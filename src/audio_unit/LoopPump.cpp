@@ -17,7 +17,7 @@ LoopPump::LoopPump()
   if (descriptor_ < 0) {
     throw std::system_error(errno, std::generic_category(), "eventfd");
   }
-  // A counter that cannot be raised any further has been raised: nothing is lost.
+  // The write fails only if the counter is full, and then the descriptor is readable anyway.
   loop_.setWakeUp(
       [descriptor = descriptor_] { static_cast<void>(::eventfd_write(descriptor, 1)); });
 }

@@ -9,20 +9,19 @@ namespace audio_unit {
 
 class RunLoop;
 
-/// Joins the calling thread's run loop to a toolkit's event loop: that watches the descriptor, and
-/// pumps when it becomes readable and when the time has passed that the last pump gave. All on the
-/// loop's own thread.
+/// Connects the calling thread's run loop to a toolkit's event loop, which has to watch the
+/// descriptor and call `pump` when it becomes readable and when the time that the last pump
+/// returned has passed. Everything here happens on the loop's own thread.
 class AUDIO_UNIT_EXPORT LoopPump {
  public:
-  /// Throws `std::system_error` when the system gives no descriptor.
+  /// Takes the loop's wake-up. Throws `std::system_error` if no descriptor is available.
   LoopPump();
   LoopPump(const LoopPump&) = delete;
   LoopPump& operator=(const LoopPump&) = delete;
   ~LoopPump();
 
   int descriptor() const { return descriptor_; }
-  /// Delivers what is due. Returns how long the next waiting event can wait, or nothing when none
-  /// waits.
+  /// Delivers what is due. Returns the time until the next waiting event is due, if there is one.
   std::optional<std::chrono::steady_clock::duration> pump();
 
  private:

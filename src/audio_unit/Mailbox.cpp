@@ -3,7 +3,7 @@
 namespace audio_unit {
 namespace {
 
-// Never destroyed: a thread may still make changes while the process ends.
+// Mailboxes are never destroyed: a thread may still make changes while the process exits.
 constinit std::atomic<Mailbox*> firstMailbox{nullptr};
 
 }  // namespace

@@ -9,8 +9,8 @@
 
 namespace audio_unit {
 
-/// One object's interest in one event. Gesture and property events pass by; of a parameter's value
-/// the newest one is kept here until the listener may be called again.
+/// One object's interest in one event. Gesture and property events are delivered without passing
+/// through here; a parameter's newest value is kept here until the listener may be called again.
 struct Registration {
   enum class ValueState { Quiet, Waiting, Due };
 
@@ -18,9 +18,9 @@ struct Registration {
   void* object;
   AudioUnitEvent event;
   std::shared_ptr<const UnitIdentity> unit;
-  /// Place among the registrations of its run loop.
+  /// Position among the registrations of its run loop.
   UInt64 order;
-  /// Older changes do not concern it.
+  /// Changes with a lower ticket are ignored.
   UInt64 firstTicket;
 
   ValueState valueState = ValueState::Quiet;
@@ -29,10 +29,10 @@ struct Registration {
   UInt64 valueTicket = 0;
   std::optional<RunLoop::TimePoint> lastCallback{};
 
-  /// Whether the unit is gone.
-  bool isEnded() const { return !unit->isAlive.load(std::memory_order_acquire); }
+  /// Whether the unit has been destroyed, which ends the registration.
+  bool isUnitGone() const { return !unit->isAlive.load(std::memory_order_acquire); }
   bool isForValues() const { return event.mEventType == kAudioUnitEvent_ParameterValueChange; }
-  /// When a waiting value may be delivered; nothing stands for at once.
+  /// When a waiting value may be delivered; nothing means at once.
   std::optional<RunLoop::TimePoint> valueDue() const {
     if (!lastCallback) return std::nullopt;
     return *lastCallback + listener->notificationInterval;

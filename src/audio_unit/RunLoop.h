@@ -11,8 +11,9 @@ namespace audio_unit {
 
 class Dispatcher;
 
-/// A thread's run loop, as far as event listeners need one. It has no loop of its own: a toolkit's
-/// event loop, a tool or a test pumps it on its thread. `CFRunLoopGetCurrent` gives a thread's own.
+/// A thread's run loop, reduced to what event listeners need. It does not loop by itself: a
+/// toolkit's event loop, a tool or a test pumps it, on its own thread. `CFRunLoopGetCurrent`
+/// returns the calling thread's.
 class AUDIO_UNIT_EXPORT RunLoop {
  public:
   using TimePoint = std::chrono::steady_clock::time_point;
@@ -20,31 +21,31 @@ class AUDIO_UNIT_EXPORT RunLoop {
   RunLoop();
   RunLoop(const RunLoop&) = delete;
   RunLoop& operator=(const RunLoop&) = delete;
-  /// Not inside a callback. Listeners that are left hear nothing any more; disposing of them later
-  /// is safe.
+  /// Must not be called inside a callback. Remaining listeners receive nothing more; disposing of
+  /// them later is safe.
   ~RunLoop();
 
-  /// Delivers, on the calling thread, which has to be the loop's own, every event that is due at
-  /// `now`. An event that a callback causes waits for the next pump. Returns when the next waiting
-  /// event is due, or nothing when none waits.
+  /// Delivers every event that is due at `now`; call on the loop's own thread. An event that a
+  /// callback causes waits for the next pump. Returns when the next waiting event is due, or
+  /// nothing if none is waiting.
   ///
-  /// A callback may pump again (a modal loop does); that delivers what the outer pump has not yet
-  /// delivered, in order, before anything newer. An exception that a callback throws passes
-  /// through; the rest waits for the next pump, for which the wake-up is called.
+  /// A callback may pump again, as a modal loop does; the inner pump first delivers what the outer
+  /// one has not yet delivered, in order. If a callback throws, the exception propagates, the rest
+  /// waits for the next pump, and the wake-up is called to request that pump.
   std::optional<TimePoint> pump(TimePoint now);
 
-  /// Sets what is called, on whatever thread makes a change, when an event begins to wait in an
-  /// idle loop: once from then on until the next pump begins. It has to return at once, must not
-  /// throw, allocate, lock or block, and must not use this loop. If something waits already, it is
-  /// called before this returns. A null function removes it.
+  /// Sets the function that asks for a pump. It is called on whichever thread makes a change while
+  /// the loop has listeners, at most once until the next pump starts. It must return at once, must
+  /// not throw, allocate, lock or block, and must not use this loop. If a change is already
+  /// waiting, it is called before this returns. A null function removes it.
   ///
-  /// When this returns, nobody runs the former function any more and what it refers to may go.
-  /// Making a change never waits for this call. Call on the loop's own thread.
+  /// When this returns, the previous function is no longer running, so what it refers to may be
+  /// destroyed. Making a change never waits for this call. Call on the loop's own thread.
   void setWakeUp(std::function<void()> wakeUp);
-  /// Whether somebody pumps this loop already.
+  /// Whether a wake-up is set, which means that the loop already has someone to pump it.
   bool hasWakeUp() const;
 
-  /// For this library's own files.
+  /// For this library only.
   Dispatcher& dispatcher() { return *dispatcher_; }
 
  private:

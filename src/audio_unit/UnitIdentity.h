@@ -6,7 +6,7 @@
 
 namespace audio_unit {
 
-/// What registrations keep of a unit: it outlives the unit and tells whether that is still there.
+/// What registrations hold instead of a unit; it outlives the unit and knows whether that is alive.
 struct UnitIdentity {
   const UInt64 serial;
   std::atomic<bool> isAlive{true};

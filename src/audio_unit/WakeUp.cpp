@@ -6,9 +6,9 @@
 
 namespace audio_unit {
 
-// Every access is sequentially consistent: `request` writes `requested_` and reads `function_`
-// while `set` writes and reads them the other way round, and one of the two has to see the other's
-// write. The same holds for `callers_` and `function_`.
+// All accesses are sequentially consistent: `request` writes `requested_` and then reads
+// `function_`, `set` writes `function_` and then reads `requested_`, and at least one of them must
+// see the other's write. The same holds for `callers_` and `function_`.
 
 WakeUp::~WakeUp() {
   set(nullptr);

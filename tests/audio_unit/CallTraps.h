@@ -1,7 +1,6 @@
 #pragma once
 
-/// Counts what the calling thread does while one of these lives: allocations through operator new
-/// and operator delete, and locks of mutexes.
+/// While an instance lives, counts the calling thread's allocations, frees and mutex locks.
 class CallTraps {
  public:
   struct Counts {
@@ -16,6 +15,6 @@ class CallTraps {
   ~CallTraps();
 
   Counts counts() const;
-  /// The sanitizers that replace the thread library leave no place for a trap.
+  /// False in builds with a sanitizer that itself replaces the lock functions.
   static bool trapsLocks();
 };

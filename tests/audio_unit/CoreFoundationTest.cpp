@@ -71,7 +71,7 @@ TEST(CFArray, HasNothingOutsideItsBounds) {
   CFRelease(array);
 }
 
-TEST(CFArray, MayBeEmptyButNotOfMissingValues) {
+TEST(CFArray, MayBeEmptyButMustHaveItsValues) {
   const CFArrayRef empty = CFArrayCreateWithPointers(nullptr, 0);
   EXPECT_NE(empty, nullptr);
   EXPECT_EQ(CFArrayGetCount(empty), 0);

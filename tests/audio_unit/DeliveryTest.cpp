@@ -58,7 +58,7 @@ TEST_F(Delivery, DoesNotHoldGesturesAndPropertiesForTheInterval) {
   EXPECT_THAT(journal, ElementsAre("end 0", "property 5301"));
 }
 
-TEST_F(Delivery, HandsBackTheObjectTheEventAndItsValue) {
+TEST_F(Delivery, PassesBackTheObjectTheEventAndItsValue) {
   int object = 0;
   TestListener listener(loop, journal);
   listener.listenTo(
@@ -80,7 +80,7 @@ TEST_F(Delivery, HandsBackTheObjectTheEventAndItsValue) {
   EXPECT_EQ(received.value, 9.5F);
 }
 
-TEST_F(Delivery, TellsTheSteadyClocksTimeOfTheNewestChange) {
+TEST_F(Delivery, GivesTheSteadyClockTimeOfTheNewestChange) {
   using Clock = std::chrono::steady_clock;
   const auto now = [] {
     return static_cast<UInt64>(std::chrono::nanoseconds(Clock::now().time_since_epoch()).count());
@@ -121,7 +121,7 @@ TEST_F(Delivery, LeavesAnEventThatACallbackCausesToTheNextPump) {
   EXPECT_THAT(journal, ElementsAre("property 5301", "property 5303"));
 }
 
-TEST_F(Delivery, EndsThoughEveryCallbackCausesAnotherEvent) {
+TEST_F(Delivery, EndsEvenIfEveryCallbackCausesAnotherEvent) {
   TestListener listener(loop, journal);
   listener.listenTo(propertyOf(&unit, 5301));
   listener.onCall = [&](const Call&) { notify(propertyOf(&unit, 5301)); };
@@ -131,7 +131,7 @@ TEST_F(Delivery, EndsThoughEveryCallbackCausesAnotherEvent) {
   EXPECT_EQ(journal.size(), 3U);
 }
 
-TEST_F(Delivery, GoesOnInOrderWhenACallbackPumps) {
+TEST_F(Delivery, ContinuesInOrderWhenACallbackPumps) {
   TestListener listener(loop, journal);
   for (UInt32 id : {1U, 2U, 3U}) listener.listenTo(propertyOf(&unit, id));
   listener.onCall = [&](const Call&) {
@@ -230,7 +230,7 @@ TEST_F(Delivery, AnnouncesNoValueThatCannotBeRead) {
   EXPECT_THAT(journal, IsEmpty());
 }
 
-TEST_F(Delivery, RefusesAnEventWithoutAUnitOrOfNoKnownType) {
+TEST_F(Delivery, RefusesAnEventWithoutAUnitOrOfAnUnknownType) {
   EXPECT_EQ(AUEventListenerNotify(nullptr, nullptr, nullptr), kAudio_ParamError);
   EXPECT_EQ(notify(valueOf(nullptr, 0)), kAudioUnitErr_InvalidElement);
   EXPECT_EQ(notify(propertyOf(nullptr, 0)), kAudioUnitErr_InvalidElement);

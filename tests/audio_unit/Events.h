@@ -5,7 +5,7 @@
 #include "FakeUnit.h"
 #include "audio_unit/Framework.h"
 
-// Short ways to write events down and to read them in an expectation.
+// Short ways to make events and to describe them in expectations.
 
 inline AudioUnitEvent parameterEvent(AudioUnitEventType type, AudioUnit unit,
                                      AudioUnitParameterID id,

@@ -5,14 +5,14 @@
 
 #include "audio_unit/Unit.h"
 
-/// A unit with eight parameters on the global scope, element 0, which any thread may use.
+/// A unit with eight parameters, at any scope and element, and no properties. Any thread.
 class FakeUnit : public audio_unit::Unit {
  public:
   using Unit::announceParameter;
   using Unit::announceProperty;
 
   std::array<std::atomic<float>, 8> values{};
-  /// What every read and write of a parameter returns; an error does nothing else.
+  /// What every read and write of a parameter returns. With an error nothing is read or written.
   std::atomic<OSStatus> status{noErr};
   std::atomic<int> reads{0};
 

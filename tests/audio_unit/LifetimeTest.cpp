@@ -52,7 +52,7 @@ TEST_F(Lifetime, AListenerMayDisposeOfAnotherInItsCallback) {
   EXPECT_THAT(journal, ElementsAre("killer: value 0 = 1", "last: value 0 = 1"));
 }
 
-TEST_F(Lifetime, DisposeTakesBackWhatANestedPumpFinds) {
+TEST_F(Lifetime, DisposeWithdrawsWhatANestedPumpWouldDeliver) {
   TestListener outer(loop, journal, "outer");
   TestListener inner(loop, journal, "inner");
   outer.listenTo(propertyOf(&unit, 1));
@@ -66,7 +66,7 @@ TEST_F(Lifetime, DisposeTakesBackWhatANestedPumpFinds) {
   EXPECT_THAT(journal, ElementsAre("outer: property 1"));
 }
 
-TEST_F(Lifetime, AListenerMadeAfterTheLastOneEndedHearsNoFormerChange) {
+TEST_F(Lifetime, AListenerMadeAfterTheLastOneWasDisposedOfHearsNoEarlierChange) {
   auto listener = std::make_unique<TestListener>(loop, journal, "former");
   listener->listenTo(valueOf(&unit, 0));
   set(&unit, 0, 1);
@@ -80,7 +80,7 @@ TEST_F(Lifetime, AListenerMadeAfterTheLastOneEndedHearsNoFormerChange) {
   EXPECT_THAT(journal, ElementsAre("next: value 0 = 2"));
 }
 
-TEST_F(Lifetime, AUnitsEndWithdrawsItsQueuedEvents) {
+TEST_F(Lifetime, DestroyingAUnitWithdrawsItsQueuedEvents) {
   auto dying = std::make_unique<FakeUnit>();
   TestListener listener(loop, journal);
   listener.listenTo(valueOf(dying.get(), 0));
@@ -94,7 +94,7 @@ TEST_F(Lifetime, AUnitsEndWithdrawsItsQueuedEvents) {
   EXPECT_THAT(journal, ElementsAre("property 2"));
 }
 
-TEST_F(Lifetime, AUnitsEndWithdrawsAValueThatWaitsForItsInterval) {
+TEST_F(Lifetime, DestroyingAUnitWithdrawsAValueThatWaitsForItsInterval) {
   auto dying = std::make_unique<FakeUnit>();
   TestListener listener(loop, journal);
   listener.listenTo(valueOf(dying.get(), 0));
@@ -108,7 +108,7 @@ TEST_F(Lifetime, AUnitsEndWithdrawsAValueThatWaitsForItsInterval) {
   EXPECT_THAT(journal, ElementsAre("value 0 = 1"));
 }
 
-TEST_F(Lifetime, AUnitMayEndInsideACallback) {
+TEST_F(Lifetime, AUnitMayBeDestroyedInsideACallback) {
   auto dying = std::make_unique<FakeUnit>();
   TestListener listener(loop, journal);
   listener.listenTo(propertyOf(dying.get(), 1));
@@ -121,7 +121,7 @@ TEST_F(Lifetime, AUnitMayEndInsideACallback) {
   EXPECT_THAT(journal, ElementsAre("property 1"));
 }
 
-TEST_F(Lifetime, AUnitAtAFormerUnitsAddressIsAnotherUnit) {
+TEST_F(Lifetime, AUnitAtTheAddressOfADestroyedOneIsAnotherUnit) {
   std::optional<FakeUnit> place(std::in_place);
   FakeUnit* const address = &*place;
   TestListener listener(loop, journal);
@@ -167,7 +167,7 @@ TEST_F(Lifetime, AListenerMayOutliveItsThread) {
   EXPECT_THAT(journal, IsEmpty());
 }
 
-TEST_F(Lifetime, ARunLoopHearsNothingThatWaitedInAFormerOne) {
+TEST_F(Lifetime, ARunLoopDeliversNothingThatWaitedInAnEarlierOne) {
   for (int i = 0; i < 5; ++i) {
     audio_unit::RunLoop next;
     TestListener listener(next, journal);

@@ -12,7 +12,7 @@ using std::chrono::milliseconds;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A run loop that the test pumps at times of its own.
+/// A run loop that the test pumps at times it chooses.
 class ListenerFixture : public testing::Test {
  protected:
   using TimePoint = audio_unit::RunLoop::TimePoint;

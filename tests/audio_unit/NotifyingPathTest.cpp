@@ -5,7 +5,7 @@
 #include "CallTraps.h"
 #include "ListenerFixture.h"
 
-/// What a thread does while it makes changes of every kind, as an audio thread may.
+/// Makes changes of every kind on another thread, as an audio thread may.
 class NotifyingPath : public ListenerFixture {
  protected:
   void SetUp() override {

@@ -2,7 +2,7 @@
 
 #include "ListenerFixture.h"
 
-/// More changes than a run loop holds.
+/// More changes than a run loop can hold.
 class Overflow : public ListenerFixture {
  protected:
   static constexpr int kFlood = 5000;
@@ -23,7 +23,7 @@ TEST_F(Overflow, DeliversAllThatFits) {
   EXPECT_EQ(journal.size(), 4096U);
 }
 
-TEST_F(Overflow, DoesNotEvenBeginForUnitsWithoutListenersAnywhere) {
+TEST_F(Overflow, CannotHappenWhileNobodyListens) {
   listener.dispose();
   flood();
   TestListener late(loop, journal);
@@ -56,7 +56,7 @@ TEST_F(Overflow, AnnouncesEveryRegisteredPropertyAndEndOfAGesture) {
   EXPECT_THAT(journal, ElementsAre("begin 0", "end 0", "property 5301", "property 5303"));
 }
 
-TEST_F(Overflow, TellsTheTimeOfThePump) {
+TEST_F(Overflow, GivesTheTimeOfThePump) {
   listener.listenTo(valueOf(&unit, 0));
   listener.listenTo(propertyOf(&unit, 1));
   std::vector<UInt64> times;
@@ -108,7 +108,7 @@ TEST_F(Overflow, AnnouncesAParameterThatCannotBeReadWithItsLastKnownValue) {
   EXPECT_THAT(journal, ElementsAre("value 0 = 4", "value 0 = 4"));
 }
 
-TEST_F(Overflow, DoesNotReadFromAUnitThatEnded) {
+TEST_F(Overflow, DoesNotReadFromADestroyedUnit) {
   auto dying = std::make_unique<FakeUnit>();
   listener.listenTo(valueOf(dying.get(), 0));
   listener.listenTo(propertyOf(dying.get(), 0));
@@ -118,7 +118,7 @@ TEST_F(Overflow, DoesNotReadFromAUnitThatEnded) {
   EXPECT_THAT(journal, IsEmpty());
 }
 
-TEST_F(Overflow, DoesNotConcernListenersThatCameWhenAllFormerOnesHadGone) {
+TEST_F(Overflow, DoesNotAffectListenersMadeAfterAllEarlierOnesWereDisposedOf) {
   listener.listenTo(propertyOf(&unit, 1));
   flood();
   listener.dispose();

@@ -15,7 +15,7 @@ OSStatus create(AUEventListenerProc proc, CFRunLoopRef loop, CFStringRef mode, f
 
 }  // namespace
 
-TEST_F(Registering, ChangesNothingTheSecondTime) {
+TEST_F(Registering, HasNoEffectTheSecondTime) {
   int object = 0;
   TestListener listener(loop, journal);
   for (int i = 0; i < 2; ++i) {
@@ -51,7 +51,7 @@ TEST_F(Registering, ReachesOnlyTheRegisteredEvents) {
   EXPECT_THAT(journal, ElementsAre("value 1 = 1", "property 1"));
 }
 
-TEST_F(Registering, HearsOfNoChangeThatWasMadeBefore) {
+TEST_F(Registering, DoesNotDeliverEarlierChanges) {
   TestListener early(loop, journal, "early");
   TestListener late(loop, journal, "late");
   early.listenTo(valueOf(&unit, 0));
@@ -89,7 +89,7 @@ TEST_F(Registering, RefusesMissingArguments) {
   EXPECT_EQ(AUEventListenerAddEventType(listener.reference, nullptr, &unknown), kAudio_ParamError);
 }
 
-TEST_F(Registering, NeedsAListenerThatWasMadeWithAllItsParts) {
+TEST_F(Registering, NeedsAListenerMadeWithValidArguments) {
   AUEventListenerRef listener = nullptr;
   EXPECT_EQ(create(nullptr, &loop, kCFRunLoopCommonModes, 0.05F, &listener), kAudio_ParamError);
   EXPECT_EQ(create(ignore, nullptr, kCFRunLoopCommonModes, 0.05F, &listener), kAudio_ParamError);

@@ -25,11 +25,11 @@ TEST_F(RunLoop, IsOnePerThread) {
   EXPECT_NE(others, mine);
 }
 
-TEST_F(RunLoop, HasNothingDueWhenNothingWaits) {
+TEST_F(RunLoop, HasNothingDueWhenNothingIsWaiting) {
   EXPECT_EQ(pumpAt(0), std::nullopt);
 }
 
-TEST_F(RunLoop, TellsTheEarliestTimeOfAllThatWaits) {
+TEST_F(RunLoop, ReturnsTheEarliestTimeOfAllThatWaits) {
   set(&unit, 0, 1);
   EXPECT_EQ(pumpAt(0), std::nullopt);
   set(&unit, 1, 1);

@@ -1,6 +1,6 @@
 #include "ListenerFixture.h"
 
-/// Two listeners, as two views of one unit have them.
+/// Two listeners to one unit, as two views of it have.
 class Sender : public ListenerFixture {
  protected:
   void SetUp() override {

@@ -8,7 +8,7 @@
 #include "Events.h"
 #include "audio_unit/RunLoop.h"
 
-/// What listeners were told, in order.
+/// The calls that listeners received, in order.
 using Journal = std::vector<std::string>;
 
 struct Call {
@@ -18,7 +18,7 @@ struct Call {
   float value;
 };
 
-/// A listener that writes each call into a journal: its name, then the event.
+/// A listener that writes each call to a journal: its name, then the event.
 class TestListener {
  public:
   TestListener(audio_unit::RunLoop& loop, Journal& journal, std::string name = "",
@@ -40,7 +40,7 @@ class TestListener {
 
   AUEventListenerRef reference = nullptr;
   OSStatus status = noErr;
-  /// Called after the journal entry; it may dispose of this listener.
+  /// Called after the journal entry is written; may dispose of this listener.
   std::function<void(const Call&)> onCall;
 
  private:
@@ -55,7 +55,7 @@ class TestListener {
   std::string prefix_;
 };
 
-/// Sets a parameter as a host does, without a sender, or as the named sender.
+/// Sets a parameter as the named sender or, as a host does, without one.
 inline OSStatus set(AudioUnit unit, AudioUnitParameterID id, float value,
                     AUEventListenerRef sender = nullptr, void* object = nullptr) {
   const AudioUnitParameter parameter{unit, id, kAudioUnitScope_Global, 0};

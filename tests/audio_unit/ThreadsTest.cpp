@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kThreads = 4;
 
-/// Runs `work(index)` on several threads at once and `meanwhile` here until all are done.
+/// Runs `work(index)` on several threads at once, and `meanwhile` on this one until they are done.
 template <class Work, class Meanwhile>
 void runThreads(const Work& work, const Meanwhile& meanwhile) {
   std::latch start(kThreads + 1);
@@ -34,7 +34,7 @@ void runThreads(const Work& work, const Meanwhile& meanwhile) {
 
 class Threads : public ListenerFixture {
  protected:
-  /// Time goes on by a quarter of an interval with every pump.
+  /// Each pump advances time by about a quarter of the interval.
   void pumpOn() { next_ = pumpAt(ms_ += 12); }
   void pumpUntilQuiet() {
     do pumpOn();
@@ -205,7 +205,7 @@ TEST_F(Threads, MayChangeTheHookWhileOthersWake) {
         }
       },
       [&] {
-        // What a hook refers to may go as soon as it has been replaced.
+        // What a hook refers to may be destroyed as soon as the hook has been replaced.
         auto context = std::make_unique<std::atomic<int>*>(&wakeUps);
         loop.setWakeUp([pointer = context.get()] { ++**pointer; });
         pumpOn();
@@ -216,7 +216,7 @@ TEST_F(Threads, MayChangeTheHookWhileOthersWake) {
   EXPECT_GE(wakeUps, 100);
 }
 
-TEST_F(Threads, HaveLeftTheHookWhenItsRemovalReturns) {
+TEST_F(Threads, NoLongerRunTheHookWhenItsRemovalReturns) {
   TestListener listener(loop, journal);
   listener.listenTo(propertyOf(&unit, 1));
   std::latch hasEntered(1);
@@ -240,7 +240,7 @@ TEST_F(Threads, NeverLeaveALoopAsleepThatHasWork) {
   std::atomic<bool> isAwake{false};
   loop.setWakeUp([&] { isAwake = true; });
 
-  // The owner pumps only when it is woken or told to.
+  // The owner pumps only when it is woken or a pump said that more is due.
   bool isDueAtOnce = false;
   const auto pumpWhenWoken = [&] {
     if (isAwake.exchange(false) || isDueAtOnce) isDueAtOnce = pumpAt(0).has_value();

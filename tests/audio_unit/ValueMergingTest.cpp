@@ -59,7 +59,7 @@ TEST_F(ValueMerging, CallsAtMostOncePerIntervalThroughALongAutomation) {
   EXPECT_EQ(journal[1], "value 0 = 50");
 }
 
-TEST_F(ValueMerging, CountsTheIntervalForEachParameterAndObjectAlone) {
+TEST_F(ValueMerging, CountsTheIntervalForEachParameterAndObjectSeparately) {
   int first = 0;
   int second = 0;
   TestListener listener(loop, journal);

@@ -7,10 +7,11 @@
 #ifdef __APPLE__
 #import <AudioUnit/AUCocoaUIView.h>
 #else
-/// What a host asks of a view bundle's principal class.
+/// The interface of a view bundle's principal class, as hosts use it.
 @protocol AUCocoaUIBase
 - (unsigned)interfaceVersion;
-/// A view bound to the unit, autoreleased, or null; the log says why. The size is a wish.
+/// Returns a view bound to the unit, autoreleased, or nil, in which case the log says why. The size
+/// is only a preference.
 - (NSView*)uiViewForAudioUnit:(AudioUnit)unit withSize:(NSSize)size;
 @end
 #endif

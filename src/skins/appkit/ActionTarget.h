@@ -9,7 +9,7 @@
 
 namespace ui::appkit {
 
-/// Is told of an action, or that a timer fired.
+/// Receives actions and timer events.
 class ActionReceiver {
  public:
   virtual ~ActionReceiver() = default;
@@ -18,8 +18,8 @@ class ActionReceiver {
 
 }  // namespace ui::appkit
 
-/// Hands what it is sent to a receiver, which is not owned; null ends that. What the receiver
-/// throws is logged and goes no further.
+/// Forwards what it is sent to a receiver, which it does not own; null stops that. Anything the
+/// receiver throws is logged and goes no further.
 @interface Velk_ActionTarget : NSObject {
   ui::appkit::ActionReceiver* _receiver;
 }
@@ -29,7 +29,7 @@ class ActionReceiver {
 
 namespace ui::appkit {
 
-/// A target that does nothing any more once its owner is gone, even while a sender still holds it.
+/// Owns a target that does nothing once this is destroyed, even if a sender still retains it.
 class OwnedTarget final : public ActionReceiver {
  public:
   explicit OwnedTarget(std::function<void(id sender)> work)
@@ -42,7 +42,7 @@ class OwnedTarget final : public ActionReceiver {
   ~OwnedTarget() override { [target_.get() setReceiver:nullptr]; }
 
   void receive(id sender) override {
-    // The work may end what holds it.
+    // Call a copy, because the work may destroy this object.
     const std::function<void(id)> work = work_;
     work(sender);
   }

@@ -26,7 +26,7 @@ inline bool canBeEnabled(NSView* view) {
   return [view respondsToSelector:@selector(setEnabled:)];
 }
 
-/// What all controls share, over a view that lives longer than the adapter.
+/// What all controls have in common. The view must outlive the adapter.
 template <class Interface, class Control>
 class Adapter : public Interface {
  public:
@@ -34,7 +34,7 @@ class Adapter : public Interface {
 
   bool isHidden() const override { return [control_ isHidden] == YES; }
   void setHidden(bool hidden) override { [control_ setHidden:hidden ? YES : NO]; }
-  /// A view that cannot be disabled is enabled.
+  /// A view that cannot be disabled counts as enabled.
   bool isEnabled() const override {
     const id control = control_;
     return !canBeEnabled(control_) || [control isEnabled] == YES;

@@ -6,8 +6,8 @@ namespace ui::appkit {
 
 class FoundationBundle;
 
-/// The system's help manager. Where that knows no help books, or the bundle has none, the bundle's
-/// own page is opened.
+/// Opens help through the system's help manager. If that does not support help books, or the bundle
+/// has none, it opens the bundle's own page.
 class AppKitHelpManager final : public HelpManager {
  public:
   explicit AppKitHelpManager(const FoundationBundle& bundle) : bundle_(bundle) {}

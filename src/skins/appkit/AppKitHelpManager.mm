@@ -8,7 +8,7 @@
 #include "ui/Log.h"
 
 #ifdef GNUSTEP
-/// Not every version of the toolkit has it.
+/// Not every version of GNUstep has these.
 @interface NSHelpManager (Velk_Books)
 - (void)openHelpAnchor:(NSString*)anchor inBook:(NSString*)book;
 - (BOOL)registerBooksInBundle:(NSBundle*)bundle;
@@ -19,8 +19,9 @@ namespace ui::appkit {
 
 namespace {
 
-/// A bundle that is no application has to be registered, which fails when it has no book.
-bool opensBooks(NSHelpManager* manager, NSBundle* bundle) {
+/// Registers the bundle's help books, as is necessary for any bundle but an application's. Returns
+/// whether the help manager can open them.
+bool registerBooks(NSHelpManager* manager, NSBundle* bundle) {
   return [manager respondsToSelector:@selector(openHelpAnchor:inBook:)] &&
          (![manager respondsToSelector:@selector(registerBooksInBundle:)] ||
           [manager registerBooksInBundle:bundle] == YES);
@@ -30,7 +31,7 @@ bool opensBooks(NSHelpManager* manager, NSBundle* bundle) {
 
 void AppKitHelpManager::openHelpAnchor(const std::string& anchor, const std::string& book) {
   NSHelpManager* manager = [NSHelpManager sharedHelpManager];
-  if (opensBooks(manager, bundle_.native())) {
+  if (registerBooks(manager, bundle_.native())) {
     [manager openHelpAnchor:nsString(anchor) inBook:nsString(book)];
     return;
   }

@@ -10,18 +10,18 @@
 
 namespace ui::appkit {
 
-/// Loads interface files of a bundle. The file instantiates a class for each of the core's objects;
-/// the view fills an outlet of the file's owner, the other objects fill outlets of the view that
-/// bear their names.
+/// Loads a bundle's interface files. The file instantiates a class for each of the core's objects.
+/// The view fills an outlet of the file's owner; the other objects fill the view's outlets of the
+/// same names.
 class AppKitInterfaceLoader final : public InterfaceLoader {
  public:
   struct Files {
     NSBundle* bundle;
-    /// Not retained; it owns the loader.
+    /// The file's owner. Not retained, because it owns the loader.
     id owner;
-    /// Of the owner, for the view.
+    /// The owner's outlet for the view.
     NSString* viewOutlet;
-    /// The class of each of the core's objects, by the object's name; the view's is "view".
+    /// The class for each of the core's objects, by the object's name; the view's name is "view".
     std::map<std::string, Class> classes;
   };
 

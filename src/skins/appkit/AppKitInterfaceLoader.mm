@@ -4,7 +4,7 @@
 
 #include "skins/appkit/AppKitView.h"
 #include "skins/appkit/AudioUnitPump.h"
-#include "skins/appkit/Captions.h"
+#include "skins/appkit/CaptionTranslation.h"
 #include "skins/appkit/Exceptions.h"
 #include "skins/appkit/LevelFormatter.h"
 #include "skins/appkit/Segments.h"
@@ -20,12 +20,12 @@ namespace {
 
 constexpr std::string_view kViewName = "view";
 
-/// The objects at the top of the file.
+/// Loads the file and returns its top-level objects, autoreleased.
 NSArray* instantiate(NSBundle* bundle, std::string_view name, id owner) {
   NSArray* objects = nil;
   BOOL loaded = NO;
   NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-  NSException* exception = exceptionOf([&] {
+  NSException* exception = catchException([&] {
     NSNib* nib = [[[NSNib alloc] initWithNibNamed:nsString(name) bundle:bundle] autorelease];
     loaded = nib != nil && [nib instantiateWithOwner:owner topLevelObjects:&objects];
   });
@@ -41,13 +41,13 @@ NSArray* instantiate(NSBundle* bundle, std::string_view name, id owner) {
     throw InterfaceError("is missing or cannot be read");
   }
 #ifdef GNUSTEP
-  // Here each of them is the caller's besides.
+  // GNUstep gives the caller a reference to each of them as well.
   [objects makeObjectsPerformSelector:@selector(release)];
 #endif
   return objects;
 }
 
-/// What the file holds for one of the core's objects.
+/// The file's object for the core's object of that name.
 id objectNamed(const std::string& name, Velk_View* view) {
   if (name == kViewName) {
     return view;
@@ -59,7 +59,7 @@ id objectNamed(const std::string& name, Velk_View* view) {
   return object;
 }
 
-/// Gives the file's formatters what they need, and shows the levels that the file sets.
+/// Sets up the file's level formatters and shows the levels that the file contains.
 void showLevels(NSArray* topLevelObjects, const LevelText& levelText) {
   forEachViewOf(topLevelObjects, [&](NSView* view) {
     if (![view isKindOfClass:[NSTextField class]]) {

@@ -15,15 +15,15 @@ class Deferred;
 
 namespace ui::appkit {
 
-/// Document-modal sheets of one view.
+/// One view's document-modal sheets.
 ///
-/// GNUstep's way of showing a sheet returns only when the sheet has ended. There it is shown on the
-/// next turn of the run loop, which then runs within.
+/// On GNUstep the call that shows a sheet returns only when the sheet has ended. There a sheet is
+/// therefore shown on the next turn of the run loop, and that call runs a nested loop.
 class AppKitSheets final : public Sheets {
  public:
   explicit AppKitSheets(RunLoop& runLoop);
   ~AppKitSheets() override;
-  /// Takes away what is open or about to open; no end function is called.
+  /// Closes whatever is open or about to open without calling its `didEnd`.
   void cancelAll();
 
   void beginSheet(Sheet& sheet, View& control, std::function<void(int code)> didEnd) override;
@@ -35,16 +35,16 @@ class AppKitSheets final : public Sheets {
                                                     View& control) override;
 
  private:
-  struct Begun {
+  struct OpenSheet {
     NSWindow* parent;
     std::function<void(int)> didEnd;
-    /// Set while the sheet waits to be shown.
-    std::unique_ptr<Deferred> showing;
+    /// Set until the sheet is shown.
+    std::unique_ptr<Deferred> pendingShow;
   };
   class Alert;
 
   RunLoop& runLoop_;
-  std::map<Sheet*, Begun> begun_;
+  std::map<Sheet*, OpenSheet> open_;
   std::unique_ptr<Alert> alert_;
 };
 

@@ -11,7 +11,7 @@
 
 namespace ui::appkit {
 
-/// Is told of the answer to an alert.
+/// Receives the answer to an alert.
 class AlertReceiver {
  public:
   virtual ~AlertReceiver() = default;
@@ -23,7 +23,7 @@ class AlertReceiver {
 @interface Velk_AlertDelegate : NSObject {
   ui::appkit::AlertReceiver* _receiver;
 }
-/// Not owned; null ends it.
+/// The receiver is not owned; null stops it from being called.
 - (void)setReceiver:(ui::appkit::AlertReceiver*)receiver;
 - (void)alert:(id)alert returnCode:(NSInteger)code contextInfo:(void*)contextInfo;
 @end
@@ -53,7 +53,7 @@ NSWindow* windowOf(Sheet& sheet) {
   return dynamic_cast<SheetAdapter&>(sheet).window();
 }
 
-NSWindow* windowUnder(View& control) {
+NSWindow* windowContaining(View& control) {
   return [dynamic_cast<ButtonAdapter&>(control).control() window];
 }
 
@@ -69,7 +69,7 @@ void showSheet(NSWindow* sheet, NSWindow* parent) {
 
 void endShownSheet(NSWindow* sheet, NSWindow* /*parent*/, int code) {
   [NSApp endSheet:sheet returnCode:code];
-  // The sheet's loop looks whether it has ended when it has an event.
+  // The sheet's loop notices that it has ended only when it gets an event.
   [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
                                       location:NSZeroPoint
                                  modifierFlags:0
@@ -101,7 +101,7 @@ void endShownSheet(NSWindow* sheet, NSWindow* parent, int code) {
 
 void showAlert(const AlertTexts& texts, NSWindow* parent, Velk_AlertDelegate* delegate) {
   NSAlert* alert = [[[NSAlert alloc] init] autorelease];
-  // Without a title the message is what is read first.
+  // Without a title the message takes its place.
   [alert setMessageText:nsString(texts.title.empty() ? texts.message : texts.title)];
   [alert setInformativeText:nsString(texts.title.empty() ? std::string() : texts.message)];
   [alert addButtonWithTitle:nsString(texts.defaultButton)];
@@ -132,30 +132,30 @@ class AppKitSheets::Alert final : public AlertReceiver {
   ~Alert() override { [delegate_.get() setReceiver:nullptr]; }
 
   void show(const AlertTexts& texts) {
-    // Where showing it returns only when it has ended, this may be gone by then.
+    // On GNUstep `showAlert` returns only when the alert has ended; this may be destroyed by then.
     const Retained<Velk_AlertDelegate*> delegate = delegate_;
     const Retained<NSWindow*> parent(parent_);
-    showing.reset();
+    pendingShow.reset();
     showAlert(texts, parent.get(), delegate.get());
   }
 
   void cancel() {
     [delegate_.get() setReceiver:nullptr];
     NSWindow* shown = [parent_ attachedSheet];
-    if (!showing && shown != nil) {
+    if (!pendingShow && shown != nil) {
       endShownSheet(shown, parent_, kAlertAlternateReturn);
       [shown orderOut:nil];
     }
   }
 
   void alertDidEnd(int code) override {
-    // What comes of the answer ends this.
+    // Call a copy, because the answer destroys this object.
     const std::function<void(int)> didEnd = didEnd_;
     didEnd(code);
   }
 
-  /// Set while the alert waits to be shown.
-  std::unique_ptr<Deferred> showing;
+  /// Set until the alert is shown.
+  std::unique_ptr<Deferred> pendingShow;
 
  private:
   NSWindow* parent_;
@@ -170,9 +170,9 @@ AppKitSheets::~AppKitSheets() {
 }
 
 void AppKitSheets::cancelAll() {
-  for (auto& [sheet, begun] : std::exchange(begun_, {})) {
-    if (!begun.showing) {
-      endShownSheet(windowOf(*sheet), begun.parent, kAlertAlternateReturn);
+  for (auto& [sheet, opened] : std::exchange(open_, {})) {
+    if (!opened.pendingShow) {
+      endShownSheet(windowOf(*sheet), opened.parent, kAlertAlternateReturn);
       [windowOf(*sheet) orderOut:nil];
     }
   }
@@ -182,17 +182,17 @@ void AppKitSheets::cancelAll() {
 }
 
 void AppKitSheets::beginSheet(Sheet& sheet, View& control, std::function<void(int code)> didEnd) {
-  NSWindow* const parent = windowUnder(control);
-  Begun& begun = begun_[&sheet];
-  begun.parent = parent;
-  begun.didEnd = std::move(didEnd);
+  NSWindow* const parent = windowContaining(control);
+  OpenSheet& opened = open_[&sheet];
+  opened.parent = parent;
+  opened.didEnd = std::move(didEnd);
 #ifdef GNUSTEP
   NSWindow* const window = windowOf(sheet);
-  Begun* const waiting = &begun;
-  begun.showing = runLoop_.performLater([=] {
+  OpenSheet* const waiting = &opened;
+  opened.pendingShow = runLoop_.performLater([=] {
     const Retained<NSWindow*> sheetWhileShown(window);
     const Retained<NSWindow*> parentWhileShown(parent);
-    waiting->showing.reset();
+    waiting->pendingShow.reset();
     showSheet(window, parent);
   });
 #else
@@ -201,17 +201,17 @@ void AppKitSheets::beginSheet(Sheet& sheet, View& control, std::function<void(in
 }
 
 void AppKitSheets::endSheet(Sheet& sheet, int code) {
-  const auto found = begun_.find(&sheet);
-  if (found == begun_.end()) {
+  const auto found = open_.find(&sheet);
+  if (found == open_.end()) {
     return;
   }
-  const Begun begun = std::move(found->second);
-  begun_.erase(found);
-  if (!begun.showing) {
-    endShownSheet(windowOf(sheet), begun.parent, code);
+  const OpenSheet closed = std::move(found->second);
+  open_.erase(found);
+  if (!closed.pendingShow) {
+    endShownSheet(windowOf(sheet), closed.parent, code);
   }
-  if (begun.didEnd) {
-    begun.didEnd(code);
+  if (closed.didEnd) {
+    closed.didEnd(code);
   }
 }
 
@@ -221,13 +221,13 @@ void AppKitSheets::orderOut(Sheet& sheet) {
 
 void AppKitSheets::beginAlertSheet(const AlertTexts& texts, View& control,
                                    std::function<void(Window& alert, int code)> didEnd) {
-  alert_ = std::make_unique<Alert>(windowUnder(control), [=, this](int code) {
+  alert_ = std::make_unique<Alert>(windowContaining(control), [=, this](int code) {
     alert_.reset();
     AlertWindow window;
     didEnd(window, code);
   });
 #ifdef GNUSTEP
-  alert_->showing = runLoop_.performLater([=, this] { alert_->show(texts); });
+  alert_->pendingShow = runLoop_.performLater([=, this] { alert_->show(texts); });
 #else
   alert_->show(texts);
 #endif

@@ -15,11 +15,11 @@
 
 namespace ui::appkit {
 
-/// What a view of an interface file tells. It deletes its listener when it goes.
+/// Receives what happens to a `Velk_View`, which deletes it in `dealloc`.
 class ViewListener {
  public:
   virtual ~ViewListener() = default;
-  virtual void frameSizeRequested(NSSize size) = 0;
+  virtual void requestFrameSize(NSSize size) = 0;
   virtual void viewWillMoveToSuperview(bool hasNewSuperview) = 0;
   virtual void viewDidMoveToWindow() = 0;
   virtual void keyDown(NSEvent* event) = 0;
@@ -27,43 +27,44 @@ class ViewListener {
 
 }  // namespace ui::appkit
 
-/// A view of an interface file that the core decides about: its size, its keys, its teardown.
+/// An interface file's view. The core decides on its size and gets its key presses.
 @interface Velk_View : NSView <Velk_InterfaceObject> {
   ui::appkit::InterfaceObject* _interfaceObject;
   ui::appkit::ViewListener* _listener;
 }
-/// Null while the interface file is being loaded.
+/// `dealloc` deletes the listener. Without one, as at first, this is an ordinary view.
 - (void)setListener:(ui::appkit::ViewListener*)listener;
-/// Takes the size, whatever the core thinks of it.
+/// Sets the size without asking the core.
 - (void)applyFrameSize:(NSSize)size;
 @end
 
 namespace ui::appkit {
 
-/// What stands behind the view of an interface file: the core's objects, their controls and
-/// services. The view owns it from `handOver` on; until then it is the other way round.
+/// What is behind an interface file's view: the core's objects, their controls and services. It
+/// owns the view until `handOver`; from then on the view owns it.
 class AppKitView final : public NativeView, public ViewListener {
  public:
   explicit AppKitView(NSBundle* bundle);
   ~AppKitView() override;
 
-  // What an interface loader puts into it.
+  // For the interface loader.
   ViewServices& services() { return services_; }
   ControlTable& controls() { return controls_; }
-  /// Takes the view that the interface file holds, and what else stands at its top.
+  /// Takes the interface file's view and its other top-level objects.
   void setView(Velk_View* view, NSArray* topLevelObjects);
-  /// The core's objects, with every outlet filled. Their view is announced as this one.
+  /// Takes the core's objects, all of whose outlets are filled. Notifications about the core's view
+  /// are posted with this view as their object.
   void setObjects(std::unique_ptr<InterfaceObjects> objects);
-  /// One of the file's objects, whose actions reach the core as long as this lives.
+  /// Makes the actions of one of the file's objects reach the core as long as this lives.
   void connect(id<Velk_InterfaceObject> object, const Connections& declared);
 
   InterfaceObjects& objects() { return *objects_; }
   Velk_View* view() const { return view_; }
 
-  /// The view, autoreleased, which owns everything else from now on.
+  /// Returns the view, autoreleased, which owns everything else from now on.
   static Velk_View* handOver(std::unique_ptr<NativeView> native);
 
-  void frameSizeRequested(NSSize size) override;
+  void requestFrameSize(NSSize size) override;
   void viewWillMoveToSuperview(bool hasNewSuperview) override;
   void viewDidMoveToWindow() override;
   void keyDown(NSEvent* event) override;
@@ -77,16 +78,16 @@ class AppKitView final : public NativeView, public ViewListener {
   void interpretKeyEvents(const KeyEvent& event) override;
 
  private:
-  // What everything else refers to goes last.
+  // In this order because members are destroyed last to first, and later ones use earlier ones.
   Retained<NSArray*> topLevelObjects_;
   ViewServices services_;
   ControlTable controls_;
   std::vector<Retained<id>> connected_;
   std::unique_ptr<InterfaceObjects> objects_;
-  /// Retained until the view owns this.
+  /// Retained as long as `ownsView_` is true.
   Velk_View* view_ = nil;
-  bool isViewOwner_ = false;
-  bool isGoing_ = false;
+  bool ownsView_ = false;
+  bool isTearingDown_ = false;
   std::function<void(Size)> frameSizeObserver_;
 };
 

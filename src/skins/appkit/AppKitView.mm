@@ -11,7 +11,7 @@ namespace ui::appkit {
 
 namespace {
 
-/// The object that the core's notifications are about.
+/// The pointer by which the core's notifications identify the view.
 const void* identityOf(const CustomView& view) {
   return dynamic_cast<const void*>(&view);
 }
@@ -22,8 +22,8 @@ AppKitView::AppKitView(NSBundle* bundle)
     : services_(bundle), controls_(services_.toolkit().localization) {}
 
 AppKitView::~AppKitView() {
-  // The view itself is no more to be changed by the teardown.
-  isGoing_ = true;
+  // The teardown must no longer resize the view.
+  isTearingDown_ = true;
   const void* const coreView = objects_ ? identityOf(objects_->view()) : nullptr;
   guarded([this] { objects_.reset(); });
   representObject(coreView, nil);
@@ -31,7 +31,7 @@ AppKitView::~AppKitView() {
   for (const auto& object : connected_) {
     [object.get() interfaceObject]->disconnect();
   }
-  if (isViewOwner_) {
+  if (ownsView_) {
     [view_ setListener:nullptr];
     [view_ release];
   }
@@ -39,10 +39,10 @@ AppKitView::~AppKitView() {
 
 void AppKitView::setView(Velk_View* view, NSArray* topLevelObjects) {
   view_ = [view retain];
-  isViewOwner_ = true;
+  ownsView_ = true;
   [view_ setListener:this];
   NSMutableArray* others = [NSMutableArray arrayWithArray:topLevelObjects];
-  // Keeping the view would keep it for good.
+  // Retaining the view as well would be a cycle.
   [others removeObjectIdenticalTo:view];
   topLevelObjects_ = Retained<NSArray*>(others);
 }
@@ -61,7 +61,7 @@ void AppKitView::connect(id<Velk_InterfaceObject> object, const Connections& dec
 
 Velk_View* AppKitView::handOver(std::unique_ptr<NativeView> native) {
   auto& view = dynamic_cast<AppKitView&>(*native);
-  view.isViewOwner_ = false;
+  view.ownsView_ = false;
   static_cast<void>(native.release());
   return [view.view_ autorelease];
 }
@@ -81,7 +81,7 @@ void AppKitView::keyDown(NSEvent* event) {
   guarded([&] { objects_->view().keyDown({positionCode(event), event}); });
 }
 
-void AppKitView::frameSizeRequested(NSSize size) {
+void AppKitView::requestFrameSize(NSSize size) {
   setFrameSize(sizeOf(size));
 }
 
@@ -102,7 +102,7 @@ Size AppKitView::frameSize() const {
 }
 
 void AppKitView::applyFrameSize(Size size) {
-  if (isGoing_) {
+  if (isTearingDown_) {
     return;
   }
   const bool changed = frameSize() != size;
@@ -139,7 +139,7 @@ void AppKitView::interpretKeyEvents(const KeyEvent& event) {
 }
 
 - (void)dealloc {
-  // While the controls are still there.
+  // While the controls still exist.
   delete std::exchange(_listener, nullptr);
   delete _interfaceObject;
   [super dealloc];
@@ -154,7 +154,7 @@ void AppKitView::interpretKeyEvents(const KeyEvent& event) {
 }
 
 - (void)applyFrameSize:(NSSize)size {
-  // What is behind shows through, and what is within moves.
+  // The superview shows through where the view was, and the subviews move.
   [[self superview] setNeedsDisplayInRect:[self frame]];
   [super setFrameSize:size];
   [[self superview] setNeedsDisplayInRect:[self frame]];
@@ -163,14 +163,14 @@ void AppKitView::interpretKeyEvents(const KeyEvent& event) {
 
 - (void)setFrameSize:(NSSize)size {
   if (_listener != nullptr) {
-    _listener->frameSizeRequested(size);
+    _listener->requestFrameSize(size);
   } else {
     [super setFrameSize:size];
   }
 }
 
 #ifdef GNUSTEP
-// Elsewhere this is made of the two calls.
+// AppKit itself makes these two calls.
 - (void)setFrame:(NSRect)frame {
   if (_listener != nullptr) {
     [self setFrameOrigin:frame.origin];

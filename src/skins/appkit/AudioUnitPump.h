@@ -2,8 +2,9 @@
 
 namespace ui::appkit {
 
-/// Lets the main thread's run loop deliver the events of audio units, unless somebody pumps that
-/// thread's `audio_unit::RunLoop` already. Nothing to do where the system's own framework does it.
+/// Makes the main thread's run loop deliver audio units' events for the rest of the process, unless
+/// that thread's `audio_unit::RunLoop` is already being pumped. Has no effect on macOS, whose own
+/// framework delivers them. Main thread only.
 void pumpAudioUnitEvents();
 
 }  // namespace ui::appkit

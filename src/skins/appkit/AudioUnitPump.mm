@@ -15,7 +15,7 @@
 #include "skins/appkit/AppKitRunLoop.h"
 #include "ui/Log.h"
 
-/// Watches a descriptor.
+/// Tells a receiver, which it does not own, that a watched descriptor is readable.
 @interface Velk_DescriptorWatcher : NSObject <RunLoopEvents> {
   ui::appkit::ActionReceiver* _receiver;
 }
@@ -73,7 +73,7 @@ class AudioUnitPump final : public ActionReceiver {
 
  private:
   audio_unit::LoopPump pump_;
-  /// A run loop does not retain whom it tells.
+  /// Retained here, because a run loop does not retain its watchers.
   Retained<id> watcher_;
   AppKitRunLoop runLoop_;
   std::unique_ptr<Deferred> due_;
@@ -83,7 +83,7 @@ class AudioUnitPump final : public ActionReceiver {
 
 void pumpAudioUnitEvents() {
   if (!CFRunLoopGetCurrent()->hasWakeUp()) {
-    // As long as the thread's run loop: for good.
+    // Never destroyed, like the main thread's run loop.
     static AudioUnitPump& pump = *new AudioUnitPump;
     static_cast<void>(pump);
   }

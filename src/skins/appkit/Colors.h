@@ -6,8 +6,8 @@
 
 namespace ui::appkit {
 
-/// The colour for a text on a window's background. Black is the palette's own text colour; any
-/// other keeps its hue and, where it could not be read, takes a lighter or darker tone.
+/// A text colour that is readable on a window's background. Black becomes the system's text colour;
+/// any other keeps its hue and is made lighter or darker if necessary.
 NSColor* textColor(const Color& color);
 
 }  // namespace ui::appkit

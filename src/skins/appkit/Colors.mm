@@ -13,7 +13,7 @@ NSColor* deviceColor(const Color& color) {
                                alpha:static_cast<CGFloat>(color.alpha)];
 }
 
-/// What the palette's colour looks like now; white if it cannot be said.
+/// The current colour of a window's background; white if it is not known.
 Color background() {
 #ifdef GNUSTEP
   NSString* const deviceSpace = NSDeviceRGBColorSpace;

@@ -13,7 +13,7 @@ class Localization;
 
 namespace ui::appkit {
 
-/// The core's controls over the objects of an interface file, made as they are asked for.
+/// The core's controls for an interface file's objects, each made when it is first asked for.
 class ControlTable {
  public:
   explicit ControlTable(const Localization& localization);
@@ -21,12 +21,13 @@ class ControlTable {
   ControlTable& operator=(const ControlTable&) = delete;
   ~ControlTable();
 
-  /// The control over a view, window or menu item, by its class; null for anything else. Every view
-  /// is a view at least. The object has to live as long as this table.
+  /// The control for a view, window or menu item, chosen by its class; a plain view if no other
+  /// fits. A menu item is found only after its pop-up button has been asked for. Null for anything
+  /// else. The object must outlive this table.
   Object* control(id object);
 
  private:
-  std::unique_ptr<Object> made(id object) const;
+  std::unique_ptr<Object> makeControl(id object) const;
   Object* menuItem(NSMenuItem* item);
 
   const Localization& localization_;

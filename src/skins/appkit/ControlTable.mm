@@ -29,12 +29,12 @@ Object* ControlTable::control(id object) {
   if ([object isKindOfClass:[NSMenuItem class]]) {
     return menuItem(object);
   }
-  std::unique_ptr<Object> control = made(object);
+  std::unique_ptr<Object> control = makeControl(object);
   return control ? controls_.emplace(object, std::move(control)).first->second.get() : nullptr;
 }
 
-std::unique_ptr<Object> ControlTable::made(id object) const {
-  // A pop-up button is a button too.
+std::unique_ptr<Object> ControlTable::makeControl(id object) const {
+  // First, because a pop-up button is also a button.
   if ([object isKindOfClass:[NSPopUpButton class]]) {
     return std::make_unique<PopUpButtonAdapter>(object);
   }

@@ -6,19 +6,19 @@
 extern "C" {
 #endif
 
-/// Runs the work and gives the NSException that it raised, or null. In plain Objective-C, because
-/// GNU's Objective-C++ cannot catch one.
-NSException* Velk_exceptionOf(void (*work)(void* context), void* context);
+/// Runs the work and returns the NSException that it raises, or nil. Written in plain Objective-C
+/// because Objective-C++ on GNUstep cannot catch one.
+NSException* Velk_catchException(void (*work)(void* context), void* context);
 
 #ifdef __cplusplus
 }
 
 namespace ui::appkit {
 
-/// The NSException that `work` raised, or null. A C++ exception passes through.
+/// Runs `work` and returns the NSException that it raises, or nil. C++ exceptions propagate.
 template <class Work>
-NSException* exceptionOf(Work work) {
-  return Velk_exceptionOf([](void* context) { (*static_cast<Work*>(context))(); }, &work);
+NSException* catchException(Work work) {
+  return Velk_catchException([](void* context) { (*static_cast<Work*>(context))(); }, &work);
 }
 
 }  // namespace ui::appkit

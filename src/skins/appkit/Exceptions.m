@@ -1,6 +1,6 @@
 #include "skins/appkit/Exceptions.h"
 
-NSException* Velk_exceptionOf(void (*work)(void* context), void* context) {
+NSException* Velk_catchException(void (*work)(void* context), void* context) {
   @try {
     work(context);
   } @catch (NSException* exception) {

@@ -4,8 +4,8 @@
 
 namespace ui::appkit {
 
-/// Tells the thread's NSAssertionHandler. If that raises an exception, as the system's own does, it
-/// goes on as an `AssertionFailure`.
+/// Reports failures to the thread's NSAssertionHandler. If that raises an exception, as the
+/// system's own does, this throws an `AssertionFailure`.
 class FoundationAssertionHandler final : public AssertionHandler {
  public:
   void handleFailure(const Assertion& assertion) override;

@@ -7,7 +7,7 @@
 namespace ui::appkit {
 
 void FoundationAssertionHandler::handleFailure(const Assertion& assertion) {
-  NSException* exception = exceptionOf([&] {
+  NSException* exception = catchException([&] {
     [[NSAssertionHandler currentHandler]
         handleFailureInMethod:NSSelectorFromString(nsString(assertion.operation))
                        object:nativeObject(assertion.object)

@@ -7,7 +7,7 @@
 
 namespace ui::appkit {
 
-/// The resources of an NSBundle; texts in the language that the system chooses for it.
+/// An NSBundle's resources, in the language that the system chooses for it.
 class FoundationBundle final : public Bundle {
  public:
   explicit FoundationBundle(NSBundle* bundle);

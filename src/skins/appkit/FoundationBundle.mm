@@ -7,7 +7,7 @@ namespace ui::appkit {
 
 namespace {
 
-/// The language whose table the system would read.
+/// The language whose strings table the system would use.
 std::vector<std::string> languagesOf(NSBundle* bundle) {
   NSString* table = [bundle pathForResource:nsString(kStringsTable) ofType:@"strings"];
   NSString* folder = [[table stringByDeletingLastPathComponent] lastPathComponent];

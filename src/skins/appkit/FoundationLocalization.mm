@@ -8,7 +8,7 @@ namespace ui::appkit {
 
 namespace {
 
-/// U+202F, which newer locale data puts before a percent sign and into times.
+/// U+202F, which newer locale data uses before percent signs and in times.
 constexpr unichar kNarrowNoBreakSpace = 0x202F;
 
 std::string withPlainSpaces(NSString* text) {
@@ -42,7 +42,7 @@ std::string FoundationLocalization::percent(double share) const {
 }
 
 std::string FoundationLocalization::oneDecimal(double value) const {
-  // What rounds to zero has no sign.
+  // A value that rounds to zero must not show a sign.
   const double shown = std::abs(value) < 0.05 ? 0.0 : value;
   return withPlainSpaces([oneDecimal_.get() stringFromNumber:[NSNumber numberWithDouble:shown]]);
 }

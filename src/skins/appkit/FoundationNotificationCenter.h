@@ -6,8 +6,8 @@
 
 namespace ui::appkit {
 
-/// NSNotificationCenter's default centre, so that what the view announces reaches everybody in the
-/// process. One of the core's objects is represented there by `nativeObject`.
+/// The default NSNotificationCenter, so that the view's notifications reach every observer in the
+/// process. There each of the core's objects is represented by its `nativeObject`.
 class FoundationNotificationCenter final : public NotificationCenter {
  public:
   FoundationNotificationCenter();
@@ -23,9 +23,10 @@ class FoundationNotificationCenter final : public NotificationCenter {
   std::unique_ptr<Observers> observers_;
 };
 
-/// From now on the native object, which is not retained, stands for the core's; null ends that.
+/// Makes the native object represent the core's from now on; nil ends that. It is not retained.
 void representObject(const void* object, id native);
-/// What stands for the object: itself if nothing else does, as a value. Null for null.
+/// The object that represents the core's: the one set by `representObject` or else an NSValue with
+/// the pointer. Nil for null.
 id nativeObject(const void* object);
 
 }  // namespace ui::appkit

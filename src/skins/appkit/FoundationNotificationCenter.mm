@@ -14,7 +14,7 @@ namespace ui::appkit {
 
 namespace {
 
-/// Both ways between the core's objects and those that stand for them.
+/// Maps the core's objects to their native representatives and back.
 class Representatives {
  public:
   void set(const void* object, id native) {
@@ -34,7 +34,7 @@ class Representatives {
     if (found != natives_.end()) {
       return found->second;
     }
-    // Only its identity counts, so there has to be one of it.
+    // Observers compare identities, so there must be only one per object.
     auto& token = tokens_[object];
     if (token.get() == nil) {
       token = Retained<id>([NSValue valueWithPointer:object]);
@@ -93,7 +93,7 @@ id nativeObject(const void* object) {
 
 class FoundationNotificationCenter::Observers {
  public:
-  // Shared with the deliveries under way.
+  // Shared, so that `removeObserver` can erase them before it unregisters them.
   std::multimap<const void*, std::shared_ptr<OwnedTarget>> registrations;
 };
 

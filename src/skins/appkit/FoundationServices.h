@@ -2,8 +2,8 @@
 
 namespace ui::appkit {
 
-/// Puts Foundation's notification centre, assertion handler and system log in the place of the
-/// defaults. A log sink that somebody has set stays. The first call counts.
+/// Replaces the default notification centre, assertion handler and log sink by Foundation's. A log
+/// sink that is already set stays. Only the first call has an effect.
 void useFoundationServices();
 
 }  // namespace ui::appkit

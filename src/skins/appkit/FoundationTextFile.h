@@ -5,7 +5,7 @@
 
 namespace ui::appkit {
 
-/// Foundation's way of `ui::writeMacRoman`.
+/// `ui::writeMacRoman` by means of Foundation.
 bool writeMacRoman(const std::filesystem::path& file, std::string_view utf8);
 
 }  // namespace ui::appkit

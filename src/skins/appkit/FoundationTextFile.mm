@@ -7,14 +7,14 @@ namespace ui::appkit {
 
 bool writeMacRoman(const std::filesystem::path& file, std::string_view utf8) {
   NSString* text = nsString(utf8);
-  // What cannot be written would otherwise be written wrongly.
+  // Checked first: Foundation might write a lossy text.
   if (([text length] == 0 && !utf8.empty()) ||
       ![text canBeConvertedToEncoding:NSMacOSRomanStringEncoding]) {
     return false;
   }
   NSURL* url = [NSURL fileURLWithPath:nsString(file.string())];
   BOOL written = NO;
-  NSException* exception = exceptionOf([&] {
+  NSException* exception = catchException([&] {
     written = [text writeToURL:url
                     atomically:YES
                       encoding:NSMacOSRomanStringEncoding

@@ -23,8 +23,8 @@ std::string setterName(const std::string& outlet) {
   return name;
 }
 
-/// The outlet that a setter stands for, by the setter's name. It is filled as the methods are
-/// added: a first letter that was capital already could not be told from the name alone.
+/// Outlet names by the names of their setters. Needed because a setter's name does not tell whether
+/// the outlet starts with a capital.
 std::map<std::string, std::string>& outletsBySetter() {
   static std::map<std::string, std::string>& names = *new std::map<std::string, std::string>;
   return names;
@@ -44,7 +44,7 @@ void perform(id receiver, SEL selector, id sender) {
 
 template <class Function>
 void addMethod(Class objectClass, const std::string& name, Function* function, const char* types) {
-  // The runtime calls it with the arguments that the types tell of.
+  // The runtime calls it with the arguments described by `types`.
   class_addMethod(objectClass, sel_registerName(name.c_str()),
                   reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(function)), types);
 }

@@ -2,7 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// A round lamp: a ring while its value is 0, filled and marked with an upright bar from 2 on, so
-/// that more than the colour tells. Its values go from 0 to 2.
+/// A round lamp with values from 0 to 2: a ring below 2; at 2 it is filled and marked with an
+/// upright bar, so that colour is not the only sign.
 @interface Velk_Lamp : NSLevelIndicator
 @end

@@ -9,7 +9,7 @@ constexpr int kLit = 2;
 }  // namespace
 
 LampAdapter::LampAdapter(NSLevelIndicator* lamp) : Adapter(lamp) {
-  // Not every loader of interface files sets these; a maximum of 0 would keep the lamp dark.
+  // Not every interface loader sets these, and with a maximum of 0 the lamp would stay dark.
   [lamp setMinValue:0];
   [lamp setMaxValue:kLit];
 }

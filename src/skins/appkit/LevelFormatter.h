@@ -6,19 +6,20 @@
 
 namespace ui::appkit {
 
-/// How a level is written.
+/// Turns a level into text.
 class LevelText {
  public:
   virtual ~LevelText() = default;
+  /// `level` is in dB.
   virtual std::string text(double level) const = 0;
 };
 
 }  // namespace ui::appkit
 
-/// Shows a field's number as a level.
+/// Formats a field's number as a level.
 @interface Velk_LevelFormatter : NSFormatter {
   const ui::appkit::LevelText* _levelText;
 }
-/// Not owned; without one the plain number is shown.
+/// Not owned. Without one the plain number is shown.
 - (void)setLevelText:(const ui::appkit::LevelText*)levelText;
 @end

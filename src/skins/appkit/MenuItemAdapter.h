@@ -10,13 +10,13 @@
 
 namespace ui::appkit {
 
-/// The setting that a menu item stands for; its represented object is a dictionary of numbers.
+/// The item's represented object, a dictionary of numbers; nothing if it is anything else.
 std::optional<Dictionary> representedDictionary(NSMenuItem* item);
 
 class MenuItemAdapter final : public MenuItem {
  public:
   explicit MenuItemAdapter(NSMenuItem* item);
-  /// The item sends nothing any more that was set here.
+  /// Removes an action set here from the item.
   ~MenuItemAdapter() override;
 
   std::string title() const override;

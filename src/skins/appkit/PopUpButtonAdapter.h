@@ -10,8 +10,8 @@ namespace ui::appkit {
 
 class MenuItemAdapter;
 
-/// A menu that shows its chosen item. An item with an action of its own sends that, any other the
-/// button's.
+/// A menu button that shows the selected item. When the user picks an item, its own action is sent
+/// or, if it has none, the button's.
 class PopUpButtonAdapter final : public Adapter<PopUpButton, NSPopUpButton> {
  public:
   explicit PopUpButtonAdapter(NSPopUpButton* button);
@@ -27,7 +27,7 @@ class PopUpButtonAdapter final : public Adapter<PopUpButton, NSPopUpButton> {
   void selectItemAtIndex(int index) override;
   std::string titleOfSelectedItem() const override;
 
-  /// Null for an item of another menu.
+  /// The control for an item of this menu; null for any other.
   MenuItem* item(NSMenuItem* item);
 
  private:

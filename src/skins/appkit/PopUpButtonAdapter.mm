@@ -27,7 +27,7 @@ int PopUpButtonAdapter::indexOfItemWithTag(int tag) const {
 }
 
 int PopUpButtonAdapter::indexOfItemWithRepresentedObject(const Dictionary& object) const {
-  // The button's own search takes a NaN for different from itself.
+  // The button's own search would not find a NaN.
   for (int index = 0; index < numberOfItems(); ++index) {
     const auto represented = representedDictionary([control() itemAtIndex:index]);
     if (represented && isEqual(*represented, object)) {
@@ -41,7 +41,7 @@ void PopUpButtonAdapter::insertItemWithTitle(const std::string& title, int index
   NSMenuItem* item = [[[NSMenuItem alloc] initWithTitle:nsString(title)
                                                  action:nullptr
                                           keyEquivalent:@""] autorelease];
-  // The button itself would remove an item of the same title.
+  // Through the menu, because the button would remove an item with the same title.
   [[control() menu] insertItem:item atIndex:std::clamp(index, 0, numberOfItems())];
 }
 

@@ -6,7 +6,7 @@
 
 namespace ui::appkit {
 
-/// Holds a reference to an object and gives it back when it goes.
+/// Owns a reference to an object and releases it in the destructor.
 template <class ObjectPointer>
 class Retained {
  public:
@@ -20,7 +20,7 @@ class Retained {
   }
   ~Retained() { [object_ release]; }
 
-  /// Takes over the reference that `alloc` or `copy` gave.
+  /// Takes over a reference that the caller owns, for example from `alloc` or `copy`.
   static Retained adopt(ObjectPointer object) {
     Retained taken;
     taken.object_ = object;

@@ -9,7 +9,7 @@
 
 namespace ui::appkit {
 
-/// Runs the system's save panel modally: the chosen place, or nothing when the user cancelled.
+/// Runs the system's save panel modally. Returns the chosen file, or nothing if the user cancelled.
 std::optional<std::filesystem::path> runSavePanel(const SavePanelTexts& texts);
 
 }  // namespace ui::appkit

@@ -6,9 +6,9 @@
 
 namespace ui::appkit {
 
-/// Gives segmented controls their labels, tags and selection again, which the toolkit loses when it
-/// loads an interface file, and segments of equal width. Controls and file are matched by their
-/// order. `file` is the interface file itself.
+/// Restores the labels, tags and selection of segmented controls, which GNUstep loses when it loads
+/// an interface file, and makes their segments equally wide. Reads them from `file`, the interface
+/// file itself, in which the controls must be in the same order.
 void restoreSegments(NSArray* topLevelObjects, NSString* file);
 
 }  // namespace ui::appkit

@@ -4,11 +4,11 @@
 
 #include "skins/appkit/ViewTree.h"
 
-/// Collects the attributes of the file's segments.
+/// Collects the segments' attributes from the file.
 @interface Velk_SegmentReader : NSObject {
   NSMutableArray* _controls;
 }
-/// For each control in the file the attributes of its segments.
+/// For each control in the file, an array of its segments' attributes.
 - (NSArray*)controls;
 @end
 

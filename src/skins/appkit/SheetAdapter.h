@@ -6,7 +6,7 @@
 
 namespace ui::appkit {
 
-/// A window of the interface file that is shown as a sheet.
+/// One of the interface file's windows, shown as a sheet.
 class SheetAdapter final : public Sheet {
  public:
   explicit SheetAdapter(NSWindow* window) : window_(window) {}

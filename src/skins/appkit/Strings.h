@@ -7,9 +7,9 @@
 
 namespace ui::appkit {
 
-/// Bytes that are not UTF-8 give an empty string.
+/// Autoreleased. Empty if the bytes are not valid UTF-8.
 NSString* nsString(std::string_view utf8);
-/// Null gives an empty text.
+/// Empty for nil.
 std::string utf8(NSString* text);
 
 }  // namespace ui::appkit

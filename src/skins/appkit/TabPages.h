@@ -6,8 +6,8 @@
 
 namespace ui::appkit {
 
-/// Moves tab views so that their pages are where the interface file has them: here a page begins
-/// closer to the tabs and to the edges than on the system that the file is drawn for.
+/// Moves and resizes tab views so that their pages are where the interface file has them: GNUstep
+/// leaves less space around a page than AppKit, for which the file is drawn.
 void placePages(NSArray* topLevelObjects);
 
 }  // namespace ui::appkit

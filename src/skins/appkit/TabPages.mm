@@ -8,7 +8,7 @@ namespace ui::appkit {
 
 namespace {
 
-// What surrounds the page of a tab view with tabs and a border, in points.
+// AppKit's margins around the page of a tab view with tabs and a border, in points.
 constexpr CGFloat kSides = 10;
 constexpr CGFloat kBelow = 13;
 constexpr CGFloat kAbove = 33;

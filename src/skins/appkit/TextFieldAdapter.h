@@ -8,10 +8,10 @@ class Localization;
 
 namespace ui::appkit {
 
-/// A text that only code writes.
+/// A text field that the user cannot edit.
 ///
-/// A text in any other colour than black is bold as well, so that colour is never all that tells.
-/// On a background where a colour cannot be read it is shown in a lighter or darker tone.
+/// Text in any colour but black is also bold, so that colour is never the only sign. A colour that
+/// is hard to read on its background is made lighter or darker.
 class TextFieldAdapter final : public Adapter<TextField, NSTextField> {
  public:
   TextFieldAdapter(NSTextField* field, const Localization& localization);

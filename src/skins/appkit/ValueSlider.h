@@ -2,7 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// A slider that shows its position, as a whole number, in a field beside it.
+/// A slider that shows its position as a whole number in a text field.
 @interface Velk_ValueSlider : NSSlider {
   NSTextField* _valueField;
 }
@@ -11,7 +11,7 @@
 
 namespace ui::appkit {
 
-/// The slider's position truncated toward zero; what is no number counts as the lowest.
+/// The slider's position, clamped to its range and truncated toward zero; NaN gives the minimum.
 int wholePosition(NSSlider* slider);
 
 }  // namespace ui::appkit

@@ -30,7 +30,7 @@ int wholePosition(NSSlider* slider) {
   const double value = [slider doubleValue];
   const double lowest = [slider minValue];
   const double highest = [slider maxValue];
-  // Written so that a NaN, which compares as nothing, is the lowest.
+  // Written so that a NaN, for which every comparison is false, gives the lowest position.
   const double position = value > lowest ? (value < highest ? value : highest) : lowest;
   return static_cast<int>(position);
 }

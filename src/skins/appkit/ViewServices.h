@@ -10,7 +10,7 @@
 
 namespace ui::appkit {
 
-/// Levels as the strings table and the user's locale write them.
+/// Formats levels according to the strings table and the user's locale.
 class LocalizedLevelText final : public LevelText {
  public:
   LocalizedLevelText(const Bundle& bundle, const Localization& localization);

@@ -4,8 +4,8 @@
 
 namespace ui::appkit {
 
-/// Calls `visit` for the view and all within it, the pages of tab views included that do not show,
-/// in the order in which an interface file lists them.
+/// Calls `visit` for the view and everything in it, including the hidden pages of tab views, in the
+/// order in which an interface file lists them.
 template <class Visit>
 void forEachView(NSView* view, const Visit& visit) {
   visit(view);
@@ -22,7 +22,7 @@ void forEachView(NSView* view, const Visit& visit) {
   }
 }
 
-/// The same for every view and window among an interface file's objects.
+/// Does the same for every view and window among an interface file's top-level objects.
 template <class Visit>
 void forEachViewOf(NSArray* topLevelObjects, const Visit& visit) {
   for (NSUInteger index = 0; index < [topLevelObjects count]; ++index) {

@@ -16,7 +16,7 @@ class AccessibleButton final : public QAccessibleWidget {
   explicit AccessibleButton(QAbstractButton& button)
       : QAccessibleWidget(&button), button_(button) {}
 
-  // Asked for early, before the button has its properties.
+  // Not fixed in the constructor: this may be made before the button has its properties.
   QAccessible::Role role() const override {
     const ButtonLook look = buttonLook(&button_);
     if (look == ButtonLook::FirstSegment || look == ButtonLook::LastSegment) {
@@ -53,7 +53,7 @@ class AccessibleButton final : public QAccessibleWidget {
       QAccessibleWidget::doAction(action);
       return;
     }
-    // Later, since what the click does may take its time and the tool waits for this call.
+    // Queued, because the click may take a while and the tool waits for this call to return.
     QMetaObject::invokeMethod(&button_, &QAbstractButton::click, Qt::QueuedConnection);
   }
 
@@ -70,7 +70,7 @@ QAccessibleInterface* makeAccessibleButton(const QString& /*key*/, QObject* obje
 }  // namespace
 
 void installAccessibleButtons() {
-  // Installing it again changes nothing.
+  // Qt installs a factory only once.
   QAccessible::installFactory(makeAccessibleButton);
 }
 

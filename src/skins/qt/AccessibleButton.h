@@ -2,11 +2,10 @@
 
 namespace ui::qt {
 
-/// Lets assistive tools press and toggle `PushButton` and `CheckBox` the way a click does. Qt's own
-/// way of toggling changes a button's state without clicking it, so that its action would never be
-/// sent.
+/// Makes assistive tools press and toggle `PushButton` and `CheckBox` as a click does. Qt's own
+/// toggle action changes the state without a click, so the button's action would never be sent.
 ///
-/// The halves of a segmented control are radio buttons to such a tool.
+/// Such tools see the halves of a segmented control as radio buttons.
 void installAccessibleButtons();
 
 }  // namespace ui::qt

@@ -10,22 +10,22 @@
 
 namespace ui::qt {
 
-/// Anything that can be told what to send when the user works it.
+/// A control that sends an action when the user operates it.
 class ActionSource {
  public:
   virtual ~ActionSource() = default;
   virtual void setAction(Action action) = 0;
 };
 
-/// Sends an action; what it throws is logged and goes no further. The action may destroy its sender
-/// and the place where it is kept, so it is handed over as a copy.
+/// Sends an action; anything it throws is logged and goes no further. Takes a copy, because the
+/// action may destroy its sender and with it the stored action.
 inline void send(Action action, Object* sender) {
   if (action) {
     guarded([&] { action(sender); });
   }
 }
 
-/// What all controls share, over a widget that lives longer than the adapter.
+/// What all controls have in common. The widget must outlive the adapter.
 template <class Interface, class Widget>
 class Adapter : public Interface {
  public:
@@ -33,7 +33,7 @@ class Adapter : public Interface {
 
   bool isHidden() const override { return widget_.isHidden(); }
   void setHidden(bool hidden) override { widget_.setHidden(hidden); }
-  /// Its own state, whatever that of the widgets around it.
+  /// The widget's own state, regardless of its parents.
   bool isEnabled() const override { return !widget_.testAttribute(Qt::WA_ForceDisabled); }
   void setEnabled(bool enabled) override { widget_.setEnabled(enabled); }
   Point frameOrigin() const override { return qt::frameOrigin(widget_); }
@@ -42,7 +42,7 @@ class Adapter : public Interface {
   Widget& widget() const { return widget_; }
 
  protected:
-  /// Receiver of the widget's signals, so that they end with the adapter.
+  /// Context object for the widget's signals: the connections end with the adapter.
   const QObject* receiver() const { return &receiver_; }
 
  private:

@@ -42,13 +42,13 @@ class AudioUnitPump final : public QObject {
   QTimer timer_;
 };
 
-/// Ends the pump with the thread, if the application object lives longer. Made after the thread's
-/// run loop, it goes before it.
-struct EndOfThread {
-  EndOfThread() = default;
-  EndOfThread(const EndOfThread&) = delete;
-  EndOfThread& operator=(const EndOfThread&) = delete;
-  ~EndOfThread() { delete pump; }
+/// Destroys the pump with the thread if the application object lives longer. It is made after the
+/// thread's run loop and so destroyed before it.
+struct ThreadPump {
+  ThreadPump() = default;
+  ThreadPump(const ThreadPump&) = delete;
+  ThreadPump& operator=(const ThreadPump&) = delete;
+  ~ThreadPump() { delete pump; }
 
   QPointer<AudioUnitPump> pump;
 };
@@ -57,8 +57,8 @@ struct EndOfThread {
 
 void pumpAudioUnitEvents() {
   if (!CFRunLoopGetCurrent()->hasWakeUp()) {
-    thread_local EndOfThread end;
-    end.pump = new AudioUnitPump(QCoreApplication::instance());
+    thread_local ThreadPump current;
+    current.pump = new AudioUnitPump(QCoreApplication::instance());
   }
 }
 

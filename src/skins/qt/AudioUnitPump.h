@@ -2,9 +2,9 @@
 
 namespace ui::qt {
 
-/// Lets Qt's event loop deliver the events of audio units to listeners of the main thread, unless
-/// somebody pumps that thread's `audio_unit::RunLoop` already. It ends with the application object.
-/// Main thread only.
+/// Makes Qt's event loop deliver audio units' events to the main thread's listeners, unless that
+/// thread's `audio_unit::RunLoop` is already being pumped. Ends with the application object or the
+/// thread, whichever goes first. Main thread only.
 void pumpAudioUnitEvents();
 
 }  // namespace ui::qt

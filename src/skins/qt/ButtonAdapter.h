@@ -6,8 +6,8 @@
 
 namespace ui::qt {
 
-/// A push button; one that is checkable is an on/off button or a check box. Its dynamic property
-/// `tag` is its tag.
+/// A push button or, if it is checkable, an on/off button or check box. The dynamic property `tag`
+/// holds its tag.
 class ButtonAdapter final : public Adapter<Button, QAbstractButton>, public ActionSource {
  public:
   explicit ButtonAdapter(QAbstractButton& button);

@@ -21,7 +21,7 @@ class CaptionClick final : public QObject {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonPress) {
-      // Taken, so that the release comes here too.
+      // Accept the press so that the release comes here too.
       return static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
     }
     if (event->type() != QEvent::MouseButtonRelease) {
@@ -50,7 +50,7 @@ void connectCaptionClicks(QWidget& view) {
     auto* button = view.findChild<QAbstractButton*>(name);
     if (button == nullptr) {
       throw InterfaceError("widget \"" + caption->objectName().toStdString() +
-                           "\" stands for a button that is not there: \"" + name.toStdString() +
+                           "\" clicks a button that does not exist: \"" + name.toStdString() +
                            "\"");
     }
     new CaptionClick(*caption, *button);

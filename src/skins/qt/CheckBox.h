@@ -4,7 +4,7 @@
 
 namespace ui::qt {
 
-/// A check box of a view, which assistive tools work as a click does.
+/// A view's check box. A class of its own so that `installAccessibleButtons` recognises it.
 class CheckBox final : public QCheckBox {
  public:
   using QCheckBox::QCheckBox;

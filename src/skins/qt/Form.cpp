@@ -32,8 +32,8 @@ namespace {
 
 constexpr const char* kSeparatorTitle = "-";
 
-/// Makes the skin's own classes beside Qt's, and gives every widget the skin's style while there is
-/// no layout yet that would have to follow.
+/// Makes the skin's own widget classes as well as Qt's. Sets the skin's style while there is no
+/// layout yet that would have to be recomputed.
 class WidgetFactory final : public QUiLoader {
  public:
   explicit WidgetFactory(QStyle& style) : style_(style) {}
@@ -64,7 +64,7 @@ class WidgetFactory final : public QUiLoader {
     return widget;
   }
 
-  /// A class that nobody could make; empty if there was none.
+  /// The last class that could not be made; empty if there was none.
   const std::string& unknownClass() const { return unknownClass_; }
 
  private:
@@ -72,9 +72,9 @@ class WidgetFactory final : public QUiLoader {
   std::string unknownClass_;
 };
 
-/// Qt's grid layout takes any number for a place and writes outside its memory for a negative one.
-void requirePlaceOfGrid(std::string_view item) {
-  constexpr int kMostPlaces = 1000;
+/// Qt's grid layout accepts any number and, if it is negative, writes out of bounds.
+void requireValidGridPlace(std::string_view item) {
+  constexpr int kMaxPlace = 1000;
   for (const std::string_view attribute : {"row=\"", "column=\"", "rowspan=\"", "colspan=\""}) {
     const std::size_t at = item.find(attribute);
     if (at == std::string_view::npos) {
@@ -84,27 +84,27 @@ void requirePlaceOfGrid(std::string_view item) {
     value = value.substr(0, value.find('"'));
     int place = -1;
     const auto read = std::from_chars(value.data(), value.data() + value.size(), place);
-    if (read.ec != std::errc() || place < 0 || place > kMostPlaces) {
-      throw InterfaceError("no grid has the place \"" + std::string(value) + "\"");
+    if (read.ec != std::errc() || place < 0 || place > kMaxPlace) {
+      throw InterfaceError("\"" + std::string(value) + "\" is not a place in a grid");
     }
   }
 }
 
-void requirePlacesOfGrids(std::string_view form) {
+void requireValidGridPlaces(std::string_view form) {
   constexpr std::string_view kItem = "<item ";
   for (std::size_t at = form.find(kItem); at != std::string_view::npos;
        at = form.find(kItem, at + kItem.size())) {
-    requirePlaceOfGrid(form.substr(at, form.find('>', at) - at));
+    requireValidGridPlace(form.substr(at, form.find('>', at) - at));
   }
 }
 
-std::unique_ptr<QWidget> read(const std::filesystem::path& path, QStyle& style) {
+std::unique_ptr<QWidget> readWidgets(const std::filesystem::path& path, QStyle& style) {
   QFile file(QString::fromStdString(path.string()));
   if (!file.open(QIODevice::ReadOnly)) {
     throw InterfaceError("cannot be opened: " + file.errorString().toStdString());
   }
   QByteArray form = file.readAll();
-  requirePlacesOfGrids({form.constData(), static_cast<std::size_t>(form.size())});
+  requireValidGridPlaces({form.constData(), static_cast<std::size_t>(form.size())});
   QBuffer buffer(&form);
   buffer.open(QIODevice::ReadOnly);
   WidgetFactory factory(style);
@@ -118,12 +118,12 @@ std::unique_ptr<QWidget> read(const std::filesystem::path& path, QStyle& style) 
   return top;
 }
 
-/// Takes the sheets out before the view, which is the page that shows: a page that comes to the
-/// front is laid out at once.
-std::unique_ptr<QtView> takeApart(QWidget& top) {
+/// Turns the sheets into windows and returns the view. Removes the sheets first, because removing
+/// the view, which is the current page, would bring a sheet to the front and lay it out at once.
+std::unique_ptr<QtView> extractView(QWidget& top) {
   auto* pages = qobject_cast<QStackedWidget*>(&top);
   if (pages == nullptr) {
-    throw InterfaceError("its top widget is no QStackedWidget");
+    throw InterfaceError("its top widget is not a QStackedWidget");
   }
   QtView* view = nullptr;
   std::vector<SheetDialog*> sheets;
@@ -135,7 +135,7 @@ std::unique_ptr<QtView> takeApart(QWidget& top) {
       sheets.push_back(sheet);
     } else {
       throw InterfaceError("page \"" + page->objectName().toStdString() +
-                           "\" is neither its one view nor a sheet");
+                           "\" is neither the one view nor a sheet");
     }
   }
   if (view == nullptr) {
@@ -159,7 +159,7 @@ void makeSeparators(QComboBox& box) {
   }
 }
 
-void dress(QtView& view, QSize drawnSize) {
+void applyProperties(QtView& view, QSize drawnSize) {
   const TextStyles textStyles;
   view.setFont(viewFont());
   for (QWidget* widget : view.findChildren<QWidget*>()) {
@@ -184,14 +184,14 @@ void dress(QtView& view, QSize drawnSize) {
 }  // namespace
 
 Form loadForm(const std::filesystem::path& file) {
-  // Before any button is made: what assistive tools see of a widget is settled early.
+  // Before any button is made, because Qt may create a widget's accessible interface early.
   installAccessibleButtons();
   auto style = std::make_unique<SkinStyle>();
-  const std::unique_ptr<QWidget> top = read(file, *style);
+  const std::unique_ptr<QWidget> top = readWidgets(file, *style);
   Form form;
   form.drawnSize = top->size();
-  form.view = takeApart(*top);
-  dress(*form.view, form.drawnSize);
+  form.view = extractView(*top);
+  applyProperties(*form.view, form.drawnSize);
   form.view->setSkinStyle(std::move(style));
   connectCaptionClicks(*form.view);
   return form;

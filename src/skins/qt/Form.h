@@ -10,14 +10,14 @@ namespace ui::qt {
 
 /// The widgets of an interface file, not yet connected to anything.
 struct Form {
-  /// Without a parent; the sheets are windows that belong to it.
+  /// Has no parent. The sheets are its child windows.
   std::unique_ptr<QtView> view;
-  /// The size of the view as the file draws it.
+  /// The view's size as drawn in the file.
   QSize drawnSize;
 };
 
-/// Reads the file, gives the widgets the skin's look and takes view and sheets apart. Throws
-/// `InterfaceError`, whose message names the fault but not the file.
+/// Reads the file, gives the widgets the skin's look and separates the view from the sheets. Throws
+/// `InterfaceError`, whose message describes the fault but does not name the file.
 Form loadForm(const std::filesystem::path& file);
 
 }  // namespace ui::qt

@@ -8,19 +8,20 @@ class QWidget;
 
 namespace ui::qt {
 
-/// The dynamic property (a point) that gives a widget outside every layout its place: its lower
-/// left corner, x from the left edge of its parent, y upwards from the lower edge of the view as
-/// the interface file draws it.
+/// The dynamic property (a point) that places a widget which is in no layout. It is the widget's
+/// lower left corner: x from the left edge of its parent, y upwards from the lower edge of the view
+/// as drawn in the interface file.
 inline constexpr const char* kFrameOriginProperty = "frameOrigin";
 
+/// The value of `kFrameOriginProperty` or, without one, the lower left corner in the parent.
 Point frameOrigin(const QWidget& widget);
-/// A widget in a layout stays where the layout puts it.
+/// Sets `kFrameOriginProperty`. A widget in a layout stays where the layout puts it.
 void setFrameOrigin(QWidget& widget, Point origin);
 
-/// Keeps a widget where its `kFrameOriginProperty` says. Belongs to the widget.
+/// Keeps a widget where its `kFrameOriginProperty` says. The widget owns it.
 class FramePlacement final : public QObject {
  public:
-  /// `drawnHeight` is the view's height in the interface file. The view encloses the widget.
+  /// `view` is an ancestor of the widget; `drawnHeight` is its height in the interface file.
   FramePlacement(QWidget& widget, QWidget& view, int drawnHeight);
 
  protected:

@@ -8,7 +8,7 @@ namespace ui::qt {
 
 namespace {
 
-/// Which key of a keyboard writes what Qt names, by its number in Linux's input-event-codes.
+/// A Qt::Key and the number, from Linux's input-event-codes, of the key that types it.
 struct Key {
   int qtKey;
   std::uint32_t evdev;
@@ -93,7 +93,7 @@ constexpr Key kKeys[] = {
     {Qt::Key_PageDown, 109},
     {Qt::Key_Delete, 111},
     {Qt::Key_Help, 138},
-    // A keyboard without a Help key has Insert in its place.
+    // Keyboards without a Help key have Insert in its place.
     {Qt::Key_Insert, 110},
 };
 
@@ -115,13 +115,13 @@ constexpr Key kKeypad[] = {
     {Qt::Key_Enter, 96},
     {Qt::Key_Slash, 98},
     {Qt::Key_Equal, 117},
-    // Num Lock is where the other layout has Clear.
+    // Clear is in the place of Num Lock.
     {Qt::Key_NumLock, 69},
     {Qt::Key_Clear, 69},
     {Qt::Key_Comma, 83},
 };
 
-/// Scan codes up to this stand for no key.
+/// X11 and Wayland scan codes are a key's number plus this; lower ones stand for no key.
 constexpr std::uint32_t kScanCodeOffset = 8;
 
 }  // namespace

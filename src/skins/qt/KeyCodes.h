@@ -11,11 +11,12 @@ namespace ui::qt {
 using ui::kNoPositionCode;
 using ui::positionCodeForEvdev;
 
-/// By what the key writes, for events that no keyboard made. `qtKey` is a Qt::Key.
+/// The position of the key that types `qtKey`, a Qt::Key, on a US keyboard; for events that come
+/// from no keyboard. `onKeypad` prefers a key on the keypad. `kNoPositionCode` if there is none.
 std::uint16_t positionCodeForQtKey(int qtKey, bool onKeypad);
 
-/// Of a key press. X11 and Wayland give the key's number plus 8 as its scan code; an event without
-/// one is taken by what it writes.
+/// The position of a pressed key. X11 and Wayland give the key's number plus 8 as its scan code; an
+/// event without a scan code is mapped by its Qt::Key.
 std::uint16_t positionCode(const QKeyEvent& event);
 
 }  // namespace ui::qt

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kSize = 12;
 
-/// Tells assistive technology that it is an indicator, and whether it is lit.
+/// Tells assistive tools that the lamp is an indicator, and whether it is lit.
 class AccessibleLamp final : public QAccessibleWidget {
  public:
   explicit AccessibleLamp(Lamp& lamp) : QAccessibleWidget(&lamp, QAccessible::Indicator) {}
@@ -41,7 +41,7 @@ QAccessibleInterface* makeAccessibleLamp(const QString& /*key*/, QObject* object
 }  // namespace
 
 Lamp::Lamp(QWidget* parent) : QWidget(parent) {
-  // Installing it again changes nothing.
+  // Qt installs a factory only once.
   QAccessible::installFactory(makeAccessibleLamp);
 }
 

@@ -4,13 +4,14 @@
 
 namespace ui::qt {
 
-/// A lamp that differs in form and colour: dark, a dim round spot; lit, a bright square.
+/// A lamp that shows its state by shape as well as colour: a dim round spot when dark, a bright
+/// square when lit.
 class Lamp final : public QWidget {
  public:
   explicit Lamp(QWidget* parent = nullptr);
 
   int value() const { return value_; }
-  /// 0 is dark.
+  /// 0 is dark, anything else lit.
   void setValue(int value);
   bool isLit() const { return value_ != 0; }
 

@@ -37,7 +37,7 @@ bool PopUpBox::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseButtonRelease) {
     const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
     const QModelIndex item = view()->indexAt(place);
-    // Qt would pick the item that was under the pointer before.
+    // Qt would pick the item that the pointer was over before.
     if (item.isValid() && !item.flags().testFlag(Qt::ItemIsEnabled)) {
       return true;
     }

@@ -4,9 +4,9 @@
 
 namespace ui::qt {
 
-/// A combo box that behaves like a menu button: closed, it opens on Space and the arrow keys and
-/// leaves every other key to the widgets around it, so that no key picks an item by its first
-/// letter. The wheel does nothing, and neither does a click on a separator.
+/// A combo box that behaves like a menu button. While closed it opens on Space, Up and Down and
+/// leaves all other keys to its parents, so that no letter selects an item. The wheel and a click
+/// on a separator have no effect.
 class PopUpBox final : public QComboBox {
  public:
   explicit PopUpBox(QWidget* parent = nullptr);

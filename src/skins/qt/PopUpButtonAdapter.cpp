@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// An item knows its title only through the button, which may have moved it.
+/// An item finds its title through the button, because its index may change.
 class PopUpButtonAdapter::Item final : public MenuItem {
  public:
   explicit Item(const PopUpButtonAdapter& button) : button_(button) {}
@@ -39,7 +39,7 @@ PopUpButtonAdapter::PopUpButtonAdapter(QComboBox& box) : Adapter(box) {
     items_.push_back(std::make_unique<Item>(*this));
   }
   QObject::connect(&box, &QComboBox::activated, receiver(),
-                   [this](int index) { userPicked(index); });
+                   [this](int index) { sendActionOfItem(index); });
 }
 
 PopUpButtonAdapter::~PopUpButtonAdapter() = default;
@@ -99,7 +99,7 @@ void PopUpButtonAdapter::setTag(int index, int tag) {
   items_.at(static_cast<std::size_t>(index))->setTag(tag);
 }
 
-void PopUpButtonAdapter::userPicked(int index) {
+void PopUpButtonAdapter::sendActionOfItem(int index) {
   if (index < 0 || index >= numberOfItems()) {
     return;
   }

@@ -8,8 +8,8 @@
 
 namespace ui::qt {
 
-/// A menu that shows its chosen item. When the user picks an item, the item's own action is sent,
-/// or the button's if the item has none.
+/// A menu button that shows the selected item. When the user picks an item, its own action is sent
+/// or, if it has none, the button's.
 class PopUpButtonAdapter final : public QObject,
                                  public Adapter<PopUpButton, QComboBox>,
                                  public ActionSource {
@@ -33,7 +33,7 @@ class PopUpButtonAdapter final : public QObject,
  private:
   class Item;
 
-  void userPicked(int index);
+  void sendActionOfItem(int index);
 
   std::vector<std::unique_ptr<Item>> items_;
   Action action_;

@@ -7,7 +7,7 @@ namespace ui::qt {
 
 namespace {
 
-constexpr int kLeastSpace = 12;
+constexpr int kMinimumPadding = 12;
 
 }  // namespace
 
@@ -17,11 +17,11 @@ PushButton::PushButton(QWidget* parent) : QPushButton(parent) {
 
 QSize PushButton::minimumSizeHint() const {
   const QSize wanted = sizeHint();
-  // An on button's title is bold.
+  // The title is bold while the button is on.
   QFont bold = font();
   bold.setBold(true);
   const int title = QFontMetrics(bold).horizontalAdvance(text());
-  return {std::min(wanted.width(), title + kLeastSpace), wanted.height()};
+  return {std::min(wanted.width(), title + kMinimumPadding), wanted.height()};
 }
 
 }  // namespace ui::qt

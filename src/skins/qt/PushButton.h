@@ -4,8 +4,7 @@
 
 namespace ui::qt {
 
-/// A push button that, where room is scarce, gives up the space around its title but never a part
-/// of the title.
+/// A push button that can shrink to little more than its title, but never cuts the title off.
 class PushButton final : public QPushButton {
  public:
   explicit PushButton(QWidget* parent = nullptr);

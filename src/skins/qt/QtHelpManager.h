@@ -11,12 +11,13 @@ class Bundle;
 
 namespace ui::qt {
 
-/// Opens the help page that travels with the bundle, in the bundle's language if there is one.
+/// Opens the bundle's help page, in the bundle's language if there is one.
 class QtHelpManager final : public HelpManager {
  public:
   /// `openUrl` shows a document to the user; null for the desktop's own way.
   QtHelpManager(const Bundle& bundle, std::function<bool(const QUrl&)> openUrl);
-  /// The page is "help/index.<language>.html", else "help/index.html". There is one book only.
+  /// Opens "help/index.<language>.html" or, failing that, "help/index.html", and logs a failure.
+  /// There is only one book.
   void openHelpAnchor(const std::string& anchor, const std::string& book) override;
 
  private:

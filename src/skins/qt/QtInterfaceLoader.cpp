@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "skins/qt/AudioUnitPump.h"
-#include "skins/qt/Captions.h"
+#include "skins/qt/CaptionTranslation.h"
 #include "skins/qt/Form.h"
 #include "skins/qt/ViewServices.h"
 #include "skins/qt/Wiring.h"
@@ -29,7 +29,7 @@ std::unique_ptr<QtView> load(const std::filesystem::path& file, const Environmen
   translateCaptions(view, toolkit.bundle);
   std::unique_ptr<InterfaceObjects> objects = makeObjects(view, toolkit);
   wire(view, *objects, toolkit);
-  // Only objects whose outlets are all filled become the view's.
+  // The view takes the objects only now that all their outlets are filled.
   view.setObjects(std::move(objects));
   view.watchControls();
   return std::move(form.view);
@@ -43,7 +43,7 @@ QtInterfaceLoader::QtInterfaceLoader(Environment environment)
 std::unique_ptr<NativeView> QtInterfaceLoader::loadNibNamed(
     std::string_view name, const MakeInterfaceObjects& makeObjects) {
   const std::filesystem::path file = environment_.resources / (std::string(name) + ".ui");
-  // Who drives the view's time drives the events of units as well.
+  // Whoever provides the run loop delivers audio units' events, too.
   if (!environment_.makeRunLoop) {
     pumpAudioUnitEvents();
   }

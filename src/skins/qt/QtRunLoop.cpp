@@ -15,7 +15,7 @@ class RepeatingTimer final : public Timer {
   RepeatingTimer(double interval, std::function<void()> fire) {
     timer_.setTimerType(Qt::PreciseTimer);
     timer_.setInterval(static_cast<int>(std::lround(interval * 1000.0)));
-    // The work is copied for the call: it may destroy this timer.
+    // Call a copy, because the work may destroy this timer.
     QObject::connect(&timer_, &QTimer::timeout,
                      [fire = std::move(fire)] { guarded(std::function<void()>(fire)); });
     timer_.start();
@@ -28,9 +28,9 @@ class RepeatingTimer final : public Timer {
   QTimer timer_;
 };
 
-class Later final : public Deferred {
+class DeferredCall final : public Deferred {
  public:
-  explicit Later(std::function<void()> work) {
+  explicit DeferredCall(std::function<void()> work) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout,
                      [work = std::move(work)] { guarded(std::function<void()>(work)); });
@@ -48,7 +48,7 @@ std::unique_ptr<Timer> QtRunLoop::scheduledTimer(double interval, std::function<
 }
 
 std::unique_ptr<Deferred> QtRunLoop::performLater(std::function<void()> work) {
-  return std::make_unique<Later>(std::move(work));
+  return std::make_unique<DeferredCall>(std::move(work));
 }
 
 }  // namespace ui::qt

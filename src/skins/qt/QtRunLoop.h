@@ -4,7 +4,7 @@
 
 namespace ui::qt {
 
-/// Qt's event loop. It knows no modes: every timer fires whatever the loop is busy with.
+/// Qt's event loop. It has no modes: every timer fires in all of them.
 class QtRunLoop final : public RunLoop {
  public:
   std::unique_ptr<Timer> scheduledTimer(double interval, std::function<void()> fire) override;

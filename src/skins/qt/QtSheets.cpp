@@ -14,7 +14,7 @@ namespace ui::qt {
 
 namespace {
 
-/// The text of an alert without an icon is indented by itself.
+/// Narrow on the left, because an alert without an icon already indents its text.
 constexpr QMargins kAlertMargins(3, 24, 24, 24);
 
 class AlertWindow final : public Window {};
@@ -25,32 +25,32 @@ SheetDialog& dialogOf(Sheet& sheet) {
 
 }  // namespace
 
-QtSheets::QtSheets(QWidget& view, std::function<void()> didLeave)
-    : view_(view), didLeave_(std::move(didLeave)) {}
+QtSheets::QtSheets(QWidget& view, std::function<void()> didClose)
+    : view_(view), didClose_(std::move(didClose)) {}
 
 QtSheets::~QtSheets() {
   cancelAll();
 }
 
 void QtSheets::cancelAll() {
-  for (const auto& [sheet, didEnd] : std::exchange(begun_, {})) {
+  for (const auto& [sheet, didEnd] : std::exchange(open_, {})) {
     dialogOf(*sheet).hide();
   }
   delete alert_;
 }
 
 void QtSheets::beginSheet(Sheet& sheet, View& /*control*/, std::function<void(int code)> didEnd) {
-  begun_[&sheet] = std::move(didEnd);
-  dialogOf(sheet).begin();
+  open_[&sheet] = std::move(didEnd);
+  dialogOf(sheet).showAsSheet();
 }
 
 void QtSheets::endSheet(Sheet& sheet, int code) {
-  const auto begun = begun_.find(&sheet);
-  if (begun == begun_.end()) {
+  const auto found = open_.find(&sheet);
+  if (found == open_.end()) {
     return;
   }
-  const std::function<void(int)> didEnd = std::move(begun->second);
-  begun_.erase(begun);
+  const std::function<void(int)> didEnd = std::move(found->second);
+  open_.erase(found);
   if (didEnd) {
     didEnd(code);
   }
@@ -58,7 +58,7 @@ void QtSheets::endSheet(Sheet& sheet, int code) {
 
 void QtSheets::orderOut(Sheet& sheet) {
   dialogOf(sheet).hide();
-  didLeave_();
+  didClose_();
 }
 
 void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
@@ -84,14 +84,14 @@ void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
       alert_, &QMessageBox::finished,
       [this, box = alert_.data(), alternate, didEnd = std::move(didEnd)] {
         const bool chosen = box->clickedButton() == alternate;
-        // What the alert asked about may end the view.
+        // The answer may destroy the view.
         const QPointer<QWidget> view = &view_;
         box->deleteLater();
         alert_.clear();
         AlertWindow window;
         guarded([&] { didEnd(window, chosen ? kAlertAlternateReturn : kAlertDefaultReturn); });
         if (view != nullptr) {
-          didLeave_();
+          didClose_();
         }
       });
   alert_->open();
@@ -100,7 +100,7 @@ void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
 std::optional<std::filesystem::path> QtSheets::runSavePanel(const SavePanelTexts& texts,
                                                             View& /*control*/) {
   QWidget* over = &view_;
-  for (const auto& [sheet, didEnd] : begun_) {
+  for (const auto& [sheet, didEnd] : open_) {
     over = &dialogOf(*sheet);
   }
   return qt::runSavePanel(texts, *over);

@@ -13,14 +13,14 @@ namespace ui::qt {
 
 class SheetDialog;
 
-/// Sheets of one view: windows that are modal to the view's own window and leave the event loop
-/// running; only the save panel runs a loop of its own.
+/// One view's sheets: dialogs that are modal to the view's window. None of them blocks the caller
+/// except the save panel, which runs an event loop of its own.
 class QtSheets final : public Sheets {
  public:
-  /// `didLeave` is called whenever a sheet has been ordered out or an alert was answered.
-  QtSheets(QWidget& view, std::function<void()> didLeave);
+  /// `didClose` is called after a sheet has been ordered out or an alert answered.
+  QtSheets(QWidget& view, std::function<void()> didClose);
   ~QtSheets() override;
-  /// Takes away what is open; no end function is called.
+  /// Closes whatever is open without calling its `didEnd`.
   void cancelAll();
 
   void beginSheet(Sheet& sheet, View& control, std::function<void(int code)> didEnd) override;
@@ -33,8 +33,9 @@ class QtSheets final : public Sheets {
 
  private:
   QWidget& view_;
-  std::function<void()> didLeave_;
-  std::map<Sheet*, std::function<void(int)>> begun_;
+  std::function<void()> didClose_;
+  /// What to call when each open sheet ends.
+  std::map<Sheet*, std::function<void(int)>> open_;
   QPointer<QMessageBox> alert_;
 };
 

@@ -17,7 +17,7 @@ QtView::QtView(QWidget* parent) : QWidget(parent) {
 }
 
 QtView::~QtView() {
-  // The host's observer and the widget itself are no more to be changed by the teardown.
+  // The teardown must no longer reach the host's observer.
   frameSizeObserver_ = nullptr;
   for (QWidget* control : findChildren<QWidget*>()) {
     control->removeEventFilter(this);
@@ -49,7 +49,7 @@ void QtView::watchControls() {
       continue;
     }
     control->installEventFilter(this);
-    // A click leaves the keys with the view; Tab still reaches every control.
+    // A click leaves the focus on the view; Tab still reaches every control.
     if (control->focusPolicy() != Qt::NoFocus) {
       control->setFocusPolicy(Qt::TabFocus);
     }
@@ -88,16 +88,16 @@ void QtView::makeFirstResponder() {
 }
 
 void QtView::interpretKeyEvents(const KeyEvent& event) {
-  handedOn_ = event.native;
+  passedOn_ = event.native;
 }
 
 bool QtView::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::ParentChange:
-      parentChanged();
+      handleParentChange();
       break;
     case QEvent::KeyPress:
-      // Presses that a control in the view left over come up here; they have been seen.
+      // Presses that a control ignored propagate up to here; the event filter has dispatched those.
       if (!hasFocusedControl() && !dispatch(static_cast<QKeyEvent&>(*event))) {
         return true;
       }
@@ -127,7 +127,7 @@ bool QtView::eventFilter(QObject* watched, QEvent* event) {
 
 void QtView::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  windowMayHaveChanged();
+  announceWindow();
 }
 
 void QtView::hideEvent(QHideEvent* event) {
@@ -137,21 +137,21 @@ void QtView::hideEvent(QHideEvent* event) {
   }
 }
 
-void QtView::parentChanged() {
+void QtView::handleParentChange() {
   if (!objects_) {
     return;
   }
   const bool hasNewSuperview = parentWidget() != nullptr;
   guarded([&] { objects_->view().viewWillMoveToSuperview(hasNewSuperview); });
   if (hasNewSuperview) {
-    windowMayHaveChanged();
+    announceWindow();
   } else {
     window_ = nullptr;
     services_->sheets().cancelAll();
   }
 }
 
-void QtView::windowMayHaveChanged() {
+void QtView::announceWindow() {
   if (objects_ && hasWindow() && std::exchange(window_, window()) != window()) {
     guarded([this] { objects_->view().viewDidMoveToWindow(); });
   }
@@ -170,11 +170,11 @@ bool QtView::dispatch(QKeyEvent& event) {
   if (!objects_) {
     return true;
   }
-  // The press may be what ends the view.
+  // The key press may destroy this view.
   const QPointer<QtView> self = this;
-  handedOn_ = nullptr;
+  passedOn_ = nullptr;
   guarded([&] { objects_->view().keyDown({positionCode(event), &event}); });
-  return self != nullptr && std::exchange(handedOn_, nullptr) == &event;
+  return self != nullptr && std::exchange(passedOn_, nullptr) == &event;
 }
 
 }  // namespace ui::qt

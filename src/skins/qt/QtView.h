@@ -16,25 +16,25 @@ namespace ui::qt {
 
 class ViewServices;
 
-/// The widget of a custom view. It owns the view's objects, their controls and services, and takes
-/// them down while its child widgets are still there.
+/// The widget of a custom view. It owns the view's objects, their controls and services, and
+/// destroys them while its child widgets still exist.
 ///
-/// Its size is fixed to what the custom view wants; who wants another asks `setFrameSize`.
+/// Its size is fixed to what the custom view wants; use `setFrameSize` to ask for another.
 ///
-/// Key presses go to the custom view, whichever control in the view has the focus, and then take
-/// Qt's own way. Presses in other windows, in an open menu or where text is edited are not the
-/// view's.
+/// Key presses go first to the custom view, whichever of its controls has the focus; those that it
+/// passes on then take Qt's usual path. The view does not get presses in other windows, in an open
+/// menu or where text is being edited.
 class QtView final : public QWidget, public NativeView {
  public:
   explicit QtView(QWidget* parent = nullptr);
   ~QtView() override;
 
-  // What an interface loader puts into it. All live as long as the view.
+  // For the interface loader. The view owns all of these.
   void setSkinStyle(std::unique_ptr<QStyle> style);
   void setServices(std::unique_ptr<ViewServices> services);
   void setObjects(std::unique_ptr<InterfaceObjects> objects);
   void addControl(std::unique_ptr<Object> control);
-  /// Once all widgets are there: from now on their key presses and clicks are seen.
+  /// Starts to watch the key presses and clicks of all child widgets, which must exist by now.
   void watchControls();
 
   InterfaceObjects& objects() { return *objects_; }
@@ -54,11 +54,12 @@ class QtView final : public QWidget, public NativeView {
   void hideEvent(QHideEvent* event) override;
 
  private:
-  void parentChanged();
-  void windowMayHaveChanged();
+  void handleParentChange();
+  /// Tells the custom view if its window has changed.
+  void announceWindow();
   bool isControlOfThisWindow(const QObject* object) const;
   bool hasFocusedControl() const;
-  /// Lets the custom view have a press. True if it was handed on to Qt's own handling.
+  /// Gives a key press to the custom view. Returns whether that passed it on to Qt.
   bool dispatch(QKeyEvent& event);
 
   std::unique_ptr<QStyle> style_;
@@ -67,10 +68,10 @@ class QtView final : public QWidget, public NativeView {
   std::unique_ptr<InterfaceObjects> objects_;
   std::function<void(Size)> frameSizeObserver_;
   Size size_;
-  /// The window that the custom view was last told of; only its identity counts.
+  /// The window that the custom view was last told about. Only compared: it may be gone.
   const QWidget* window_ = nullptr;
-  /// The press that the custom view has handed on.
-  const void* handedOn_ = nullptr;
+  /// The key press that the custom view has passed on.
+  const void* passedOn_ = nullptr;
 };
 
 }  // namespace ui::qt

@@ -9,8 +9,8 @@ namespace ui::qt {
 
 namespace {
 
-/// Asks for a file of one type. The toolkit's own dialog takes what follows a dot for a type of the
-/// user's: "mix v1.2" would stay without one.
+/// Asks for a file of one type. Qt's own dialog takes whatever follows a dot for an extension, so
+/// that "mix v1.2" would get none.
 class TypedFileDialog final : public QFileDialog {
  public:
   TypedFileDialog(QWidget* parent, const QString& title, const QString& folder, const QString& type)
@@ -25,7 +25,7 @@ class TypedFileDialog final : public QFileDialog {
         !QFileInfo(file).isDir()) {
       selectFile(file + ending_);
     }
-    // Asks before it takes a file that exists.
+    // This asks before it replaces an existing file.
     QFileDialog::accept();
   }
 
@@ -37,7 +37,7 @@ class TypedFileDialog final : public QFileDialog {
 
 std::optional<std::filesystem::path> runSavePanel(const SavePanelTexts& texts, QWidget& parent) {
   const QString type = QString::fromStdString(texts.allowedFileType);
-  // The parent may be destroyed while the dialog runs, and takes the dialog with it.
+  // The parent may be destroyed while the dialog runs, and the dialog with it.
   const QPointer<QFileDialog> dialog = new TypedFileDialog(
       &parent, QString::fromStdString(texts.title),
       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), type);

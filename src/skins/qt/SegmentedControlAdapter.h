@@ -7,8 +7,8 @@
 
 namespace ui::qt {
 
-/// A row of checkable buttons of which one at most is on: the buttons directly in a widget, in the
-/// order of its layout. The left and right arrow keys go from one to the next and select it.
+/// A row of checkable buttons, at most one of which is on. Its segments are the buttons in the
+/// widget's own layout. The left and right arrow keys select the neighbouring segment.
 class SegmentedControlAdapter final : public QObject,
                                       public Adapter<SegmentedControl, QWidget>,
                                       public ActionSource {
@@ -29,7 +29,7 @@ class SegmentedControlAdapter final : public QObject,
   Action action_;
 };
 
-/// The buttons directly in the widget, in the order of its layout.
+/// The buttons in the widget's own layout, in order.
 std::vector<QAbstractButton*> segmentsOf(const QWidget& widget);
 
 }  // namespace ui::qt

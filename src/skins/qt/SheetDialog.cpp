@@ -12,12 +12,12 @@ SheetDialog::SheetDialog(QWidget* parent) : QDialog(parent) {}
 void SheetDialog::becomeWindowOf(QWidget& view) {
   setParent(&view, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
   setWindowModality(Qt::WindowModal);
-  // Texts and colours are the view's.
+  // The sheet inherits the view's font and palette.
   setAttribute(Qt::WA_WindowPropagation);
   hide();
 }
 
-void SheetDialog::begin() {
+void SheetDialog::showAsSheet() {
   layout()->activate();
   const QSize wanted = layout()->totalSizeHint();
   const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(wanted.width())

@@ -6,19 +6,20 @@
 
 namespace ui::qt {
 
-/// A sheet of the interface file: a page there, a document-modal window when it is shown. Escape
-/// and closing it press the button whose dynamic property `cancels` is true; a sheet without one
-/// can only be left by its other buttons.
+/// A sheet: a page in the interface file, a window-modal dialog when shown. Escape and closing the
+/// window press the button whose dynamic property `cancels` is true; without one they are ignored.
 class SheetDialog final : public QDialog {
  public:
   explicit SheetDialog(QWidget* parent = nullptr);
 
-  /// Makes the page a window over `view`.
+  /// Makes the page a window of its own, with `view` as its parent.
   void becomeWindowOf(QWidget& view);
-  /// Shows it as wide as it was drawn at least, and as high as its texts need.
-  void begin();
+  /// Shows the sheet, as wide as its layout asks for and as high as its texts then need.
+  void showAsSheet();
 
+  /// Called for Escape and for closing the window.
   void reject() override;
+  /// Does nothing: the sheet is closed only through `QtSheets`.
   void accept() override {}
 };
 

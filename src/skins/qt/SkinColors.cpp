@@ -1,6 +1,6 @@
 #include "skins/qt/SkinColors.h"
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 
 namespace ui::qt {
 

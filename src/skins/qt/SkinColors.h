@@ -5,12 +5,13 @@
 
 namespace ui::qt {
 
-/// The few colours that the skin paints with, all taken from the system's palette.
+/// The colours that the skin paints with. They derive from the system's palette, except the red of
+/// a lit lamp.
 struct SkinColors {
   QColor window;
   QColor text;
   QColor secondaryText;
-  /// Hairlines between parts of a page.
+  /// Hairlines between the parts of a page.
   QColor line;
   QColor controlFill;
   QColor controlBorder;

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <algorithm>
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 
 namespace ui::qt {
 
@@ -30,16 +30,16 @@ bool showsFocus(const QStyleOption& option) {
   return option.state.testFlag(QStyle::State_HasFocus);
 }
 
-/// Saves and restores a painter's state, and smooths edges in between.
-class Smooth {
+/// Turns antialiasing on, and restores the painter's state at the end of the scope.
+class AntialiasingScope {
  public:
-  explicit Smooth(QPainter& painter) : painter_(painter) {
+  explicit AntialiasingScope(QPainter& painter) : painter_(painter) {
     painter_.save();
     painter_.setRenderHint(QPainter::Antialiasing);
   }
-  Smooth(const Smooth&) = delete;
-  Smooth& operator=(const Smooth&) = delete;
-  ~Smooth() { painter_.restore(); }
+  AntialiasingScope(const AntialiasingScope&) = delete;
+  AntialiasingScope& operator=(const AntialiasingScope&) = delete;
+  ~AntialiasingScope() { painter_.restore(); }
 
  private:
   QPainter& painter_;
@@ -53,7 +53,7 @@ QColor fillColor(const SkinColors& colors, const QStyleOption& option, bool on) 
   return isHovered(option) ? mixed(fill, colors.text, 0.05) : fill;
 }
 
-/// A rounded rectangle whose corners on one side may be square.
+/// A rounded rectangle; a segment's inner corners are square.
 QPainterPath outline(const QRectF& rect, ButtonLook look) {
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
@@ -99,11 +99,11 @@ ButtonLook buttonLook(const QWidget* widget) {
 }
 
 void drawButton(QPainter& painter, const QStyleOptionButton& option, ButtonLook look) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
   QRectF rect = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
   const bool on = isOn(option);
-  // The right one of two that touch lays its left border over its neighbour's right one.
+  // Where two segments touch, their borders overlap.
   if (look == ButtonLook::FirstSegment) {
     rect.adjust(0, 0, 0.5, 0);
   } else if (look == ButtonLook::LastSegment) {
@@ -143,7 +143,7 @@ void drawButton(QPainter& painter, const QStyleOptionButton& option, ButtonLook 
 }
 
 void drawPopUpButton(QPainter& painter, const QStyleOptionComboBox& option, const QRect& arrow) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
   const QRectF rect = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
   drawBody(painter, outline(rect, ButtonLook::Plain), fillColor(colors, option, false),
@@ -185,7 +185,7 @@ void drawMenuItem(QPainter& painter, const QStyleOptionMenuItem& option, int pad
 }
 
 void drawTab(QPainter& painter, const QStyleOptionTab& option) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
   const bool selected = option.state.testFlag(QStyle::State_Selected);
   const QRect text = option.rect.adjusted(0, 0, -kTabGap, 0);
@@ -203,7 +203,7 @@ void drawTab(QPainter& painter, const QStyleOptionTab& option) {
 }
 
 void drawSlider(QPainter& painter, const QStyleOptionSlider& option, const QRect& handle) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
   const double middle = QRectF(option.rect).center().y();
   const QRectF groove(option.rect.left() + 1, middle - 2, option.rect.width() - 2, 4);
@@ -226,7 +226,7 @@ void drawSlider(QPainter& painter, const QStyleOptionSlider& option, const QRect
 }
 
 void drawCheckMark(QPainter& painter, const QStyleOption& option) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
   const bool on = isOn(option);
   QRectF box(0, 0, 15, 15);
@@ -246,7 +246,7 @@ void drawCheckMark(QPainter& painter, const QStyleOption& option) {
 }
 
 void drawKeyCap(QPainter& painter, const QStyleOption& option) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(option.palette, isEnabled(option));
   drawBody(painter, outline(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), ButtonLook::Plain),
            colors.controlFill, colors.controlBorder);
@@ -258,7 +258,7 @@ void drawHairline(QPainter& painter, const QRect& rect, const QPalette& palette)
 }
 
 void drawFocusRing(QPainter& painter, const QRect& rect, const QPalette& palette) {
-  const Smooth smooth(painter);
+  const AntialiasingScope antialiasing(painter);
   const SkinColors colors = skinColors(palette);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(readable(colors.accent, colors.window, kShapeContrast), kFocusWidth));

@@ -147,7 +147,7 @@ QSize SkinStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QWidget* widget) const {
   if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
       type == CT_PushButton && button != nullptr) {
-    // Bold is how an on button writes its title; it must not change the width.
+    // Measured in bold, so that the width stays the same when the button is on.
     const int text = QFontMetrics(bold(widget)).horizontalAdvance(button->text);
     switch (buttonLook(widget)) {
       case ButtonLook::Help:

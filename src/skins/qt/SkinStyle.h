@@ -4,11 +4,11 @@
 
 namespace ui::qt {
 
-/// The look of the views: flat controls, tabs with an underline in the accent colour, the system's
-/// palette. The same metrics on every desktop, so that what fits once fits everywhere.
+/// The look of the views: flat controls, tabs underlined in the accent colour, the system's
+/// palette. The metrics are the same on every desktop: a layout that fits on one fits on all.
 ///
 /// A push button's dynamic property `look` may be "help" (a round button), "disclosure" (a triangle
-/// that points down while it is on), "firstSegment" or "lastSegment" (halves of a pair that touch).
+/// that points down while on), "firstSegment" or "lastSegment" (the touching halves of a pair).
 class SkinStyle final : public QProxyStyle {
  public:
   SkinStyle();
@@ -35,8 +35,8 @@ class SkinStyle final : public QProxyStyle {
                 QStyleHintReturn* returned) const override;
 };
 
-/// The font that shows the whole text in the width: the font itself, or a smaller one down to
-/// three quarters of its size.
+/// A font in which the whole text fits the width: the font itself or one shrunk as far as
+/// necessary, but never below three quarters of its size.
 QFont fittingFont(const QFont& font, const QString& text, int width);
 
 }  // namespace ui::qt

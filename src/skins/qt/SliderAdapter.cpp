@@ -7,12 +7,12 @@
 namespace ui::qt {
 
 SliderAdapter::SliderAdapter(QSlider& slider) : Adapter(slider) {
-  // The signal of a user's drag, wheel or key, sent before the value follows the knob.
+  // Emitted for the user's drag, wheel or key, before the value follows the slider position.
   QObject::connect(&slider, &QSlider::actionTriggered, receiver(), [this] {
     changeTo(widget().sliderPosition());
     send(action_, this);
   });
-  // Assistive tools change the value alone.
+  // Assistive tools change only the value.
   QObject::connect(&slider, &QSlider::valueChanged, receiver(), [this] {
     if (!changing_) {
       send(action_, this);

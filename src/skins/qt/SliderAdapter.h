@@ -6,7 +6,7 @@
 
 namespace ui::qt {
 
-/// A slider of whole positions. It sends its action at every step of a drag.
+/// A slider with integer positions. It sends its action at every step of a drag.
 class SliderAdapter final : public Adapter<Slider, QSlider>, public ActionSource {
  public:
   explicit SliderAdapter(QSlider& slider);
@@ -19,7 +19,7 @@ class SliderAdapter final : public Adapter<Slider, QSlider>, public ActionSource
   void changeTo(int value);
 
   Action action_;
-  /// The value changes by this adapter's own doing.
+  /// True while this adapter itself changes the value.
   bool changing_ = false;
 };
 

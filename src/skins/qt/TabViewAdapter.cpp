@@ -6,8 +6,8 @@ TabViewAdapter::TabViewAdapter(QTabWidget& tabs) : Adapter(tabs), tabs_(&tabs) {
   makeItems(tabs.count());
   selected_ = tabs.currentIndex();
   QObject::connect(&tabs, &QTabWidget::currentChanged, receiver(),
-                   [this](int index) { userSelected(index); });
-  // A click on the tab that is selected already changes nothing in Qt, yet the delegate is asked.
+                   [this](int index) { handleUserSelection(index); });
+  // Qt emits no change for a click on the current tab, but the delegate must be asked.
   QObject::connect(&tabs, &QTabWidget::tabBarClicked, receiver(), [this](int index) {
     if (index >= 0 && index == selected_) {
       guarded([&] { selectItemAtIndex(index); });
@@ -51,7 +51,7 @@ void TabViewAdapter::showPage(int index) {
   }
 }
 
-void TabViewAdapter::userSelected(int index) {
+void TabViewAdapter::handleUserSelection(int index) {
   if (index == selected_) {
     return;
   }

@@ -9,8 +9,8 @@
 
 namespace ui::qt {
 
-/// Pages with tabs (a QTabWidget) or without (a QStackedWidget). The delegate has the last word on
-/// every change, whether a click, a key, an assistive tool or code asks for it.
+/// Pages with tabs (a QTabWidget) or without (a QStackedWidget). The delegate decides on every page
+/// change, whether requested by a click, a key, an assistive tool or code.
 class TabViewAdapter final : public Adapter<TabView, QWidget> {
  public:
   explicit TabViewAdapter(QTabWidget& tabs);
@@ -22,8 +22,8 @@ class TabViewAdapter final : public Adapter<TabView, QWidget> {
 
  private:
   void showPage(int index);
-  /// Qt has changed the page already when it says so: takes that back and asks first.
-  void userSelected(int index);
+  /// Qt reports the user's choice only after it has changed the page: goes back and asks first.
+  void handleUserSelection(int index);
 
   QTabWidget* tabs_ = nullptr;
   QStackedWidget* pages_ = nullptr;

@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <utility>
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "ui/Bundle.h"
 #include "ui/Localization.h"
 
@@ -11,7 +11,7 @@ namespace ui::qt {
 
 namespace {
 
-QColor deviceColor(const Color& color) {
+QColor toQColor(const Color& color) {
   return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
                           static_cast<float>(color.blue), static_cast<float>(color.alpha));
 }
@@ -68,14 +68,13 @@ void TextFieldAdapter::show(const QString& text) {
 }
 
 void TextFieldAdapter::applyColor() {
-  // Setting a palette is a change of palette again.
+  // Setting the palette below causes another PaletteChange event.
   applyingColor_ = true;
-  // Black is the ordinary text colour: an empty palette takes all colours from the parent.
+  // Black means the ordinary text colour: with an empty palette the label inherits its parent's.
   QPalette palette;
   if (color_ != Color::black()) {
     const QColor background = widget().palette().color(QPalette::Window);
-    palette.setColor(QPalette::WindowText,
-                     readable(deviceColor(color_), background, kTextContrast));
+    palette.setColor(QPalette::WindowText, readable(toQColor(color_), background, kTextContrast));
   }
   widget().setPalette(palette);
   applyingColor_ = false;

@@ -12,14 +12,14 @@ class Localization;
 
 namespace ui::qt {
 
-/// A text that only code writes.
+/// A text field that the user cannot edit.
 ///
-/// A text in any other colour than black is bold as well, so that colour is never all that tells.
-/// On a background where a colour cannot be read it is shown in a lighter or darker tone.
-/// For a label with an accessible name the text is read out after that name.
+/// Text in any colour but black is also bold, so that colour is never the only sign. A colour that
+/// is hard to read on its background is made lighter or darker. If the label has an accessible
+/// name, assistive tools read the text after it.
 class TextFieldAdapter final : public QObject, public Adapter<TextField, QLabel> {
  public:
-  /// Levels are shown through `format`, where "%@" stands for the number with one decimal.
+  /// `format` is used for levels; "%@" in it is replaced by the number with one decimal.
   TextFieldAdapter(QLabel& label, const Localization& localization, std::string format);
 
   void setStringValue(const std::string& text) override;

@@ -58,7 +58,7 @@ void TextStyles::apply(const QString& style, QLabel& label) const {
   font.setBold(words.contains(QLatin1String("strong")));
   label.setFont(font);
   if (words.contains(QLatin1String("secondary"))) {
-    // A role that means quieter text; the skin's style chooses its colour.
+    // The role for quieter text; the skin's style chooses its colour.
     label.setForegroundRole(QPalette::PlaceholderText);
   }
 }

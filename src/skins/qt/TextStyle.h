@@ -7,19 +7,20 @@ class QLabel;
 
 namespace ui::qt {
 
-/// The system's font family at the size that the views are drawn for. The view's size is given in
-/// points of its own, so its text may not follow a desktop's font size.
+/// The system's font family at the size for which the views are drawn. A view has a fixed size, so
+/// its text must not follow the desktop's font size.
 QFont viewFont();
 
-/// A font whose digits are all equally wide, bold or not: the font itself or, if its are not, the
-/// system's fixed one.
+/// A font whose digits all have the same width, bold or not: the font itself or, if its digits
+/// differ, the system's fixed-width font.
 QFont tabularFont(const QFont& font);
 
-/// The styles of the interface file, with their fonts made once for a whole form.
+/// The text styles of an interface file. Make one for a whole form: it caches the fonts.
 class TextStyles {
  public:
   TextStyles();
-  /// `style` is any of the words "secondary", "small", "strong" and "tabular", separated by blanks.
+  /// `style` is any of "secondary", "small", "strong" and "tabular", separated by spaces. Without
+  /// any the label keeps its font.
   void apply(const QString& style, QLabel& label) const;
 
  private:

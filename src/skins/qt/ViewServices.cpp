@@ -9,11 +9,11 @@
 namespace ui::qt {
 
 ViewServices::ViewServices(const Environment& environment, QWidget& view,
-                           std::function<void()> didLeaveSheet)
+                           std::function<void()> didCloseSheet)
     : bundle_(environment.resources, environment.languages),
       localization_(makeLocalization(environment.locale)),
       runLoop_(environment.makeRunLoop ? environment.makeRunLoop() : std::make_unique<QtRunLoop>()),
-      sheets_(view, std::move(didLeaveSheet)),
+      sheets_(view, std::move(didCloseSheet)),
       helpManager_(bundle_, environment.openUrl),
       toolkit_{*runLoop_, sheets_, helpManager_, bundle_, *localization_, writeMacRoman} {}
 

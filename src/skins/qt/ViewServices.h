@@ -13,10 +13,10 @@ namespace ui::qt {
 
 struct Environment;
 
-/// The services of one view.
+/// The services of one view, which must outlive them.
 class ViewServices {
  public:
-  ViewServices(const Environment& environment, QWidget& view, std::function<void()> didLeaveSheet);
+  ViewServices(const Environment& environment, QWidget& view, std::function<void()> didCloseSheet);
 
   Toolkit& toolkit() { return toolkit_; }
   QtSheets& sheets() { return sheets_; }

@@ -4,7 +4,7 @@
 #include <QVariant>
 #include <string>
 
-#include "skins/qt/Adapters.h"
+#include "skins/qt/AdapterFactory.h"
 #include "skins/qt/PopUpButtonAdapter.h"
 #include "skins/qt/QtView.h"
 #include "ui/DeclaredConnections.h"
@@ -14,7 +14,7 @@ namespace ui::qt {
 
 namespace {
 
-/// "auditionController.monitorChanged:" taken apart at its dot.
+/// The two parts of a name such as "auditionController.monitorChanged:".
 struct FullName {
   std::string object;
   std::string member;
@@ -34,7 +34,7 @@ class Wiring {
   }
 
  private:
-  /// Names the widget in whatever is wrong with it.
+  /// Adds the widget's name to the message of any fault.
   void wireNamed(QWidget& widget) {
     try {
       wire(widget);
@@ -53,7 +53,7 @@ class Wiring {
     }
     std::unique_ptr<Object> control = makeAdapter(widget, toolkit_.bundle, toolkit_.localization);
     for (const QString& outlet : outlets) {
-      const FullName name = apart(outlet);
+      const FullName name = splitName(outlet);
       declared_.fill(name.object, name.member, *control, widget.metaObject()->className());
     }
     if (!action.isEmpty()) {
@@ -75,7 +75,7 @@ class Wiring {
   void connectItems(const QStringList& names, Object& control) const {
     auto* popUp = dynamic_cast<PopUpButton*>(&control);
     if (!names.isEmpty() && (popUp == nullptr || names.size() > popUp->numberOfItems())) {
-      throw InterfaceError("it has fewer menu items than actions for them");
+      throw InterfaceError("it has fewer menu items than item actions");
     }
     for (int index = 0; index < names.size(); ++index) {
       if (!names[index].isEmpty()) {
@@ -85,11 +85,11 @@ class Wiring {
   }
 
   Action actionNamed(const QString& fullName) const {
-    const FullName name = apart(fullName);
+    const FullName name = splitName(fullName);
     return declared_.action(name.object, name.member);
   }
 
-  static FullName apart(const QString& name) {
+  static FullName splitName(const QString& name) {
     const std::string fullName = name.toStdString();
     const std::size_t dot = fullName.find('.');
     if (dot == std::string::npos) {

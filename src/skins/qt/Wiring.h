@@ -10,9 +10,9 @@ namespace ui::qt {
 
 class QtView;
 
-/// Makes a control over every widget of the view that names outlets or actions, fills the objects'
-/// outlets and connects their actions. The view owns the controls from then on. Throws
-/// `InterfaceError`, whose message names the fault but not the file.
+/// Makes a control for every widget of the view that names outlets or actions, fills the objects'
+/// outlets and connects the actions. The view takes ownership of the controls. Throws
+/// `InterfaceError`, whose message describes the fault but does not name the file.
 void wire(QtView& view, InterfaceObjects& objects, Toolkit& toolkit);
 
 }  // namespace ui::qt

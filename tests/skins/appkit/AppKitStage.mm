@@ -17,10 +17,10 @@ using appkit_test::Host;
 using appkit_test::onMain;
 using ui::appkit::utf8;
 
-/// Enough for one turn of the run loop, which is when a sheet or an alert is shown here.
+/// Enough for one turn of the run loop, in which a sheet or an alert is shown here.
 constexpr std::chrono::milliseconds kTurn{1};
 
-/// The stage of the AppKit skin: the bundle's own view in a real window, worked with events.
+/// The AppKit skin's stage: the bundle's own view in a real window, operated by events.
 class AppKitStage final : public Stage {
  public:
   explicit AppKitStage(const PrepareUnit& prepare) {
@@ -41,7 +41,7 @@ class AppKitStage final : public Stage {
   }
   ~AppKitStage() override {
     onMain([this] { host_.reset(); });
-    // What a sheet's loop still holds is let go.
+    // Lets a sheet's loop release what it still retains.
     advance(kTurn);
     onMain([this] {
       unit_.reset();
@@ -94,7 +94,7 @@ class AppKitStage final : public Stage {
       }
       Host::click(Host::buttonWithTitle([sheet contentView], stop ? "Stop" : "Resume"));
     });
-    // The alert's own loop calls back when it ends.
+    // The alert's loop reports the answer only when it ends.
     advance(kTurn);
   }
   void willSaveTo(std::optional<std::filesystem::path> file) override {
@@ -214,7 +214,7 @@ class AppKitStage final : public Stage {
   NSButton* buttonNamed(std::string_view name) const { return host_->outlet(name); }
   NSTextField* fieldNamed(std::string_view name) const { return host_->outlet(name); }
 
-  /// A sheet that is none of the interface file's.
+  /// The window's sheet if it is not one of the interface file's; otherwise nil.
   NSWindow* alert() const {
     NSWindow* sheet = [host_->window() attachedSheet];
     for (const char* own : {"settingsController.settingsSheet", "keyController.keySettingsSheet",

@@ -2,7 +2,8 @@
 
 namespace appkit_test {
 
-/// The application object, set up so that it starts the same way everywhere. Main thread, once.
+/// The application object, set up so that it starts the same way everywhere. Make only one, on the
+/// main thread.
 class Application {
  public:
   Application();

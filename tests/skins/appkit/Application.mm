@@ -9,14 +9,14 @@ namespace appkit_test {
 
 namespace {
 
-/// What takes the process down should say so.
-void sayUncaught(NSException* exception) {
+/// Names the exception that ends the process.
+void printUncaught(NSException* exception) {
   std::fprintf(stderr, "Uncaught exception %s: %s\n", [[exception name] UTF8String],
                [[exception reason] UTF8String]);
 }
 
-/// With its own choice the toolkit does not find its font in every start, and it takes a size that
-/// nobody has set from wherever its processor left a number.
+/// Left to itself GNUstep does not find its font in every start, and it uses an uninitialized value
+/// for a size that is not set.
 void chooseFonts() {
   NSMutableDictionary* defaults = [NSMutableDictionary dictionary];
   for (NSString* font :
@@ -33,7 +33,7 @@ void chooseFonts() {
 }  // namespace
 
 Application::Application() : pool_([[NSAutoreleasePool alloc] init]) {
-  NSSetUncaughtExceptionHandler(sayUncaught);
+  NSSetUncaughtExceptionHandler(printUncaught);
   chooseFonts();
   [NSApplication sharedApplication];
 }

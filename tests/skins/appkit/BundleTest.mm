@@ -46,7 +46,7 @@ TEST(Bundle, GivesAViewOfTheClassThatHostsKnow) {
   });
 }
 
-TEST(Bundle, KeepsNothingOfAViewThatItHasGiven) {
+TEST(Bundle, DoesNotRetainTheViewThatItReturns) {
   onMain([] {
     const id factory = appkit_test::makeFactory();
     fakes::CallLog calls;
@@ -55,7 +55,7 @@ TEST(Bundle, KeepsNothingOfAViewThatItHasGiven) {
     EXPECT_NE([factory uiViewForAudioUnit:&unit withSize:NSMakeSize(1, 1)], nil);
     EXPECT_EQ([factory valueForKey:@"uiFreshlyLoadedView"], nil);
     [pool drain];
-    // The view is gone, and its listener with it.
+    // The view has been destroyed, and with it its listener.
     calls.clear();
     unit.hostSetsParameter(velk::kConverterParam_Format, 1);
     EXPECT_EQ(calls.count("unit."), 0U);
@@ -108,7 +108,7 @@ TEST(Bundle, ExportsTheNamesOfItsNotifications) {
   });
 }
 
-/// Observes as a host would, with Foundation's own means.
+/// Counts notifications as a host would, with Foundation's own means.
 class HostObserver {
  public:
   HostObserver(NSString* name, id object);
@@ -159,7 +159,7 @@ int HostObserver::count() const {
   return [static_cast<VelkTest_Observer*>(observer_) count];
 }
 
-TEST(Bundle, PostsItsNotificationsAboutTheViewToEverybody) {
+TEST(Bundle, PostsNotificationsAboutTheViewToEveryObserver) {
   fakes::CallLog calls;
   std::optional<fakes::FakeConverter> unit;
   std::optional<appkit_test::Host> host;
@@ -175,7 +175,7 @@ TEST(Bundle, PostsItsNotificationsAboutTheViewToEverybody) {
     host->pressKey(51);
     EXPECT_EQ(observer->count(), 1);
     EXPECT_EQ(otherObserver->count(), 0);
-    // A host may post too.
+    // A host may post notifications, too.
     unit->statistics.fill({1, 1, 1, 1});
     [[NSNotificationCenter defaultCenter]
         postNotificationName:@"aac_clearClipActionPerformedNotification"

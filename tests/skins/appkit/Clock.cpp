@@ -11,20 +11,22 @@ namespace {
 
 using std::chrono::nanoseconds;
 
-/// When the clocks were stopped; what has passed since then.
+/// The times when the clocks were stopped, and what has passed since then.
 std::atomic<bool> areStopped = false;
 nanoseconds wallAtStop{};
 nanoseconds steadyAtStop{};
 std::atomic<nanoseconds> passed{};
 
-nanoseconds asked(clockid_t clock) {
+/// The machine's own time.
+nanoseconds machineTime(clockid_t clock) {
   timespec time{};
   ::syscall(SYS_clock_gettime, clock, &time);
   return std::chrono::seconds(time.tv_sec) + nanoseconds(time.tv_nsec);
 }
 
-/// Time of day and time since the machine's start; processor times go on as they are.
-nanoseconds shown(clockid_t clock) {
+/// The time that the process sees. Only wall clocks and clocks since boot are stopped, processor
+/// time is not.
+nanoseconds virtualTime(clockid_t clock) {
   switch (areStopped ? clock : CLOCK_PROCESS_CPUTIME_ID) {
     case CLOCK_REALTIME:
     case CLOCK_REALTIME_COARSE:
@@ -35,17 +37,17 @@ nanoseconds shown(clockid_t clock) {
     case CLOCK_BOOTTIME:
       return steadyAtStop + passed.load();
     default:
-      return asked(clock);
+      return machineTime(clock);
   }
 }
 
 }  // namespace
 
-// The C library's, for every library that this program loads. Whoever reads the time reads it here.
+// Replaces the C library's functions for this program and every library that it loads.
 extern "C" {
 
 __attribute__((visibility("default"))) int clock_gettime(clockid_t clock, timespec* time) noexcept {
-  const nanoseconds now = shown(clock);
+  const nanoseconds now = virtualTime(clock);
   const auto seconds = std::chrono::floor<std::chrono::seconds>(now);
   time->tv_sec = seconds.count();
   time->tv_nsec = (now - seconds).count();
@@ -64,8 +66,8 @@ __attribute__((visibility("default"))) int gettimeofday(timeval* time, void* /*z
 namespace appkit_test {
 
 void stopClocks() {
-  wallAtStop = asked(CLOCK_REALTIME);
-  steadyAtStop = asked(CLOCK_MONOTONIC);
+  wallAtStop = machineTime(CLOCK_REALTIME);
+  steadyAtStop = machineTime(CLOCK_MONOTONIC);
   areStopped = true;
 }
 
@@ -74,7 +76,7 @@ void passTime(std::chrono::nanoseconds time) {
 }
 
 Moment realTime() {
-  return Moment(asked(CLOCK_MONOTONIC));
+  return Moment(machineTime(CLOCK_MONOTONIC));
 }
 
 }  // namespace appkit_test

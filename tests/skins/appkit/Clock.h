@@ -2,18 +2,17 @@
 
 #include <chrono>
 
-/// The clocks of the process, as everything in it reads them: the toolkit's dates and timers and
-/// the standard library's clocks alike.
+/// The clocks of the whole process: the standard library's and the toolkit's dates and timers.
 namespace appkit_test {
 
 using Moment = std::chrono::steady_clock::time_point;
 
-/// From now on no time passes but what `passTime` lets pass. Once.
+/// Stops the clocks; from now on only `passTime` advances them. Call once.
 void stopClocks();
-/// Main thread.
+/// Advances the stopped clocks. Main thread only.
 void passTime(std::chrono::nanoseconds time);
 
-/// What no call here changes: the machine's own steady clock.
+/// The machine's own steady clock, which none of this changes.
 Moment realTime();
 
 }  // namespace appkit_test

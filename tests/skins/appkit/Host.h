@@ -12,13 +12,13 @@
 
 namespace appkit_test {
 
-/// The bundle as a host has it: loaded once, and kept.
+/// The bundle, loaded as by a host: once, and never unloaded.
 NSBundle* bundle();
 /// A new factory, autoreleased.
 id<AUCocoaUIBase> makeFactory();
 
-/// A host with a view of the bundle's factory in a window. Made, used and destroyed on the main
-/// thread. What a user does is done with events that go through the window.
+/// A window with a view made by the bundle's factory. User input is sent as events through the
+/// window. Main thread only.
 class Host {
  public:
   explicit Host(AudioUnit unit);
@@ -29,27 +29,27 @@ class Host {
   NSView* view() const { return view_.get(); }
   NSWindow* window() const { return window_.get(); }
 
-  /// By the outlet that it fills: "view.encoderPopup". An unknown name throws.
+  /// The object that fills an outlet such as "view.encoderPopup". An unknown name throws.
   id outlet(std::string_view name) const;
-  /// The first button below the view, pages that do not show included, with that tag.
+  /// The first button in the view, including hidden pages, with that tag. Throws if there is none.
   NSButton* buttonWithTag(int tag) const;
-  /// The first button of a sheet with that title.
+  /// The first button in a sheet's content with that title. Throws if there is none.
   static NSButton* buttonWithTitle(NSView* content, std::string_view title);
 
-  /// The left mouse button pressed and released in the middle of the button. A click is an event:
-  /// the application takes it when its run loop runs.
+  /// Clicks the middle of the button. Clicks and drags are posted as events; the application
+  /// handles them when its run loop runs.
   static void click(NSButton* button);
-  /// The same at a point of a view.
+  /// Clicks a point of the view.
   static void click(NSView* view, NSPoint point);
-  /// Pressed at a point of the view and released at another.
+  /// Presses the mouse button at one point of the view and releases it at another.
   static void drag(NSView* view, NSPoint from, NSPoint to);
   static void clickSegment(NSSegmentedControl* control, int segment);
   static void clickTab(NSTabView* tabs, int index);
   static void pickItem(NSPopUpButton* popUp, int index);
   static void dragSlider(NSSlider* slider, double value);
-  /// A press of the key at that position (virtual key code), whatever has the focus.
+  /// Presses the key at that position (virtual key code); the focus stays where it is.
   void typeKey(std::uint16_t keyCode, NSString* characters = @"");
-  /// The same while the view has it.
+  /// Does the same after giving the view the focus.
   void pressKey(std::uint16_t keyCode, NSString* characters = @"");
 
   void moveToOtherSuperview();

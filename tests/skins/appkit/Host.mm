@@ -26,7 +26,7 @@ NSEvent* mouseEvent(NSEventType type, NSWindow* window, NSPoint place) {
                             pressure:1];
 }
 
-/// The code of an X11 keyboard for a position code, for the keys that are bound.
+/// The X11 key code for a position code.
 std::uint16_t nativeKeyCode(std::uint16_t positionCode) {
   for (unsigned int code = 9; code < 256; ++code) {
     if (ui::positionCodeForX11(code) == positionCode) {
@@ -132,7 +132,7 @@ void Host::drag(NSView* view, NSPoint from, NSPoint to) {
     // The first click into a window would only bring it to the front.
     [window makeKeyWindow];
   }
-  // Some views place what they hold only when they are drawn.
+  // Some views lay out their contents only when they are drawn.
   [window displayIfNeeded];
   const NSPoint start = [view convertPoint:from toView:nil];
   const NSPoint end = [view convertPoint:to toView:nil];

@@ -12,7 +12,7 @@
 #include "skins/appkit/Strings.h"
 #include "ui/StringsTable.h"
 
-/// What is in the interface file, read without the toolkit's own loader.
+/// The contents of the interface file, read without the toolkit's own loader.
 namespace {
 
 using ui::appkit::nsString;
@@ -98,7 +98,7 @@ bool isControl(const Element& element) {
   return kinds.contains(element.name);
 }
 
-TEST(InterfaceFile, GivesEveryControlATextThatAScreenReaderSays) {
+TEST(InterfaceFile, GivesEveryControlATextForScreenReaders) {
   appkit_test::onMain([] {
     int controls = 0;
     forEach(interfaceFile(), [&](const Element& element) {
@@ -117,7 +117,7 @@ TEST(InterfaceFile, HasEveryTextInTheStringsTable) {
   appkit_test::onMain([] {
     const ui::StringsTable table =
         ui::readStringsTable(VELK_RESOURCES "/en.lproj/AUDravoAACStrings.strings");
-    // Pages without tabs, and what has no words.
+    // The titles of pages without tabs.
     const std::set<std::string> shownNowhere = {"Stereo", "Mono"};
     const auto expectKey = [&](const std::string& key, const Element& element) {
       const bool hasWords = key.find_first_not_of("-0123456789\u232B SAB") != std::string::npos;
@@ -141,7 +141,7 @@ TEST(InterfaceFile, HasEveryTextInTheStringsTable) {
 
 TEST(InterfaceFile, ConnectsOnlyWhatTheViewsClassesHave) {
   appkit_test::onMain([] {
-    // The classes take the names that the core declares when the first view is made.
+    // Making the first view adds the methods that the core declares to the classes.
     std::map<std::string, std::string> classes;
     std::set<std::string> ids;
     forEach(interfaceFile(), [&](const Element& element) {
@@ -149,7 +149,7 @@ TEST(InterfaceFile, ConnectsOnlyWhatTheViewsClassesHave) {
         classes[element["id"]] = element["customClass"];
       }
       if (!element["id"].empty()) {
-        EXPECT_TRUE(ids.insert(element["id"]).second) << element["id"] << " stands twice";
+        EXPECT_TRUE(ids.insert(element["id"]).second) << element["id"] << " occurs twice";
       }
     });
     int actions = 0;
@@ -169,8 +169,8 @@ TEST(InterfaceFile, ConnectsOnlyWhatTheViewsClassesHave) {
   });
 }
 
-TEST(InterfaceFile, SaysHowLargeItsFontsAre) {
-  // GNUstep takes the size that a font lacks from wherever the processor left a number.
+TEST(InterfaceFile, GivesEveryFontItsSize) {
+  // GNUstep uses an uninitialized value for a missing font size.
   appkit_test::onMain([] {
     forEach(interfaceFile(), [&](const Element& element) {
       if (element.name == "font") {

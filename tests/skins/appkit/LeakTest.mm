@@ -15,7 +15,7 @@
 #include "skins/appkit/MainThread.h"
 #include "view/fakes/FakeConverter.h"
 
-// The toolkit's own count of its objects; its header wants a dialect of its own.
+// The toolkit's own count of its objects. Its header does not compile as standard C++.
 extern "C" {
 BOOL GSDebugAllocationActive(BOOL active);
 const char* GSDebugAllocationList(BOOL sinceLastList);
@@ -57,16 +57,16 @@ void openAndClose(fakes::FakeConverter& unit, int cycles) {
   }
 }
 
-/// Timers that are no more stay in a mode until the run loop looks at that mode.
-void lookAtEveryMode() {
+/// A mode of the run loop keeps invalidated timers until the loop checks that mode.
+void checkEveryMode() {
   for (NSString* mode :
        {NSDefaultRunLoopMode, NSEventTrackingRunLoopMode, NSModalPanelRunLoopMode}) {
     [[NSRunLoop currentRunLoop] limitDateForMode:mode];
   }
 }
 
-/// The classes of which there are at least so many objects more than at the last call.
-std::vector<std::string> grown(int least) {
+/// The classes of which there are at least that many more objects than at the last call.
+std::vector<std::string> listGrownClasses(int least) {
   std::vector<std::string> classes;
   std::istringstream list(GSDebugAllocationList(YES));
   int more = 0;
@@ -82,7 +82,7 @@ double bytesInUse() {
   return static_cast<double>(mallinfo2().uordblks);
 }
 
-/// What the toolkit takes for the interface file as it reads it.
+/// The memory that the toolkit uses for the interface file when it reads it.
 double bytesOfInterfaceFile() {
   NSString* file = [appkit_test::bundle() pathForResource:@"Velk_NordaAACConverter" ofType:@"xib"];
   NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
@@ -97,7 +97,7 @@ double bytesOfInterfaceFile() {
   return bytes;
 }
 
-TEST(OpeningAndClosingViews, LeavesNoneOfThemBehind) {
+TEST(OpeningAndClosingViews, LeaksNone) {
   appkit_test::onMain([] {
     appkit_test::bundle();
     Class view = NSClassFromString(@"Velk_View");
@@ -108,23 +108,23 @@ TEST(OpeningAndClosingViews, LeavesNoneOfThemBehind) {
   });
   fakes::CallLog calls;
   fakes::FakeConverter unit(calls);
-  // The toolkit fills its caches with the first few.
+  // The first few views fill the toolkit's caches.
   constexpr int kFirst = 5;
   constexpr int kCycles = 200;
   appkit_test::onMain([] { GSDebugAllocationActive(YES); });
   openAndClose(unit, kFirst);
   double before = 0;
   appkit_test::onMain([&] {
-    lookAtEveryMode();
-    grown(0);
+    checkEveryMode();
+    listGrownClasses(0);
     before = bytesInUse();
   });
   openAndClose(unit, kCycles);
   appkit_test::onMain([&] {
-    lookAtEveryMode();
+    checkEveryMode();
     const double kept = (bytesInUse() - before) / kCycles;
-    // GNUstep keeps each document that it reads an interface file from, and little things.
-    EXPECT_THAT(grown(kCycles / 2),
+    // GNUstep leaks the document of each interface file that it reads, and a few small objects.
+    EXPECT_THAT(listGrownClasses(kCycles / 2),
                 testing::IsSubsetOf(
                     {"GSCBufferString", "GSDictionary", "GSMutableArray", "GSMutableDictionary",
                      "GSXibElement", "NSMutableParagraphStyle", "NSXMLDocument",
@@ -132,7 +132,7 @@ TEST(OpeningAndClosingViews, LeavesNoneOfThemBehind) {
     bytesOfInterfaceFile();
     const double file = bytesOfInterfaceFile();
     std::printf("%.0f bytes kept of each of %d views; the file takes %.0f\n", kept, kCycles, file);
-    // A sanitizer counts nothing here, and finds what leaks itself.
+    // With a sanitizer this measures nothing; its leak checker does.
     EXPECT_LE(kept, file);
     GSDebugAllocationActive(NO);
   });

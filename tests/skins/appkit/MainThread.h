@@ -3,23 +3,24 @@
 #include <chrono>
 #include <functional>
 
-/// Tests are written as if a sheet were open beside them, but on GNUstep the call that shows one
-/// returns only when it has ended. So tests run on a thread of their own. The application's main
-/// thread stands still while they do, wherever in its loops it is, and only works when it is told
-/// to.
+/// Tests expect to go on while a sheet is open, but on GNUstep the call that shows one returns only
+/// when the sheet has ended. So tests run on a thread of their own, the script thread. Meanwhile
+/// the application's main thread stands still, in whichever of its loops it is, and only does what
+/// it is asked to do.
 ///
-/// No time passes of itself, for nobody in the process: where the application's run loop would
+/// Time does not pass by itself anywhere in the process: where the application's run loop would
 /// wait, the clocks jump ahead.
 namespace appkit_test {
 
-/// Runs the application with `script` on a thread of its own, and gives what that returned. Main
-/// thread, once.
+/// Runs the application, with `script` on a thread of its own, and returns the script's result.
+/// Call once, on the main thread.
 int runApplication(const std::function<int()>& script);
 
-/// Runs the work on the main thread. What it throws is thrown here. Where the work itself lets a
-/// run loop run, that time passes. Script thread only.
+/// Runs the work on the main thread and rethrows here what it throws. If the work itself runs a run
+/// loop, the clocks advance by the time for which that would wait. Script thread only.
 void onMain(const std::function<void()>& work);
 
+/// Does the same and returns the work's result.
 template <class Work>
 auto askMain(Work work) {
   decltype(work()) answer{};
@@ -27,10 +28,10 @@ auto askMain(Work work) {
   return answer;
 }
 
-/// Lets the application's run loop run until so much time has passed for it, without waiting.
+/// Runs the application's run loop until that much of its time has passed, without really waiting.
 /// Script thread only.
 void runFor(std::chrono::milliseconds time);
-/// The same, but the time is that of the machine.
+/// Does the same in real time.
 void runInRealTimeFor(std::chrono::milliseconds time);
 
 }  // namespace appkit_test

@@ -21,13 +21,13 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::nanoseconds;
 
-/// Whether one of the run loop's descriptors has something to say; waits that long for it.
-using Look = std::function<bool(milliseconds)>;
+/// Polls the run loop's descriptors for at most that long. Returns whether one has an event.
+using Poll = std::function<bool(milliseconds)>;
 
-/// Looking takes a little time. Who looks again and again until a moment has come gets there.
-constexpr nanoseconds kLook = std::chrono::microseconds(20);
+/// The time that each poll takes, so that polling repeatedly until some time also ends.
+constexpr nanoseconds kPollTime = std::chrono::microseconds(20);
 
-/// Hands the turn to and fro between the script and the main thread.
+/// Lets the script thread and the main thread run in turns, never at once.
 class Turns {
  public:
   // Script thread.
@@ -59,7 +59,7 @@ class Turns {
   }
 
   // Main thread.
-  /// The clocks are stopped, but as long as the application starts they follow the machine's.
+  /// Stops the clocks, but lets them follow the machine's until the application has started.
   void start() {
     stopClocks();
     runInRealTime();
@@ -67,13 +67,13 @@ class Turns {
   void hasStarted() { left_ = {}; }
 
   // Script thread.
-  /// Lets the application end.
+  /// Makes the application end.
   void end() {
     giveTurn([this] {
       isEnding_ = true;
       runInRealTime();
       [NSApp stop:nil];
-      // Who waits for an event looks whether to stop when there is one.
+      // The loop notices that it should stop only when it gets an event.
       [NSApp postEvent:[NSEvent otherEventWithType:NSApplicationDefined
                                           location:NSZeroPoint
                                      modifierFlags:0
@@ -88,28 +88,29 @@ class Turns {
     });
   }
 
-  // Main thread, from within whatever loop it is in, where that would wait.
-  bool wait(milliseconds time, const Look& look) {
+  // Main thread.
+  /// Called where any run loop would wait. Returns whether that should look for events.
+  bool wait(milliseconds time, const Poll& poll) {
     if (realSince_) {
       passWhatHasPassed();
     }
-    // In the end nobody waits any more, and every loop looks whether it should stop.
-    if (look(milliseconds(0)) || isEnding_) {
+    // While the application ends nothing waits, so that every loop checks whether it should stop.
+    if (poll(milliseconds(0)) || isEnding_) {
       return true;
     }
     if (isServing_) {
-      passTime(std::max<nanoseconds>(time, kLook));
+      passTime(std::max<nanoseconds>(time, kPollTime));
       return false;
     }
     if (time.count() == 0) {
       if (!realSince_) {
-        pass(kLook);
+        pass(kPollTime);
       }
       return false;
     }
     if (left_.count() <= 0) {
       serve();
-      // There may be events now: whoever waits for them looks.
+      // The script may have caused events.
       return true;
     }
     const nanoseconds passing = std::min<nanoseconds>(time, left_);
@@ -117,7 +118,7 @@ class Turns {
       pass(passing);
       return false;
     }
-    const bool found = look(std::chrono::ceil<milliseconds>(passing));
+    const bool found = poll(std::chrono::ceil<milliseconds>(passing));
     passWhatHasPassed();
     return found;
   }
@@ -158,7 +159,7 @@ class Turns {
     isServing_ = false;
   }
 
-  /// The work says whether the main thread goes on serving; else the application runs.
+  /// `work` returns whether the main thread stays with the script or lets the application run.
   void giveTurn(std::function<bool()> work) {
     const std::lock_guard lock(mutex_);
     work_ = std::move(work);
@@ -178,12 +179,12 @@ class Turns {
   std::mutex mutex_;
   std::condition_variable changed_;
   std::optional<std::function<bool()>> work_;
-  // Of the main thread alone.
+  // Main thread only.
   bool isRunning_ = false;
   bool isServing_ = false;
-  /// What the application may still run for.
+  /// How long the application may still run.
   nanoseconds left_{};
-  /// While it runs in real time: up to when that has been let pass.
+  /// In real time: the machine's time up to which the clocks have been advanced.
   std::optional<Moment> realSince_;
   bool isEnding_ = false;
 };
@@ -193,7 +194,7 @@ Turns& turns() {
   return turns;
 }
 
-/// Stands in for the one place where a run loop waits, for its descriptors and its next timer.
+/// Replaces the one method in which GNUstep's run loops wait for descriptors and timers.
 class Waiting {
  public:
   Waiting() {
@@ -215,10 +216,10 @@ class Waiting {
   }
 
   static BOOL standIn(id context, SEL selector, int time, NSArray* contexts) {
-    const Look look = [&](milliseconds wanted) {
+    const Poll poll = [&](milliseconds wanted) {
       return real()(context, selector, static_cast<int>(wanted.count()), contexts) == YES;
     };
-    return turns().wait(milliseconds(time), look) ? YES : NO;
+    return turns().wait(milliseconds(time), poll) ? YES : NO;
   }
 };
 
@@ -226,7 +227,7 @@ class Waiting {
 
 }  // namespace appkit_test
 
-/// Is told when the application's own loop runs.
+/// Is called when the application's own loop runs.
 @interface VelkTest_Start : NSObject
 - (void)applicationRuns;
 @end

@@ -7,7 +7,7 @@
 #include "skins/appkit/MainThread.h"
 #include "view/fakes/FakeConverter.h"
 
-/// What a mouse and a keyboard do beyond a click, which is how every other test presses a control.
+/// What mouse and keyboard do besides the clicks with which all other tests operate controls.
 namespace {
 
 using appkit_test::askMain;
@@ -44,7 +44,7 @@ TEST_F(MouseAndKeys, APressThatIsReleasedElsewhereDoesNothing) {
   EXPECT_TRUE(showsDetails());
 }
 
-TEST_F(MouseAndKeys, AClickOnWhatIsDisabledDoesNothing) {
+TEST_F(MouseAndKeys, AClickOnADisabledControlDoesNothing) {
   onMain([this] {
     [details() setEnabled:NO];
     Host::click(details());

@@ -29,7 +29,7 @@ using appkit_test::onMain;
 using ui::appkit::utf8;
 using namespace std::chrono_literals;
 
-/// 2023-11-14, 22:13:20 in Greenwich.
+/// 2023-11-14, 22:13:20 UTC.
 constexpr std::chrono::system_clock::time_point kMoment{1700000000s};
 
 std::string contentOf(const std::filesystem::path& file) {
@@ -91,7 +91,7 @@ TEST(ResultsFile, IsTheSameByteForByteThroughFoundationAndThroughIcu) {
   });
 }
 
-TEST(TextFile, RefusesWhatMacRomanLacksAndLeavesTheFileThere) {
+TEST(TextFile, RefusesWhatMacRomanLacksAndKeepsTheOldFile) {
   onMain([] {
     const std::filesystem::path file = temporary("kept.txt");
     ASSERT_TRUE(ui::appkit::writeMacRoman(file, "kept"));
@@ -215,7 +215,7 @@ TEST(RunLoop, FiresATimerInTheModesThatItWasAddedTo) {
   });
 }
 
-/// Everywhere else the clocks are the test's. Here the machine's time passes, as it does for users.
+/// All other tests control the clocks. Here real time passes, as it does for users.
 TEST(RunLoop, FiresATimerInEveryModeAsRealTimePasses) {
   for (NSString* mode :
        {NSDefaultRunLoopMode, NSEventTrackingRunLoopMode, NSModalPanelRunLoopMode}) {
@@ -240,7 +240,7 @@ TEST(RunLoop, FiresATimerInEveryModeAsRealTimePasses) {
     }
     onMain([&] { timer.reset(); });
     ASSERT_GE(fired.size(), 5U) << utf8(mode);
-    // The fifth, with what a clock may round.
+    // The fifth time, allowing for rounding by a clock.
     EXPECT_GE(fired[4] - start, 48ms) << utf8(mode);
   }
 }

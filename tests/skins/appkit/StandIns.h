@@ -7,13 +7,13 @@
 
 namespace appkit_test {
 
-/// Stands in, as long as it lives, for the system's save panel and help manager.
+/// Replaces the system's save panel and help manager as long as it lives.
 class StandIns {
  public:
   struct SavePanel {
-    /// What it gives; nothing stands for Cancel.
+    /// The file that it returns; nothing for Cancel.
     std::optional<std::filesystem::path> answer;
-    /// The names that it has been shown with.
+    /// The names, titles and types with which it was shown.
     std::vector<std::string> proposed;
     std::vector<std::string> titles;
     std::vector<std::string> fileTypes;

@@ -12,16 +12,17 @@ namespace {
 
 appkit_test::StandIns* current = nullptr;
 
-IMP replaced(Class of, SEL selector, IMP with) {
+/// Returns the method's former implementation.
+IMP replaceMethod(Class of, SEL selector, IMP with) {
   return method_setImplementation(class_getInstanceMethod(of, selector), with);
 }
 
 NSInteger runModal(NSSavePanel* panel, SEL /*selector*/) {
-  auto& asked = current->savePanel();
-  asked.proposed.push_back(utf8([panel nameFieldStringValue]));
-  asked.titles.push_back(utf8([panel title]));
-  asked.fileTypes.push_back(utf8([[panel allowedFileTypes] objectAtIndex:0]));
-  return asked.answer ? NSOKButton : NSCancelButton;
+  auto& standIn = current->savePanel();
+  standIn.proposed.push_back(utf8([panel nameFieldStringValue]));
+  standIn.titles.push_back(utf8([panel title]));
+  standIn.fileTypes.push_back(utf8([[panel allowedFileTypes] objectAtIndex:0]));
+  return standIn.answer ? NSOKButton : NSCancelButton;
 }
 
 NSURL* chosenURL(NSSavePanel* /*panel*/, SEL /*selector*/) {
@@ -39,7 +40,7 @@ IMP realURL = nullptr;
 
 }  // namespace
 
-/// The operation that the toolkit lacks here.
+/// An operation that GNUstep lacks.
 @implementation NSHelpManager (Velk_StandIn)
 
 - (void)openHelpAnchor:(NSString*)anchor inBook:(NSString*)book {
@@ -54,13 +55,13 @@ namespace appkit_test {
 
 StandIns::StandIns() {
   current = this;
-  realRunModal = replaced([NSSavePanel class], @selector(runModal), implementation(&runModal));
-  realURL = replaced([NSSavePanel class], @selector(URL), implementation(&chosenURL));
+  realRunModal = replaceMethod([NSSavePanel class], @selector(runModal), implementation(&runModal));
+  realURL = replaceMethod([NSSavePanel class], @selector(URL), implementation(&chosenURL));
 }
 
 StandIns::~StandIns() {
-  replaced([NSSavePanel class], @selector(runModal), realRunModal);
-  replaced([NSSavePanel class], @selector(URL), realURL);
+  replaceMethod([NSSavePanel class], @selector(runModal), realRunModal);
+  replaceMethod([NSSavePanel class], @selector(URL), realURL);
   current = nullptr;
 }
 

@@ -3,9 +3,8 @@
 
 #include "skins/appkit/MainThread.h"
 
-/// Where GNUstep differs from the system that the skin is written for. A test that fails here says
-/// that a difference is gone, and with it the reason for something that is left out or done
-/// otherwise.
+/// Where GNUstep differs from the system that the skin is written for. If a test fails here, the
+/// difference is gone, and so is the reason for a workaround or an omission elsewhere.
 
 @interface VelkTest_Moving : NSView {
   int _removals;
@@ -44,7 +43,7 @@ TEST(GNUstep, RemovesAViewFromItsSuperviewBeforeItAddsItToAnother) {
 
 TEST(GNUstep, OpensNoHelpBooks) {
   onMain([] {
-    // The tests' stand-in is all that there is.
+    // The help manager has only the method that the tests' stand-in adds.
     EXPECT_FALSE([NSHelpManager instancesRespondToSelector:@selector(registerBooksInBundle:)]);
   });
 }

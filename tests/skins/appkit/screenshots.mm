@@ -1,6 +1,6 @@
 // Draws every page and sheet of the view into PNG files of a folder.
-// usage: velk_appkit_screenshots -folder FOLDER   (in a display: tests/appkit/with-display)
-// A bare argument would be a document to the toolkit.
+// usage: velk_appkit_screenshots -folder FOLDER   (on an X server: tests/skins/appkit/with-display)
+// The toolkit would open a bare argument as a document.
 
 #import <AppKit/AppKit.h>
 

@@ -22,7 +22,7 @@
 #include "skins/qt/Tour.h"
 #include "view/fakes/FakeConverter.h"
 
-/// What assistive tools are told, and what they can do.
+/// What the view tells assistive tools, and what they can do with it.
 namespace {
 
 using namespace std::chrono_literals;
@@ -35,8 +35,7 @@ QAccessibleInterface& accessible(QWidget& widget) {
   return *found;
 }
 
-/// What kind of thing a widget has to be for a screen reader; `NoRole` for one that only holds
-/// others.
+/// The role that a widget must have for a screen reader; `NoRole` for a mere container.
 QAccessible::Role roleFor(const QWidget& widget) {
   if (qobject_cast<const QComboBox*>(&widget) != nullptr) {
     return QAccessible::ComboBox;
@@ -93,7 +92,7 @@ TEST_P(Accessibility, NamesEveryControlAndField) {
   });
 }
 
-TEST_P(Accessibility, SaysWhatKindOfThingEachIs) {
+TEST_P(Accessibility, GivesEachTheRightRole) {
   std::set<QAccessible::Role> met;
   qt_test::Tour(unit_, options_).take([&met](const QWidget& page) {
     for (QWidget* part : shownParts(page)) {
@@ -101,7 +100,7 @@ TEST_P(Accessibility, SaysWhatKindOfThingEachIs) {
       met.insert(roleFor(*part));
     }
   });
-  EXPECT_EQ(met.size(), 8U) << "every kind is somewhere";
+  EXPECT_EQ(met.size(), 8U) << "every role occurs";
 }
 
 TEST_P(Accessibility, TellsControlsOfOneKindApartByName) {
@@ -111,13 +110,13 @@ TEST_P(Accessibility, TellsControlsOfOneKindApartByName) {
       const bool isOperated = part->focusPolicy() != Qt::NoFocus && part->isEnabled();
       if (isOperated && qobject_cast<QTabBar*>(part) == nullptr) {
         const QString name = accessible(*part).text(QAccessible::Name);
-        EXPECT_TRUE(names.insert(name).second) << name.toStdString() << " stands twice";
+        EXPECT_TRUE(names.insert(name).second) << name.toStdString() << " occurs twice";
       }
     }
   });
 }
 
-TEST_P(Accessibility, TellsWhatCanHaveTheKeysAndWhatIsDisabled) {
+TEST_P(Accessibility, ReportsWhatIsFocusableAndWhatIsDisabled) {
   bool anyDisabled = false;
   qt_test::Tour(unit_, options_).take([&anyDisabled](const QWidget& page) {
     for (QWidget* part : shownParts(page)) {
@@ -247,7 +246,7 @@ TEST_F(AssistiveTool, ReadsTheEncoderAndTheReadings) {
   EXPECT_FALSE(isChecked(host_.outlet("auditionController.sourceClipIndicator")));
 }
 
-TEST_F(AssistiveTool, TurnsThePagesAndHearsTheTestRefuse) {
+TEST_F(AssistiveTool, ChangesPagesExceptDuringATest) {
   QAccessibleInterface& tabs = accessible(*host_.outlet<QTabWidget>("view.tabView").tabBar());
   std::vector<QAccessibleInterface*> pages;
   for (int child = 0; child < tabs.childCount(); ++child) {

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <memory>
 
-/// Qt's application object, off screen, around all tests of a program.
+/// Provides an off-screen application object for all tests of a program.
 namespace {
 
 class Application final : public testing::Environment {

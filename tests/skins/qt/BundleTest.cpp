@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The bundle as a host has it: loaded once, and kept.
+/// The bundle, loaded as by a host: once, and never unloaded.
 void* bundle() {
   static void* const handle = dlopen(VELK_BUNDLE "/Velk_NordaAACConverter", RTLD_NOW | RTLD_LOCAL);
   return handle;

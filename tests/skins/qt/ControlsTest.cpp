@@ -17,7 +17,7 @@
 #include "skins/qt/Mouse.h"
 #include "skins/qt/PopUpBox.h"
 #include "skins/qt/PopUpButtonAdapter.h"
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SegmentedControlAdapter.h"
 #include "skins/qt/SliderAdapter.h"
 #include "skins/qt/TextFieldAdapter.h"
@@ -29,7 +29,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Counts the actions that a control sends, and who sent them.
+/// Records who sent each action.
 class Actions {
  public:
   ui::Action action() {
@@ -114,7 +114,7 @@ TEST(Button, MayBeDestroyedByItsOwnAction) {
   widget.click();
 }
 
-TEST(Button, LogsWhatItsActionThrowsAndGoesOn) {
+TEST(Button, LogsWhatItsActionThrows) {
   fakes::CallLog calls;
   const fakes::LogCapture log(calls);
   QPushButton widget;
@@ -169,7 +169,7 @@ TEST_F(SegmentedControl, SendsNothingWhenCodeSelects) {
   EXPECT_THAT(actions_.senders(), ElementsAre());
 }
 
-TEST(Slider, SendsItsActionAtEveryStepOfAUserAndNeverForCode) {
+TEST(Slider, SendsItsActionAtEveryStepByTheUserAndNeverForCode) {
   QSlider widget(Qt::Horizontal);
   widget.setMaximum(127);
   ui::qt::SliderAdapter slider(widget);
@@ -317,14 +317,14 @@ TEST_F(TextField, FollowsTheUsersLocale) {
   EXPECT_EQ(label_.text().toStdString(), "0,4 dB");
 }
 
-TEST_F(TextField, TakesTextForWhatItIs) {
+TEST_F(TextField, ShowsMarkupAsPlainText) {
   ui::qt::TextFieldAdapter field(label_, *english_, "%@");
   field.setStringValue("<b>bold</b>");
   EXPECT_EQ(label_.textFormat(), Qt::PlainText);
   EXPECT_EQ(label_.text().toStdString(), "<b>bold</b>");
 }
 
-TEST_F(TextField, MarksAColouredTextByWeightToo) {
+TEST_F(TextField, MakesColouredTextBold) {
   ui::qt::TextFieldAdapter field(label_, *english_, "%@");
   field.setTextColor(ui::Color::deviceRGB(0.5, 0, 0, 1));
   EXPECT_TRUE(label_.font().bold());
@@ -365,7 +365,7 @@ TEST_F(TextField, IsReadOutWithItsName) {
             "Source, Sample, Left peak: \u22120.1 dB");
 }
 
-TEST(Lamp, DiffersInFormAndColour) {
+TEST(Lamp, DiffersInShapeAndColour) {
   ui::qt::Lamp lamp;
   lamp.resize(12, 12);
   ui::qt::LampAdapter indicator(lamp);
@@ -373,7 +373,7 @@ TEST(Lamp, DiffersInFormAndColour) {
   indicator.setIntValue(2);
   const QImage lit = lamp.grab().toImage();
   const QColor background = lamp.palette().color(QPalette::Window);
-  // A corner that the round lamp leaves free and the square one fills.
+  // The corner is empty in the round lamp and filled in the square one.
   EXPECT_EQ(dark.pixelColor(1, 1), background);
   EXPECT_NE(lit.pixelColor(1, 1), background);
   EXPECT_GT(lit.pixelColor(6, 6).red(), 2 * lit.pixelColor(6, 6).green());
@@ -393,7 +393,7 @@ TEST(Lamp, TellsAssistiveToolsWhetherItIsLit) {
   EXPECT_EQ(accessible->text(QAccessible::Value), "2");
 }
 
-TEST(TabularFont, HasFiguresOfOneWidthBoldOrNot) {
+TEST(TabularFont, HasDigitsOfEqualWidthBoldOrNot) {
   QFont font = ui::qt::tabularFont(ui::qt::viewFont());
   for (const bool bold : {false, true}) {
     font.setBold(bold);

@@ -20,7 +20,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Runs Qt's event loop until the condition holds; ends with the event that made it so.
+/// Runs Qt's event loop for at most ten seconds. Returns whether the condition then holds.
 template <class Condition>
 bool turnUntil(Condition condition) {
   return QTest::qWaitFor(condition, 10000);
@@ -42,7 +42,7 @@ TEST(QtRunLoop, FiresATimerAgainAndAgainUntilItIsInvalidated) {
   EXPECT_EQ(fired, 103);
 }
 
-TEST(QtRunLoop, LetsATimerDestroyItselfInItsOwnCall) {
+TEST(QtRunLoop, LetsATimerDestroyItselfInItsOwnCallback) {
   ui::qt::QtRunLoop loop;
   bool fired = false;
   std::unique_ptr<ui::Timer> timer;
@@ -53,7 +53,7 @@ TEST(QtRunLoop, LetsATimerDestroyItselfInItsOwnCall) {
   EXPECT_TRUE(turnUntil([&] { return fired; }));
 }
 
-TEST(QtRunLoop, DoesDeferredWorkOnceAndNeverAtOnce) {
+TEST(QtRunLoop, DoesDeferredWorkOnceAndNotImmediately) {
   ui::qt::QtRunLoop loop;
   int done = 0;
   const auto work = loop.performLater([&] { ++done; });
@@ -63,7 +63,7 @@ TEST(QtRunLoop, DoesDeferredWorkOnceAndNeverAtOnce) {
   EXPECT_EQ(done, 1);
 }
 
-TEST(QtRunLoop, ForgetsDeferredWorkThatIsGivenUp) {
+TEST(QtRunLoop, ForgetsCancelledWork) {
   ui::qt::QtRunLoop loop;
   bool done = false;
   bool other = false;
@@ -83,7 +83,7 @@ TEST(QtRunLoop, LogsWhatItsWorkThrows) {
   EXPECT_THAT(log.lines(), ElementsAre(testing::HasSubstr("the work failed")));
 }
 
-/// A listener on the main thread to one property of a unit.
+/// Listens, on the main thread, to one property of a unit.
 class Listener {
  public:
   explicit Listener(audio_unit::Unit& unit) {
@@ -108,7 +108,7 @@ class Listener {
   int received_ = 0;
 };
 
-TEST(AudioUnitPump, BringsEventsOfAnyThreadToTheMainThread) {
+TEST(AudioUnitPump, DeliversEventsFromAnyThreadOnTheMainThread) {
   ui::qt::pumpAudioUnitEvents();
   EXPECT_TRUE(CFRunLoopGetCurrent()->hasWakeUp());
   ui::qt::pumpAudioUnitEvents();
@@ -120,7 +120,7 @@ TEST(AudioUnitPump, BringsEventsOfAnyThreadToTheMainThread) {
   EXPECT_TRUE(turnUntil([&] { return listener.received() == 1; }));
 }
 
-TEST(AudioUnitPump, LeavesARunLoopThatSomebodyPumps) {
+TEST(AudioUnitPump, LeavesARunLoopAloneThatIsAlreadyPumped) {
   int woken = 0;
   CFRunLoopGetCurrent()->setWakeUp([&] { ++woken; });
   ui::qt::pumpAudioUnitEvents();

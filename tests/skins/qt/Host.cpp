@@ -18,7 +18,7 @@ namespace qt_test {
 
 namespace {
 
-/// Hands everything on to a run loop that outlives all views.
+/// Forwards everything to a run loop that outlives all views.
 class BorrowedRunLoop final : public ui::RunLoop {
  public:
   explicit BorrowedRunLoop(ui::RunLoop& loop) : loop_(loop) {}
@@ -98,7 +98,7 @@ void ResourceFolder::lengthenTexts() const {
         const QRegularExpressionMatch match = entry.match(QString::fromStdString(line));
         if (match.hasMatch()) {
           const QString text = match.captured(2);
-          // Letters of the text itself, so that the length grows as a translation's would.
+          // Repeats the text's own letters, so that its width grows like a translation's.
           QString letters = text;
           letters.remove(QLatin1String("%@")).remove(QLatin1Char('%')).remove(QLatin1Char('\\'));
           const qsizetype more = (letters.size() + 1) / 2;
@@ -113,7 +113,7 @@ void ResourceFolder::lengthenTexts() const {
 
 Host::Host(audio_unit::Unit& unit, const HostOptions& options)
     : runLoop_(options.runLoop != nullptr ? *options.runLoop : ownRunLoop_.emplace(log_)) {
-  // The test delivers the events of units; nobody else may.
+  // Only the test may deliver units' events; this keeps Qt's pump away.
   CFRunLoopGetCurrent()->setWakeUp([] {});
   ui::qt::Environment environment = testEnvironment(options.resources);
   environment.languages = {options.language};
@@ -144,7 +144,7 @@ Host::Host(audio_unit::Unit& unit, const HostOptions& options)
 }
 
 Host::~Host() {
-  // A view that has left its parent belongs to whoever took it out.
+  // A view without a parent is not destroyed with the window.
   if (view_ != nullptr && view_->parentWidget() == nullptr) {
     delete view_;
   }

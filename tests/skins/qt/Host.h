@@ -21,16 +21,16 @@ class QMessageBox;
 
 namespace qt_test {
 
-/// What differs between the hosts of a test.
+/// How a host differs from the default.
 struct HostOptions {
   std::filesystem::path resources = VELK_BUNDLE_RESOURCES;
   std::string language = "en";
   std::string locale = "en_US";
-  /// A clock that several hosts share and that outlives them; null for one of the host's own.
+  /// A run loop that several hosts share and that outlives them; null for one of the host's own.
   fakes::FakeRunLoop* runLoop = nullptr;
 };
 
-/// A copy of the bundle's resources that lives as long as this object. Its files may be changed.
+/// A temporary copy of the bundle's resources, which a test may change.
 class ResourceFolder {
  public:
   ResourceFolder();
@@ -40,7 +40,7 @@ class ResourceFolder {
 
   const std::filesystem::path& path() const { return path_; }
   std::filesystem::path interfaceFile() const { return path_ / "Velk_NordaAACConverter.ui"; }
-  /// The interface file's text with every `from` replaced; a `from` that is not there throws.
+  /// Replaces every `from` in the interface file by `to`. Throws if there is none.
   void rewrite(const std::string& from, const std::string& to) const;
   /// Makes every text of every strings table half as long again.
   void lengthenTexts() const;
@@ -49,8 +49,8 @@ class ResourceFolder {
   std::filesystem::path path_;
 };
 
-/// A window with a view that the real factory and the real loader made, bound to a unit whose
-/// events and whose time the test drives.
+/// A window with a view made by the real factory and the real loader. The test drives the view's
+/// time and the delivery of the unit's events.
 class Host {
  public:
   explicit Host(audio_unit::Unit& unit, const HostOptions& options = {});
@@ -59,19 +59,19 @@ class Host {
   ~Host();
 
   QWidget& window() { return *window_; }
-  /// Null once it has been destroyed.
+  /// Null once the view has been destroyed.
   QWidget* view() const { return view_; }
   ui::NativeView& native();
-  /// The widget whose `outlets` name it, in the view or a sheet. Throws if there is none.
+  /// The widget, in the view or a sheet, that fills the outlet. Throws if there is none.
   QWidget& outlet(std::string_view name) const;
   template <class Widget>
   Widget& outlet(std::string_view name) const {
     return dynamic_cast<Widget&>(outlet(name));
   }
-  /// The widget of that object name. Throws if there is none.
+  /// The widget with that object name. Throws if there is none.
   QWidget& named(const char* name) const;
 
-  /// The alert that is open over the view; null while there is none.
+  /// The alert that is open over the view; null if there is none.
   QMessageBox* alert() const;
 
   void advance(std::chrono::milliseconds time);
@@ -86,7 +86,7 @@ class Host {
   QPointer<QWidget> view_;
 };
 
-/// An environment for a loader without a host: that folder, that language, no real help browser.
+/// An environment for a loader without a host: these resources, in English, and no help browser.
 ui::qt::Environment testEnvironment(const std::filesystem::path& resources);
 
 void setLightPalette();

@@ -17,7 +17,7 @@ namespace {
 using testing::AllOf;
 using testing::HasSubstr;
 
-/// The resources of the bundle, to be damaged.
+/// Loads the view from a copy of the bundle's resources, which a test may damage.
 class InterfaceLoader : public testing::Test {
  protected:
   std::unique_ptr<ui::NativeView> load() {
@@ -26,7 +26,7 @@ class InterfaceLoader : public testing::Test {
     return loader.loadNibNamed("Velk_NordaAACConverter", velk::makeInterfaceObjects);
   }
 
-  /// What loading fails with; empty if it does not fail.
+  /// Loads the view and returns the error message; empty if loading succeeds.
   std::string fault() {
     try {
       load();
@@ -36,7 +36,7 @@ class InterfaceLoader : public testing::Test {
     }
   }
 
-  /// A label more on the audition page, with these properties.
+  /// Adds a label with these properties to the audition page.
   void addLabel(const std::string& properties) const {
     resources_.rewrite("<widget class=\"Lamp\" name=\"sourceClipIndicator\">",
                        "<widget class=\"QLabel\" name=\"extraLabel\">" + properties +
@@ -73,7 +73,7 @@ TEST_F(InterfaceLoader, NamesABrokenFile) {
   EXPECT_THAT(fault(), HasSubstr("Velk_NordaAACConverter.ui"));
 }
 
-TEST_F(InterfaceLoader, RefusesAFileOfAnotherShape) {
+TEST_F(InterfaceLoader, RefusesAFileOfAnotherStructure) {
   write("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"top\"/></ui>");
   EXPECT_THAT(fault(), HasSubstr("QStackedWidget"));
   write("<ui version=\"4.0\"><widget class=\"QStackedWidget\" name=\"top\"/></ui>");
@@ -139,7 +139,7 @@ TEST_F(InterfaceLoader, NamesAnOutletThatStaysEmpty) {
               AllOf(HasSubstr("no widget fills"), HasSubstr("\"auditionController.eimcField\"")));
 }
 
-TEST_F(InterfaceLoader, NamesACaptionOfAButtonThatIsNotThere) {
+TEST_F(InterfaceLoader, NamesACaptionOfAMissingButton) {
   addLabel(property("clicks", "noSuchButton"));
   EXPECT_THAT(fault(), AllOf(HasSubstr("\"extraLabel\""), HasSubstr("\"noSuchButton\"")));
 }
@@ -150,7 +150,7 @@ TEST_F(InterfaceLoader, NamesAMenuWithMoreActionsThanItems) {
   EXPECT_THAT(fault(), AllOf(HasSubstr("\"encoderPopup\""), HasSubstr("fewer menu items")));
 }
 
-TEST_F(InterfaceLoader, FillsOneOutletAfterAnotherFromOneWidget) {
+TEST_F(InterfaceLoader, FillsSeveralOutletsWithOneWidget) {
   resources_.rewrite("auditionController.eimcField", "");
   resources_.rewrite(">auditionController.esmcField<",
                      ">auditionController.esmcField auditionController.eimcField<");
@@ -170,14 +170,14 @@ TEST_F(InterfaceLoader, MakesTheFactoryLogTheFaultAndGiveNoView) {
                                      testing::Matcher<std::string>(HasSubstr("showNoHelp:"))}));
 }
 
-TEST_F(InterfaceLoader, NamesAPlaceThatNoGridHas) {
+TEST_F(InterfaceLoader, NamesAnInvalidGridPlace) {
   resources_.rewrite("<item row=\"6\" column=\"6\">", "<item row=\"-427\" column=\"6\">");
   EXPECT_THAT(fault(), HasSubstr("\"-427\""));
   resources_.rewrite("row=\"-427\"", "row=\"1073741824\"");
   EXPECT_THAT(fault(), HasSubstr("\"1073741824\""));
 }
 
-TEST_F(InterfaceLoader, SurvivesEveryCutOfTheFile) {
+TEST_F(InterfaceLoader, SurvivesATruncatedFile) {
   std::ifstream stream(resources_.interfaceFile());
   const std::string whole{std::istreambuf_iterator<char>(stream), {}};
   for (std::size_t length = 0; length + 8 < whole.size(); length += whole.size() / 23) {

@@ -27,7 +27,7 @@ bool someKeyHas(std::uint16_t code) {
   return positionCodeForQtKey(Qt::Key_Clear, true) == code;
 }
 
-TEST(KeyCodes, GiveEveryLabelledPositionToSomeKey) {
+TEST(KeyCodes, CoverEveryLabelledPosition) {
   for (std::uint16_t code = 0; code <= 126; ++code) {
     if (!velk::keyLabel(code).empty()) {
       EXPECT_TRUE(someKeyHas(code)) << "position code " << code;
@@ -39,7 +39,7 @@ TEST(KeyCodes, GiveNoTwoKeysTheSamePosition) {
   std::map<std::uint16_t, std::uint32_t> seen;
   for (std::uint32_t key = 1; key < 256; ++key) {
     const std::uint16_t code = positionCodeForEvdev(key);
-    // Help keyboards and Insert keyboards share the place.
+    // Help and Insert share a position: a keyboard has one or the other there.
     if (code == kNoPositionCode || code == 114) {
       continue;
     }
@@ -47,15 +47,15 @@ TEST(KeyCodes, GiveNoTwoKeysTheSamePosition) {
   }
 }
 
-TEST(KeyCodes, TakeAKeyByItsPlaceWhateverItWrites) {
-  // The key beside Tab writes an A on a French keyboard and a Q on an English one.
+TEST(KeyCodes, IdentifyAKeyByItsPlaceWhateverItTypes) {
+  // The key beside Tab types an A on a French keyboard and a Q on an English one.
   const auto french = press(Qt::Key_A, 16 + kScanCodeOffset);
   EXPECT_EQ(positionCode(french), 12);
   const auto english = press(Qt::Key_Q, 16 + kScanCodeOffset);
   EXPECT_EQ(positionCode(english), 12);
 }
 
-TEST(KeyCodes, TakeAnEventWithoutAPlaceByWhatItWrites) {
+TEST(KeyCodes, IdentifyAKeyWithoutAScanCodeByWhatItTypes) {
   EXPECT_EQ(positionCode(press(Qt::Key_S, 0)), 1);
   EXPECT_EQ(positionCode(press(Qt::Key_S, 0, Qt::ShiftModifier | Qt::ControlModifier)), 1);
   EXPECT_EQ(positionCode(press(Qt::Key_Backspace, 0)), 51);
@@ -71,7 +71,7 @@ TEST(KeyCodes, TellMainRowAndKeypadApart) {
   EXPECT_EQ(positionCode(press(Qt::Key_Return, 0)), 36);
 }
 
-TEST(KeyCodes, KnowNoPlaceForOtherKeys) {
+TEST(KeyCodes, GiveNoPositionToOtherKeys) {
   EXPECT_EQ(positionCode(press(Qt::Key_Shift, 42 + kScanCodeOffset)), kNoPositionCode);
   EXPECT_EQ(positionCode(press(Qt::Key_VolumeUp, 115 + kScanCodeOffset)), kNoPositionCode);
   EXPECT_EQ(positionCode(press(Qt::Key_unknown, 0)), kNoPositionCode);
@@ -79,7 +79,7 @@ TEST(KeyCodes, KnowNoPlaceForOtherKeys) {
   EXPECT_EQ(positionCodeForEvdev(100000), kNoPositionCode);
 }
 
-TEST(KeyCodes, HaveTheLabelsOfTheBoundKeys) {
+TEST(KeyCodes, GiveTheBoundKeysTheirLabels) {
   const std::pair<std::uint32_t, const char*> bound[] = {{2, "1"},  {3, "2"},  {14, "\u232B"},
                                                          {31, "S"}, {30, "A"}, {48, "B"}};
   for (const auto& [key, label] : bound) {

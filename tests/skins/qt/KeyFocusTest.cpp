@@ -17,8 +17,7 @@
 #include "view/fakes/FakeConverter.h"
 #include "view/fakes/NotificationRecorder.h"
 
-/// Who has the keys: of two views the one with the focus, and a view always after the mouse was
-/// used.
+/// Which view gets the keys: of two the focused one, and any view after the mouse was used in it.
 namespace {
 
 using namespace std::chrono_literals;
@@ -28,7 +27,7 @@ using testing::IsEmpty;
 constexpr std::uint16_t kKey1 = 18;
 constexpr std::uint16_t kKey2 = 19;
 
-/// Every bound key and what it posts.
+/// The position of every bound key, and the notifications that it posts.
 const std::map<std::uint16_t, std::vector<std::string>>& boundKeys() {
   static const std::vector<std::string> one = {
       "aac_monitorSourceActionPerformedNotification",
@@ -57,7 +56,7 @@ class KeysAfterTheMouse : public testing::Test {
   QTabWidget& tabs() { return host_.outlet<QTabWidget>("view.tabView"); }
   void click(std::string_view outlet) { qt_test::clickOn(host_.outlet(outlet)); }
 
-  /// Presses each bound key at what has the focus.
+  /// Presses each bound key on the widget that has the focus, which must be the view.
   void expectKeysToWork(const std::string& after) {
     SCOPED_TRACE("after " + after);
     settle();
@@ -119,7 +118,7 @@ TEST_F(KeysAfterTheMouse, WorkWhateverWasClickedOnTheTestPage) {
     click(std::string("listeningTestController.") + button);
     expectKeysToWork(button);
     if (QWidget* sheet = openSheet()) {
-      // Twenty answers end a test.
+      // The key presses above also answered the test, which ends after twenty answers.
       QTest::keyClick(sheet, Qt::Key_Return);
     }
   }
@@ -127,12 +126,12 @@ TEST_F(KeysAfterTheMouse, WorkWhateverWasClickedOnTheTestPage) {
   expectKeysToWork("the help button");
 }
 
-TEST_F(KeysAfterTheMouse, WorkAfterAPickAndAfterAMenuWasLeft) {
+TEST_F(KeysAfterTheMouse, WorkAfterAPickAndAfterAClosedMenu) {
   auto& menu = host_.outlet<QComboBox>("view.encoderPopup");
   qt_test::clickOn(menu);
   QApplication::processEvents();
   menu.hidePopup();
-  expectKeysToWork("a menu that was left");
+  expectKeysToWork("a closed menu");
   qt_test::clickOn(menu);
   QApplication::processEvents();
   qt_test::pickItem(menu, 2);
@@ -160,7 +159,7 @@ TEST_F(KeysAfterTheMouse, WorkAfterEachSheetHasClosed) {
   expectKeysToWork("the results");
 }
 
-TEST_F(KeysAfterTheMouse, WorkAfterTheAlertWasAnswered) {
+TEST_F(KeysAfterTheMouse, WorkAfterTheAlertIsAnswered) {
   qt_test::clickTab(tabs(), 1);
   click("listeningTestController.aIsSourceButton");
   settle();
@@ -222,7 +221,7 @@ TEST_F(TwoViewsInOneWindow, GetTheKeysOneAtATime) {
   EXPECT_NE(objects[0], objects[1]);
 }
 
-TEST_F(TwoViewsInOneWindow, ChangeTheirOwnUnitOnly) {
+TEST_F(TwoViewsInOneWindow, ChangeOnlyTheirOwnUnit) {
   first_->view()->setFocus();
   qt_test::pressKeyAt(kKey1);
   EXPECT_EQ(firstUnit_.monitorSource, 1U);

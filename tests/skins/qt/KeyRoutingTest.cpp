@@ -30,10 +30,10 @@ constexpr std::uint16_t kSpace = 49;
 
 const std::string kS(velk::listeningTestMonitorSourceActionPerformedNotification);
 
-/// Keys that come to the host's window because nobody took them.
-class LeftOver final : public QObject {
+/// Records the key presses that nothing handles and that so reach the host's window.
+class UnhandledKeys final : public QObject {
  public:
-  explicit LeftOver(QWidget& window) { window.installEventFilter(this); }
+  explicit UnhandledKeys(QWidget& window) { window.installEventFilter(this); }
   const std::vector<int>& keys() const { return keys_; }
 
  protected:
@@ -132,14 +132,14 @@ TEST_F(KeyRouting, LeavesASheetItsKeys) {
   EXPECT_THAT(posted(), IsEmpty());
 }
 
-TEST_F(KeyRouting, HandsEveryPressOnToTheHost) {
-  const LeftOver leftOver(host_.window());
+TEST_F(KeyRouting, PassesEveryPressOnToTheHost) {
+  const UnhandledKeys unhandled(host_.window());
   qt_test::pressKeyAt(kKeyS);
   qt_test::pressKeyAt(kKeyZ);
-  EXPECT_THAT(leftOver.keys(), ElementsAre(Qt::Key_S, Qt::Key_Z));
+  EXPECT_THAT(unhandled.keys(), ElementsAre(Qt::Key_S, Qt::Key_Z));
   host_.outlet("view.encoderPopup").setFocus();
   qt_test::pressKeyAt(kKeyS);
-  EXPECT_THAT(leftOver.keys(), ElementsAre(Qt::Key_S, Qt::Key_Z, Qt::Key_S));
+  EXPECT_THAT(unhandled.keys(), ElementsAre(Qt::Key_S, Qt::Key_Z, Qt::Key_S));
   EXPECT_THAT(posted(), ElementsAre(kS, kS)) << "each press once";
 }
 
@@ -156,7 +156,7 @@ TEST_F(KeyRouting, MovesTheFocusByTab) {
   EXPECT_EQ(visited[0], &host_.outlet("view.encoderPopup"));
 }
 
-TEST_F(KeyRouting, ComesBackToTheViewWhenAControlIsClicked) {
+TEST_F(KeyRouting, ReturnsToTheViewWhenAControlIsClicked) {
   host_.outlet("view.encoderPopup").setFocus();
   QTest::mouseClick(&host_.outlet("auditionController.resetButton"), Qt::LeftButton);
   EXPECT_TRUE(host_.view()->hasFocus());
@@ -173,7 +173,7 @@ TEST_F(KeyRouting, RepeatsAsTheKeyboardRepeats) {
   EXPECT_THAT(posted(), ElementsAre(kS));
 }
 
-TEST_F(KeyRouting, TakesNoNoticeOfModifiers) {
+TEST_F(KeyRouting, IgnoresModifiers) {
   for (const Qt::KeyboardModifier modifier :
        {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier,
         Qt::MetaModifier}) {
@@ -183,7 +183,7 @@ TEST_F(KeyRouting, TakesNoNoticeOfModifiers) {
   }
 }
 
-TEST_F(KeyRouting, EndsWithTheViewsParent) {
+TEST_F(KeyRouting, EndsWhenTheViewLeavesItsParent) {
   host_.view()->setParent(nullptr);
   qt_test::pressKeyAt(kKeyS, *host_.view());
   EXPECT_THAT(posted(), IsEmpty());

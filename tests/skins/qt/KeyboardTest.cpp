@@ -19,7 +19,7 @@
 #include "skins/qt/Mouse.h"
 #include "view/fakes/FakeConverter.h"
 
-/// Everything that a mouse can do, done by keys alone.
+/// Everything that can be done with a mouse, done with keys alone.
 namespace {
 
 using namespace std::chrono_literals;
@@ -41,10 +41,10 @@ class Keyboard : public testing::Test {
   static void type(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     ASSERT_NE(QApplication::focusWidget(), nullptr);
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    // A window that has opened or closed gives or gets the focus now.
+    // If a window has opened or closed, the focus moves now.
     QApplication::processEvents();
   }
-  /// Opens the menu, which has the focus, by the first key and types the others into it.
+  /// Opens the menu, which must have the focus, with the first key and types the others into it.
   template <class... Keys>
   static void typeIntoMenu(QComboBox& box, Qt::Key opening, Keys... keys) {
     ASSERT_TRUE(box.hasFocus());
@@ -52,14 +52,14 @@ class Keyboard : public testing::Test {
     ASSERT_TRUE(box.view()->isVisible());
     (QTest::keyClick(box.view(), keys), ...);
     ASSERT_FALSE(box.view()->isVisible());
-    // Off screen there is no window manager that would do it.
+    // Off screen there is no window manager to do this.
     if (QApplication::activeModalWidget() == nullptr ||
         QApplication::activeModalWidget() == box.window()) {
       box.window()->activateWindow();
     }
     QApplication::processEvents();
   }
-  /// Goes on by Tab until the widget has the focus.
+  /// Presses Tab until the widget has the focus.
   void tabTo(QWidget& widget) {
     for (int press = 0; press < 30 && !widget.hasFocus(); ++press) {
       type(Qt::Key_Tab);
@@ -118,7 +118,7 @@ TEST_F(Keyboard, StepsOverTheSeparatorToAnEarlierCustomSetting) {
   EXPECT_EQ(menu().currentIndex(), kNewestCustomItem);
 }
 
-TEST_F(Keyboard, WorksTheWholeCustomSheetAndKeepsItByReturn) {
+TEST_F(Keyboard, OperatesTheWholeCustomSheetAndConfirmsItByReturn) {
   openCustomSheet();
   tabTo(popUp("strategyPopup"));
   typeIntoMenu(popUp("strategyPopup"), Qt::Key_Down, Qt::Key_End, Qt::Key_Return);
@@ -146,7 +146,7 @@ TEST_F(Keyboard, WorksTheWholeCustomSheetAndKeepsItByReturn) {
   EXPECT_EQ(menu().currentText(), "AAC VBR Quality: 1");
 }
 
-TEST_F(Keyboard, PicksTypeAndRateInTheCustomSheetAndTakesThemBackByEscape) {
+TEST_F(Keyboard, PicksTypeAndRateInTheCustomSheetAndCancelsThemByEscape) {
   openCustomSheet();
   tabTo(popUp("bitratePopup"));
   typeIntoMenu(popUp("bitratePopup"), Qt::Key_Up, Qt::Key_Up, Qt::Key_Return);
@@ -233,7 +233,7 @@ TEST_F(Keyboard, OpensAndClosesTheKeyBindings) {
   }
 }
 
-TEST_F(Keyboard, TurnsThePagesByArrows) {
+TEST_F(Keyboard, ChangesPagesByArrows) {
   tabTo(tabs());
   type(Qt::Key_Right);
   EXPECT_EQ(tabs().currentIndex(), 1);
@@ -278,7 +278,7 @@ TEST_F(Keyboard, RunsAListeningTestAndStopsItInTheAlert) {
   EXPECT_EQ(tabs().currentIndex(), 0);
 }
 
-TEST_F(Keyboard, EndsAListeningTestAndLeavesItsResults) {
+TEST_F(Keyboard, EndsAListeningTestAndClosesItsResults) {
   showTestPage();
   tabTo("listeningTestController.endTestButton");
   type(Qt::Key_Space);
@@ -293,7 +293,7 @@ TEST_F(Keyboard, EndsAListeningTestAndLeavesItsResults) {
   EXPECT_FALSE(results.isVisible());
 }
 
-/// The widgets that Tab reaches in a window, each once.
+/// The widgets that Tab reaches in the current window, each once.
 std::vector<QWidget*> tabChain() {
   std::vector<QWidget*> chain;
   for (int press = 0; press < 40; ++press) {
@@ -307,7 +307,7 @@ std::vector<QWidget*> tabChain() {
   return chain;
 }
 
-/// Goes round a window by Tab, from its first control.
+/// Checks that Tab goes from a window's first control to every other, left to right and downwards.
 void expectReadingOrder(const QWidget& top) {
   std::vector<QWidget*> chain = tabChain();
   const auto place = [&top](const QWidget& widget) { return widget.mapTo(&top, QPoint(0, 0)); };

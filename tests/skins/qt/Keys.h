@@ -6,10 +6,9 @@ class QWidget;
 
 namespace qt_test {
 
-/// Sends the press and release of the key at that position, as an X11 keyboard of the US layout
-/// would, to the widget.
+/// Presses and releases, on the widget, the key at that position of an X11 keyboard (US layout).
 void pressKeyAt(std::uint16_t positionCode, QWidget& widget);
-/// The same, to the widget that has the focus. Throws if none has it.
+/// Does the same on the widget that has the focus. Throws if none has it.
 void pressKeyAt(std::uint16_t positionCode);
 
 }  // namespace qt_test

@@ -35,8 +35,8 @@ void openAndClose(fakes::FakeConverter& unit) {
   host.outlet<QAbstractButton>("keyController.doneButton").click();
 }
 
-/// The leak checker of a sanitizer build counts what is lost; here it is what piles up.
-TEST(OpeningAndClosingViews, PilesNothingUp) {
+/// A leak checker finds lost memory; this finds memory that is still referenced but accumulates.
+TEST(OpeningAndClosingViews, AccumulatesNoMemory) {
   fakes::CallLog calls;
   fakes::FakeConverter unit(calls);
   const int times = kMeasures ? 100 : 10;
@@ -49,13 +49,13 @@ TEST(OpeningAndClosingViews, PilesNothingUp) {
     QApplication::processEvents();
     return mallinfo2().uordblks;
   };
-  // Once for the caches of fonts and pictures.
+  // The first run fills the font and pixmap caches.
   const std::size_t before = run();
   const std::size_t after = run();
   if (kMeasures) {
     const double perView =
         (static_cast<double>(after) - static_cast<double>(before)) / static_cast<double>(times);
-    EXPECT_LT(perView, 256.0) << "bytes a view";
+    EXPECT_LT(perView, 256.0) << "bytes per view";
   }
   EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }

@@ -19,7 +19,7 @@
 
 #include "skins/qt/Host.h"
 #include "skins/qt/Lamp.h"
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SegmentedControlAdapter.h"
 #include "skins/qt/SkinStyle.h"
 #include "skins/qt/Tour.h"
@@ -33,7 +33,7 @@ QRect placeIn(const QWidget& top, const QWidget& widget) {
   return {widget.mapTo(&top, QPoint(0, 0)), widget.size()};
 }
 
-/// What the widget's own text needs, without the space around it that it can give up.
+/// The size that the widget's own text needs, without padding that may shrink.
 QSize textSize(const QWidget& widget) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
     return label->wordWrap() ? QSize(0, label->heightForWidth(label->width()))
@@ -59,13 +59,13 @@ void expectNothingClipped(const QWidget& top) {
     if (!widget->isVisible() || widget->window() != top.window() ||
         qobject_cast<const QStackedWidget*>(widget) != nullptr ||
         qobject_cast<const QTabWidget*>(widget) != nullptr) {
-      // What holds pages asks for room for the hidden ones too.
+      // Containers of pages ask for room for the hidden pages, too.
       continue;
     }
     const std::string name = widget->objectName().toStdString();
     const QSize needed = textSize(*widget);
     EXPECT_GE(widget->width(), needed.width()) << name << " is too narrow";
-    EXPECT_GE(widget->height(), needed.height()) << name << " is too low";
+    EXPECT_GE(widget->height(), needed.height()) << name << " is not tall enough";
     EXPECT_TRUE(top.rect().contains(placeIn(top, *widget)))
         << name << " sticks out of " << top.objectName().toStdString();
   }
@@ -133,7 +133,7 @@ TEST_P(Look, ClipsNothingOnAMonoConverter) {
 INSTANTIATE_TEST_SUITE_P(Languages, Look, testing::Values("en", "de", "fr"),
                          [](const auto& info) { return std::string(info.param); });
 
-/// Captions of the interface file that are written the same in every language.
+/// Whether the caption is the same in every language.
 bool isTheSameEverywhere(const QString& caption) {
   static const std::set<QString> kSame = {
       "A",        "B",        "S",      "?",       "\u232B",   "AAC",     "ABR",
@@ -247,7 +247,7 @@ TEST(Readings, KeepTheirPlaceWhenTheyChange) {
   EXPECT_EQ(placeIn(*host.view(), field), before);
 }
 
-TEST(Readings, TellAnOverByWeightAndFormAsWellAsByColour) {
+TEST(Readings, MarkAnOverByWeightAndShapeAsWellAsByColour) {
   fakes::CallLog calls;
   fakes::FakeConverter unit(calls);
   qt_test::Host host(unit);
@@ -267,7 +267,7 @@ TEST(Readings, TellAnOverByWeightAndFormAsWellAsByColour) {
   EXPECT_FALSE(isBold("sslcField"));
   EXPECT_TRUE(isBold("silField"));
   EXPECT_TRUE(isBold("silcField"));
-  // The square fills corners that the round lamp leaves free: it shows without any colour.
+  // The square fills corners that the round lamp leaves empty, which shows even without colour.
   const QImage dark = lampPicture("sslIndicator");
   const QImage lit = lampPicture("silIndicator");
   const int background = qGray(host.view()->palette().color(QPalette::Window).rgb());

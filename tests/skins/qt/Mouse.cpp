@@ -13,7 +13,7 @@
 namespace qt_test {
 
 void clickOn(QWidget& widget) {
-  // A check box that is wider than its title takes clicks on the title only.
+  // A check box reacts only to clicks on its box and title, which may end left of its centre.
   const QPoint place = qobject_cast<QCheckBox*>(&widget) != nullptr ? QPoint(8, widget.height() / 2)
                                                                     : widget.rect().center();
   QTest::mouseClick(&widget, Qt::LeftButton, {}, place);

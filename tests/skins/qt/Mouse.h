@@ -5,13 +5,13 @@ class QSlider;
 class QTabWidget;
 class QWidget;
 
-/// What a hand on the mouse does.
+/// What a user does with the mouse.
 namespace qt_test {
 
 void clickOn(QWidget& widget);
-/// Opens the menu and clicks the item. A disabled menu stays closed.
+/// Opens the menu and clicks the item. Does nothing if the menu is disabled.
 void pickItem(QComboBox& box, int index);
-/// Clicks the place that stands for the value. Throws if no pixel does.
+/// Clicks the slider where its value becomes `value`. Throws if there is no such pixel.
 void clickAt(QSlider& slider, int value);
 void clickTab(QTabWidget& tabs, int index);
 

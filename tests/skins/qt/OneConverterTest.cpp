@@ -16,20 +16,20 @@
 #include "skins/qt/Host.h"
 #include "skins/qt/Mouse.h"
 
-/// Two views, each in a window of its own, of one converter that really encodes.
+/// Two views of one real converter, each in a window of its own.
 namespace {
 
 using namespace std::chrono_literals;
 
-/// The longest time after which a change made elsewhere has to be seen.
+/// A change made elsewhere must be visible after this time.
 constexpr auto kLatest = 50ms;
 constexpr int kFirstCustomItem = 5;
 
-/// Hears of every change of what the views listen to, whoever makes it.
+/// Counts every change of what the views listen to, whoever makes it.
 class Changes {
  public:
   explicit Changes(audio_unit::Unit& unit) {
-    AUEventListenerCreate(&heard, this, CFRunLoopGetCurrent(), kCFRunLoopCommonModes, 0, 0,
+    AUEventListenerCreate(&count, this, CFRunLoopGetCurrent(), kCFRunLoopCommonModes, 0, 0,
                           &listener_);
     AudioUnitEvent event{};
     event.mEventType = kAudioUnitEvent_ParameterValueChange;
@@ -51,11 +51,11 @@ class Changes {
   Changes& operator=(const Changes&) = delete;
   ~Changes() { AUListenerDispose(listener_); }
 
-  /// How often each parameter (by its identifier) and property changed.
+  /// The number of changes of each parameter and property, by identifier.
   const std::map<UInt32, int>& counts() const { return counts_; }
 
  private:
-  static void heard(void* self, void*, const AudioUnitEvent* event, UInt64,
+  static void count(void* self, void*, const AudioUnitEvent* event, UInt64,
                     AudioUnitParameterValue) {
     const UInt32 changed = event->mEventType == kAudioUnitEvent_PropertyChange
                                ? event->mArgument.mProperty.mPropertyID
@@ -147,7 +147,7 @@ TEST_F(OneConverter, ShowsACustomEntryThatIsPickedInOneViewInTheOtherWithinFifty
   qt_test::pickItem(menu(*first_), kFirstCustomItem + 1);
   advance(kLatest);
   EXPECT_EQ(menu(*second_).currentText(), "AAC ABR 40 Kbps");
-  // Three parameters are written one after the other, and the menu follows the last.
+  // Three parameters are written one after the other; the menu follows the last.
   settle();
   EXPECT_EQ(menu(*first_).currentText(), "AAC ABR 40 Kbps");
   EXPECT_EQ(menu(*first_).count(), 8);
@@ -160,7 +160,7 @@ TEST_F(OneConverter, ShowsTheSheetOfOneViewInTheMenuOfTheOtherWithinFiftyMillise
   qt_test::pickItem(popUp(*first_, "bitratePopup"), 4);
   advance(kLatest);
   EXPECT_EQ(menu(*second_).currentText(), "AAC VBRC 40 Kbps");
-  EXPECT_EQ(menu(*first_).count(), 6) << "its own menu waits for the sheet's end";
+  EXPECT_EQ(menu(*first_).count(), 6) << "its own menu waits until the sheet closes";
   press(*first_, "settingsController.cancelButton");
   advance(kLatest);
   EXPECT_EQ(menu(*second_).currentIndex(), 0);
@@ -247,7 +247,7 @@ TEST_F(OneConverter, HearsNothingFromViewsThatFollowIt) {
 TEST_F(OneConverter, RefreshesAMenuAtMostOncePerFiftyMillisecondsInABurst) {
   outsideSets(0, 2, 0);
   openViews();
-  // Every setting is new, so that every refresh brings in an item.
+  // Every setting is new, so every refresh inserts an item.
   int refreshes = 0;
   QObject::connect(menu(*first_).model(), &QAbstractItemModel::rowsInserted,
                    [&refreshes] { ++refreshes; });
@@ -267,7 +267,7 @@ TEST_F(OneConverter, RefreshesAMenuAtMostOncePerFiftyMillisecondsInABurst) {
     outsideSets(velk::kConverterParam_RateQuality, static_cast<float>(quality));
   }
   settle();
-  EXPECT_EQ(refreshes, 1) << "all at one time";
+  EXPECT_EQ(refreshes, 1) << "all changes came at once";
   EXPECT_EQ(menu(*first_).currentText(), "AAC VBR Quality: 2999");
 }
 

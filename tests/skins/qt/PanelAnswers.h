@@ -6,8 +6,8 @@
 
 namespace qt_test {
 
-/// Answers the save panel that runs, with a file or with Cancel, on the keyboard. The name that it
-/// proposed; nothing when none runs.
+/// Answers the open save panel by keyboard, with a file or with Cancel. Returns the name that the
+/// panel proposed, or nothing if none is open.
 std::optional<std::string> answerSavePanel(const std::optional<std::filesystem::path>& file);
 
 }  // namespace qt_test

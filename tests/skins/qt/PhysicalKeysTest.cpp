@@ -14,15 +14,15 @@
 #include "view/fakes/FakeConverter.h"
 #include "view/fakes/NotificationRecorder.h"
 
-/// Keys of a keyboard, pressed by their place, with the layouts that users have.
+/// Physical keys, pressed under several keyboard layouts.
 namespace {
 
 using namespace std::chrono_literals;
 
-/// Long enough for a key to arrive on any machine.
+/// In milliseconds. Long enough for a key press to arrive on any machine.
 constexpr int kDeadline = 30'000;
 
-// Places on the keyboard, by their numbers in Linux's input-event-codes.
+// Keys, by their numbers in Linux's input-event-codes.
 constexpr unsigned kDigit1 = 2;
 constexpr unsigned kDigit2 = 3;
 constexpr unsigned kBackspace = 14;
@@ -39,7 +39,7 @@ constexpr unsigned kForwardDelete = 111;
 
 std::unique_ptr<qt_test::XServer> server;
 
-/// The application object on an X server of its own.
+/// Provides an application object on an X server of its own.
 class ApplicationOnX final : public testing::Environment {
  public:
   void SetUp() override {
@@ -62,10 +62,10 @@ class ApplicationOnX final : public testing::Environment {
 const testing::Environment* const kApplication =
     testing::AddGlobalTestEnvironment(new ApplicationOnX);
 
-/// What the keys write that come to the host because nobody took them.
-class Written final : public QObject {
+/// Records what is typed by the keys that nothing handles and that so reach the host.
+class TypedText final : public QObject {
  public:
-  explicit Written(QWidget& window) { window.installEventFilter(this); }
+  explicit TypedText(QWidget& window) { window.installEventFilter(this); }
   const std::string& text() const { return text_; }
   void clear() { text_.clear(); }
 
@@ -83,8 +83,8 @@ class Written final : public QObject {
 
 struct Layout {
   const char* name;
-  /// What the keys at the places of the US layout's A, Q, Y and 1 write.
-  const char* written;
+  /// What the keys that are A, Q, Y and 1 in the US layout type.
+  const char* types;
 };
 
 class PhysicalKeys : public testing::TestWithParam<Layout> {
@@ -97,19 +97,18 @@ class PhysicalKeys : public testing::TestWithParam<Layout> {
     posted_.clear();
   }
 
-  /// Presses the key and waits until as many notifications have come.
+  /// Presses the key and waits for that many notifications.
   void press(unsigned key, std::size_t notifications) {
     const std::size_t wanted = posted_.names().size() + notifications;
     server->pressKey(key);
     EXPECT_TRUE(QTest::qWaitFor([&] { return posted_.names().size() >= wanted; }, kDeadline));
   }
-  /// Presses a key of which nothing is expected, and then one that is bound, so that both have
-  /// certainly arrived.
-  void pressInVain(unsigned key) {
+  /// Presses a key that must have no effect, then a bound one, which can only arrive after it.
+  void pressIneffective(unsigned key) {
     server->pressKey(key);
     press(kS, 1);
   }
-  /// What was posted since the last call.
+  /// Returns, and forgets, what was posted since the last call.
   std::vector<std::string> posted() {
     std::vector<std::string> names = posted_.names();
     posted_.clear();
@@ -126,7 +125,7 @@ using testing::ElementsAre;
 
 constexpr const char* kPostedByS = "aac_listeningTestMonitorSourceActionPerformedNotification";
 
-TEST_P(PhysicalKeys, PostWhatTheirPlaceSays) {
+TEST_P(PhysicalKeys, PostWhatTheirPositionIsBoundTo) {
   for (const unsigned one : {kDigit1, kKeypad1}) {
     press(one, 2);
     EXPECT_THAT(posted(), ElementsAre("aac_monitorSourceActionPerformedNotification",
@@ -155,26 +154,26 @@ TEST_P(PhysicalKeys, PostWhatTheirPlaceSays) {
   EXPECT_EQ(calls_.count("unit.setProperty 5303 = 1"), 1U);
 }
 
-TEST_P(PhysicalKeys, PostTheSameWhateverTheLayoutWritesWithThem) {
-  Written written(host_.window());
-  // The application hears of a new layout some time after the keyboard has it.
-  const auto writesIts = [&] {
-    written.clear();
+TEST_P(PhysicalKeys, PostTheSameWhateverTheyType) {
+  TypedText typed(host_.window());
+  // The application learns of a new layout some time after the keyboard has it.
+  const auto typesAsExpected = [&] {
+    typed.clear();
     for (const unsigned key : {kA, kQ, kY, kDigit1}) {
       server->pressKey(key);
     }
-    return QTest::qWaitFor([&] { return written.text() == GetParam().written; }, 1000);
+    return QTest::qWaitFor([&] { return typed.text() == GetParam().types; }, 1000);
   };
-  ASSERT_TRUE(QTest::qWaitFor(writesIts, kDeadline)) << "it writes " << written.text();
+  ASSERT_TRUE(QTest::qWaitFor(typesAsExpected, kDeadline)) << "it types " << typed.text();
   posted();
   press(kA, 1);
   EXPECT_THAT(posted(), ElementsAre("aac_monitorAActionPerformedNotification"));
-  pressInVain(kQ);
-  EXPECT_THAT(posted(), ElementsAre(kPostedByS)) << "also where it writes an A";
+  pressIneffective(kQ);
+  EXPECT_THAT(posted(), ElementsAre(kPostedByS)) << "even where it types an A";
 }
 
 TEST_P(PhysicalKeys, PostNothingForTheOtherDeleteKey) {
-  pressInVain(kForwardDelete);
+  pressIneffective(kForwardDelete);
   EXPECT_THAT(posted(), ElementsAre(kPostedByS));
 }
 
@@ -186,7 +185,7 @@ TEST_P(PhysicalKeys, PostTheSameWithNumLock) {
   server->pressKey(kNumLock);
 }
 
-TEST_P(PhysicalKeys, AreTheViewsFromEveryControlThatTabReaches) {
+TEST_P(PhysicalKeys, ReachTheViewFromEveryControlThatTabReaches) {
   for (int stop = 0; stop < 6; ++stop) {
     const QWidget* before = QApplication::focusWidget();
     server->pressKey(kTab);

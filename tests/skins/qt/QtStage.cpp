@@ -3,15 +3,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSlider>
 #include <QStackedWidget>
 #include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 #include <stdexcept>
 
@@ -19,7 +16,8 @@
 #include "skins/qt/Keys.h"
 #include "skins/qt/Lamp.h"
 #include "skins/qt/Mouse.h"
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/PanelAnswers.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SegmentedControlAdapter.h"
 #include "view/behaviour/Stage.h"
 #include "view/fakes/BoundView.h"
@@ -28,7 +26,7 @@ namespace behaviour {
 
 namespace {
 
-/// The stage of the Qt skin: a real window off screen, worked with mouse and keyboard events.
+/// The Qt skin's stage: a real off-screen window, operated by mouse and keyboard events.
 class QtStage final : public Stage {
  public:
   explicit QtStage(const PrepareUnit& prepare) : unit_(record_.calls) {
@@ -73,7 +71,7 @@ class QtStage final : public Stage {
     throw std::out_of_range("no help button has the tag " + std::to_string(tag));
   }
   void confirmResults() override {
-    // The panel runs inside the click.
+    // The click returns only when the panel has closed.
     QTimer::singleShot(0, &context_, [this] { answerSavePanel(); });
     qt_test::clickOn(host_->named("resultsOKButton"));
   }
@@ -173,17 +171,8 @@ class QtStage final : public Stage {
 
  private:
   void answerSavePanel() {
-    auto* panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (panel == nullptr) {
-      return;
-    }
-    auto* name = panel->findChild<QLineEdit*>();
-    proposedNames_.push_back(name->text().toStdString());
-    if (saveAnswer_) {
-      name->setText(QString::fromStdString(saveAnswer_->string()));
-      QTest::keyClick(name, Qt::Key_Return);
-    } else {
-      QTest::keyClick(name, Qt::Key_Escape);
+    if (const auto proposed = qt_test::answerSavePanel(saveAnswer_)) {
+      proposedNames_.push_back(*proposed);
     }
   }
 

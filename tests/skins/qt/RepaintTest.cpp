@@ -20,13 +20,13 @@ using testing::UnorderedElementsAre;
 
 constexpr auto kPoll = 75ms;
 
-/// Which widgets of the view are painted, and how often anything is.
+/// Counts paint events, and records which fields and lamps are painted.
 class Paints final : public QObject {
  public:
   Paints() { QApplication::instance()->installEventFilter(this); }
 
   int count() const { return count_; }
-  /// Fields and lamps, by object name. What is around them is painted with them.
+  /// The painted fields and lamps, by object name. Their parents are repainted with them.
   const std::set<std::string>& readings() const { return readings_; }
 
  protected:
@@ -51,7 +51,7 @@ class Repaint : public testing::Test {
   Repaint() {
     qt_test::clickOn(host_.outlet("auditionController.showDetailsButton"));
     unit_.statistics.fill({-1.0F, 1.5F, 0, 12});
-    // A view that has just been shown is painted; then it comes to rest.
+    // A view that has just been shown is still being painted.
     for (int turn = 0; turn < 10; ++turn) {
       host_.advance(kPoll);
     }

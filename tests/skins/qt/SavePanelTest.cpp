@@ -18,7 +18,7 @@ namespace {
 
 class SavePanel : public testing::Test {
  protected:
-  /// What the panel gives while the user does `work` in it.
+  /// Runs the panel, does `work` in it as the user and returns the panel's result.
   std::optional<std::filesystem::path> run(const std::function<void()>& work) {
     QTimer::singleShot(0, &parent_, work);
     return ui::qt::runSavePanel({"Save Test Results", "Results-1", "txt"}, parent_);
@@ -31,7 +31,7 @@ class SavePanel : public testing::Test {
   QWidget parent_;
 };
 
-TEST_F(SavePanel, ProposesANameUnderItsTitle) {
+TEST_F(SavePanel, ShowsItsTitleAndProposesAName) {
   QString title;
   std::optional<std::string> proposed;
   const auto place = run([&] {
@@ -43,7 +43,7 @@ TEST_F(SavePanel, ProposesANameUnderItsTitle) {
   EXPECT_EQ(place, folder_ / "results.txt");
 }
 
-TEST_F(SavePanel, GivesEveryNameItsType) {
+TEST_F(SavePanel, GivesEveryNameItsExtension) {
   EXPECT_EQ(saveAs("results.txt"), folder_ / "results.txt");
   EXPECT_EQ(saveAs("RESULTS.TXT"), folder_ / "RESULTS.TXT");
   EXPECT_EQ(saveAs("mix v1.2"), folder_ / "mix v1.2.txt");
@@ -54,7 +54,7 @@ TEST_F(SavePanel, GivesNothingWhenItIsCancelled) {
   EXPECT_EQ(run([] { qt_test::answerSavePanel(std::nullopt); }), std::nullopt);
 }
 
-TEST_F(SavePanel, AsksBeforeItReplacesAFileWhoseTypeItAdded) {
+TEST_F(SavePanel, AsksBeforeItReplacesAFileWhoseExtensionItAdded) {
   writeBytes(folder_ / "mix v1.2.txt", "old");
   bool asked = false;
   const auto place = run([&] {

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include "skins/qt/Host.h"
+#include "skins/qt/Mouse.h"
 #include "view/fakes/FakeConverter.h"
 
 namespace {
@@ -30,7 +31,8 @@ class Sheets : public testing::Test {
     click("listeningTestController.aIsSourceButton");
     host_.advance(120ms);
   }
-  QMessageBox* askForTheOtherTab() {
+  /// Asks for the other tab, which opens the alert while a test runs.
+  QMessageBox* openAlert() {
     host_.outlet<QTabWidget>("view.tabView").setCurrentIndex(0);
     QApplication::processEvents();
     return host_.alert();
@@ -60,41 +62,41 @@ TEST_F(Sheets, LeaveTheMetersRunning) {
   EXPECT_GT(reads(), before);
 }
 
-TEST_F(Sheets, TakeEscapeForCancel) {
+TEST_F(Sheets, TreatEscapeAsCancel) {
   click("view.settingsButton");
   QWidget& sheet = host_.outlet("keyController.keySettingsSheet");
   QTest::keyClick(&sheet, Qt::Key_Escape);
   EXPECT_FALSE(sheet.isVisible());
 }
 
-TEST_F(Sheets, TakeClosingForCancel) {
+TEST_F(Sheets, TreatClosingAsCancel) {
   click("view.settingsButton");
   QWidget& sheet = host_.outlet("keyController.keySettingsSheet");
   sheet.close();
   EXPECT_FALSE(sheet.isVisible());
 }
 
-TEST_F(Sheets, TakeReturnForTheDefaultButton) {
+TEST_F(Sheets, TreatReturnAsTheDefaultButton) {
   auto& menu = host_.outlet<QComboBox>("view.encoderPopup");
   Q_EMIT menu.activated(menu.count() - 1);
   QWidget& sheet = host_.outlet("settingsController.settingsSheet");
   ASSERT_TRUE(sheet.isVisible());
+  qt_test::pickItem(host_.outlet<QComboBox>("settingsController.bitratePopup"), 4);
   calls_.clear();
   QTest::keyClick(&sheet, Qt::Key_Return);
   EXPECT_FALSE(sheet.isVisible());
-  // OK writes all three values; Cancel would bring the old ones back the same way, so look at one
-  // that the sheet was told to change.
   EXPECT_EQ(calls_.count("unit.setParameter"), 3U);
+  EXPECT_EQ(unit_.parameters[2], 4.0F) << "Cancel would have restored the old rate";
 }
 
-TEST_F(Sheets, GiveTheKeysBackToTheView) {
+TEST_F(Sheets, GiveTheFocusBackToTheView) {
   click("view.settingsButton");
   click("keyController.doneButton");
   QApplication::processEvents();
   EXPECT_TRUE(host_.view()->hasFocus());
 }
 
-TEST_F(Sheets, KeepTheResultsOpenWhenEscapeIsPressedOrTheWindowClosed) {
+TEST_F(Sheets, KeepTheResultsOpenOnEscapeAndOnClosing) {
   showTestPage();
   click("listeningTestController.endTestButton");
   QWidget& sheet = host_.outlet("listeningTestController.resultsSheet");
@@ -109,16 +111,16 @@ TEST_F(Sheets, KeepTheResultsOpenWhenEscapeIsPressedOrTheWindowClosed) {
 
 TEST_F(Sheets, AskWithoutStoppingTheEventLoop) {
   startTest();
-  QMessageBox* box = askForTheOtherTab();
+  QMessageBox* box = openAlert();
   ASSERT_NE(box, nullptr) << "the call that opened it has returned";
   EXPECT_EQ(box->windowModality(), Qt::WindowModal);
   EXPECT_EQ(box->defaultButton()->text(), "Resume");
   EXPECT_EQ(tab(), 1);
 }
 
-TEST_F(Sheets, TakeEscapeInTheAlertForResume) {
+TEST_F(Sheets, TreatEscapeInTheAlertAsResume) {
   startTest();
-  QMessageBox* box = askForTheOtherTab();
+  QMessageBox* box = openAlert();
   ASSERT_NE(box, nullptr);
   QTest::keyClick(box, Qt::Key_Escape);
   EXPECT_EQ(host_.alert(), nullptr);
@@ -126,9 +128,9 @@ TEST_F(Sheets, TakeEscapeInTheAlertForResume) {
   EXPECT_EQ(unit_.listeningTestActive, 1U);
 }
 
-TEST_F(Sheets, TakeClosingTheAlertForResume) {
+TEST_F(Sheets, TreatClosingTheAlertAsResume) {
   startTest();
-  QMessageBox* box = askForTheOtherTab();
+  QMessageBox* box = openAlert();
   ASSERT_NE(box, nullptr);
   box->close();
   EXPECT_EQ(host_.alert(), nullptr);
@@ -136,9 +138,9 @@ TEST_F(Sheets, TakeClosingTheAlertForResume) {
   EXPECT_EQ(unit_.listeningTestActive, 1U);
 }
 
-TEST_F(Sheets, StopOnlyByTheStopButton) {
+TEST_F(Sheets, StopTheTestOnlyByTheStopButton) {
   startTest();
-  QMessageBox* box = askForTheOtherTab();
+  QMessageBox* box = openAlert();
   ASSERT_NE(box, nullptr);
   for (QAbstractButton* button : box->buttons()) {
     if (button->text() == "Stop") {
@@ -154,29 +156,29 @@ TEST_F(Sheets, StopOnlyByTheStopButton) {
 
 TEST_F(Sheets, AreCancelledWhenTheViewLeavesItsParent) {
   startTest();
-  ASSERT_NE(askForTheOtherTab(), nullptr);
+  ASSERT_NE(openAlert(), nullptr);
   host_.view()->setParent(nullptr);
   EXPECT_EQ(host_.alert(), nullptr);
   EXPECT_EQ(unit_.listeningTestActive, 1U) << "nobody answered";
   delete host_.view();
 }
 
-TEST_F(Sheets, GoWithTheirView) {
+TEST_F(Sheets, AreDestroyedWithTheirView) {
   click("view.settingsButton");
   const QPointer<QWidget> sheet = &host_.outlet("keyController.keySettingsSheet");
   delete host_.view();
   EXPECT_EQ(sheet, nullptr);
 }
 
-TEST_F(Sheets, MayBeTheLastThingThatTheirViewShows) {
+TEST_F(Sheets, MayBeOpenWhenTheirViewIsDestroyed) {
   startTest();
-  ASSERT_NE(askForTheOtherTab(), nullptr);
+  ASSERT_NE(openAlert(), nullptr);
   delete host_.view();
   QApplication::processEvents();
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST_F(Sheets, SurviveAViewThatGoesWhileItsSavePanelRuns) {
+TEST_F(Sheets, SurviveADestroyedViewWhileItsSavePanelRuns) {
   showTestPage();
   click("listeningTestController.endTestButton");
   host_.outlet<QAbstractButton>("listeningTestController.saveResultsButton").setChecked(true);
@@ -190,7 +192,7 @@ TEST_F(Sheets, SurviveAViewThatGoesWhileItsSavePanelRuns) {
   EXPECT_EQ(host_.view(), nullptr);
 }
 
-TEST_F(Sheets, AddTheTypeToANameWithoutOne) {
+TEST_F(Sheets, AddTheExtensionToANameWithoutOne) {
   const qt_test::ResourceFolder folder;
   showTestPage();
   click("listeningTestController.endTestButton");

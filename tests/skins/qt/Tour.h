@@ -14,7 +14,7 @@
 
 namespace qt_test {
 
-/// Big readings, so that every field is as wide as it gets.
+/// Large readings, so that every field is as wide as it can get.
 inline velk::PeakStatistics loudMix() {
   velk::PeakStatistics statistics{};
   for (auto& record : statistics) {
@@ -23,7 +23,7 @@ inline velk::PeakStatistics loudMix() {
   return statistics;
 }
 
-/// Every page and sheet, one after the other, each laid out and on the screen.
+/// Shows every page and sheet in turn, each laid out on the screen, and calls `look` for it.
 class Tour {
  public:
   Tour(fakes::FakeConverter& unit, const HostOptions& options)

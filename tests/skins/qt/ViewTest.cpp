@@ -30,7 +30,7 @@ class View : public testing::Test {
   void clickDetails() {
     QTest::mouseClick(&host_.outlet("auditionController.showDetailsButton"), Qt::LeftButton);
   }
-  /// Lower edge of a widget above the lower edge of the view.
+  /// The distance from the widget's lower edge to the view's.
   int roomBelow(const QWidget& widget) const {
     return host_.view()->height() - widget.mapTo(host_.view(), QPoint(0, widget.height())).y();
   }
@@ -54,7 +54,7 @@ TEST_F(View, KeepsItsSizeInALayout) {
   EXPECT_EQ(host_.view()->size(), QSize(560, 195));
 }
 
-TEST_F(View, TellsTheHostOfItsOwnChangesOnly) {
+TEST_F(View, TellsTheHostOnlyOfItsOwnChanges) {
   std::vector<double> heights;
   host_.native().setFrameSizeObserver([&](ui::Size size) { heights.push_back(size.height); });
   host_.native().setFrameSize({560, 100});
@@ -77,7 +77,7 @@ TEST_F(View, TellsTheHostOfTheHeightOfEachPage) {
   EXPECT_THAT(heights, ElementsAre(255, 195));
 }
 
-TEST_F(View, AnswersATallRequestOfTheHostLaterAndWithItsOwnSize) {
+TEST_F(View, AnswersAHostsTallRequestLaterWithItsOwnSize) {
   std::vector<ui::Size> sizes;
   host_.native().setFrameSizeObserver([&](ui::Size size) { sizes.push_back(size); });
   host_.native().setFrameSize({900, 256});
@@ -113,7 +113,7 @@ TEST_F(View, KeepsTheHelpButtonAboveItsLowerEdge) {
   EXPECT_EQ(roomBelow(help), 7);
 }
 
-TEST_F(View, OpensItsDetailsByTheirCaptionToo) {
+TEST_F(View, OpensItsDetailsAlsoByTheirCaption) {
   QTest::mouseClick(&host_.outlet("auditionController.showDetailsText"), Qt::LeftButton);
   EXPECT_EQ(host_.view()->height(), 369);
   EXPECT_TRUE(host_.outlet<QAbstractButton>("auditionController.showDetailsButton").isChecked());
@@ -155,7 +155,7 @@ TEST_F(View, IsTornDownWithItsParent) {
   EXPECT_EQ(calls_.count("unit."), 0U);
 }
 
-TEST_F(View, TellsNobodyOfASizeWhileItGoes) {
+TEST_F(View, ReportsNoSizeWhileItIsDestroyed) {
   clickDetails();
   bool told = false;
   host_.native().setFrameSizeObserver([&](ui::Size) { told = true; });
@@ -163,7 +163,7 @@ TEST_F(View, TellsNobodyOfASizeWhileItGoes) {
   EXPECT_FALSE(told);
 }
 
-TEST_F(View, GoesWithItsApplicationWindowOpenAndDetailsShown) {
+TEST_F(View, KeepsItsDetailsShownWhenItsWindowIsHiddenAndShownAgain) {
   clickDetails();
   host_.window().hide();
   host_.window().show();

@@ -10,7 +10,7 @@ namespace qt_test {
 
 namespace {
 
-/// Nothing that is started here takes nearly as long, not even on a busy machine.
+/// In milliseconds. Far more than anything started here needs, even on a busy machine.
 constexpr int kPatience = 60'000;
 constexpr unsigned kKeyCodeOffset = 8;
 
@@ -19,7 +19,7 @@ constexpr unsigned kKeyCodeOffset = 8;
 XServer::XServer() {
   server_.setProgram(QStringLiteral("Xvfb"));
   server_.setArguments({"-displayfd", "1", "-screen", "0", "1024x768x24", "-nolisten", "tcp"});
-  // However the test ends, the server ends too.
+  // The server must not outlive the test, however that ends.
   server_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
   server_.start();
   QByteArray display;

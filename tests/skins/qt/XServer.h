@@ -6,24 +6,23 @@
 
 namespace qt_test {
 
-/// An X server without a screen that lives as long as this object, with a keyboard that a test
-/// types on. The server chooses its own display, which becomes this process's `DISPLAY`.
+/// An X server without a physical screen, and with a keyboard that a test can type on. It chooses
+/// its display, which becomes this process's `DISPLAY`, and ends with this object.
 ///
-/// Not a window manager: whoever shows a window gives it the keys by `focus`.
+/// There is no window manager: a test that shows a window has to give it the focus.
 class XServer {
  public:
-  /// Throws `std::runtime_error` if no server comes up.
+  /// Throws `std::runtime_error` if the server does not start.
   XServer();
   XServer(const XServer&) = delete;
   XServer& operator=(const XServer&) = delete;
   ~XServer();
 
-  /// Gives the keyboard a layout: "us", "de", "fr".
+  /// Sets the keyboard's layout: "us", "de", "fr".
   void setLayout(const std::string& layout) const;
-  /// Presses and releases a key of the keyboard by its number in Linux's input-event-codes,
-  /// whatever the layout has made of it.
+  /// Presses and releases a physical key, given by its number in Linux's input-event-codes.
   void pressKey(unsigned evdev) const;
-  /// Lets a window have the keys.
+  /// Gives a window the keyboard focus.
   void focus(unsigned long window) const;
 
  private:

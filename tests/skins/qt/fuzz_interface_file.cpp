@@ -1,5 +1,5 @@
-// Feeds interface files of any content to the loader: it gives a view or throws `InterfaceError`.
-// Most changes are made line by line, so that much of the file stays well formed.
+// Feeds arbitrary interface files to the loader, which must return a view or throw
+// `InterfaceError`. Most mutations change whole lines, so that much of the file stays well formed.
 
 #include <QApplication>
 #include <algorithm>
@@ -38,7 +38,7 @@ std::vector<std::string> linesOf(const std::string& text) {
   return lines;
 }
 
-/// Deletes, repeats or exchanges lines, or changes a number.
+/// Deletes, repeats or swaps lines, or changes a number.
 void changeLines(std::vector<std::string>& lines, std::minstd_rand& random) {
   const auto any = [&] { return random() % lines.size(); };
   const std::size_t line = any();
@@ -91,7 +91,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     loader.loadNibNamed("Velk_NordaAACConverter", velk::makeInterfaceObjects);
   } catch (const ui::InterfaceError&) {
-    // What a broken file is meant to end in.
+    // Expected for a broken file.
   }
   ui::setLogSink(earlier);
   return 0;

@@ -77,7 +77,7 @@ class Album {
     void clickTest(const std::string& outlet) {
       click(("listeningTestController." + outlet).c_str());
     }
-    /// Answers the test. A is the source in every cycle but, perhaps, the first.
+    /// Gives a right or a wrong answer. A is the source in every cycle but, perhaps, the first.
     void answer(bool rightly) {
       if (isFirstAnswer) clickTest("aButton");
       const bool sayA = (!isFirstAnswer || unit.monitorSource != 0) == rightly;
@@ -141,7 +141,7 @@ class Album {
     save(scene.host->window(), "learning-wrong");
   }
 
-  /// What the sheet says of so many right and then so many wrong answers.
+  /// The results sheet after that many wrong and then right answers.
   void shootResults(const char* name, int right, int wrong) {
     Scene scene(options_, 2);
     scene.showTestPage(true);
@@ -158,7 +158,7 @@ class Album {
     scene.clickTest("endTestButton");
     scene.clickTest("saveResultsButton");
     save(scene.host->outlet("listeningTestController.resultsSheet"), "results-save");
-    // The panel runs inside the click.
+    // The click returns only when the panel has closed.
     QTimer::singleShot(0, [this] {
       if (QWidget* panel = QApplication::activeModalWidget()) {
         save(*panel, "save-panel");
@@ -173,7 +173,7 @@ class Album {
     scene.click("view.settingsButton");
     save(scene.host->outlet("keyController.keySettingsSheet"), "keys");
     scene.click("keyController.doneButton");
-    // A history of settings.
+    // Earlier settings, which the menu lists.
     for (const float quality : {20.0F, 90.0F}) {
       scene.unit.hostSetsSetting({0.0F, 2.0F, quality});
       scene.settle();

@@ -2,7 +2,7 @@
 
 #include "skins/appkit/AppKitView.h"
 
-/// The classes that the interface file instantiates. What they take and do is declared by the
+/// The classes that the interface file instantiates. Their outlets and actions are declared by the
 /// core's classes of the same names.
 
 @interface Velk_AACEncodingViewAuditionController : Velk_InterfaceController

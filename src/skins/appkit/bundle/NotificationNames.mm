@@ -2,8 +2,8 @@
 
 #include "ui/Export.h"
 
-/// The names of the view's notifications as symbols of the bundle. A constant string has to be
-/// written out here; that each is the core's own is tested.
+/// Exports the names of the view's notifications from the bundle. Constant strings must be
+/// literals; a test compares them with the core's.
 #define EXPORT_NAME(constant, text)              \
   extern "C" UI_EXPORT NSString* const constant; \
   NSString* const constant = text

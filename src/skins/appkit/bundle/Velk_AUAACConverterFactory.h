@@ -10,6 +10,6 @@
   AUCocoaUIBase* _factory;
   Velk_AUAACConverterCustomView* uiFreshlyLoadedView;
 }
-/// Set while an interface file is being loaded.
+/// Set only while an interface file is being loaded.
 @property(nonatomic, assign) IBOutlet Velk_AUAACConverterCustomView* uiFreshlyLoadedView;
 @end

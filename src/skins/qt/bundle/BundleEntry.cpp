@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kFactoryClass = "Velk_AUAACConverterFactory";
 
-/// The folder "Resources" beside the file that this code was loaded from.
+/// The folder "Resources" beside the module that this code was loaded from.
 std::filesystem::path resources() {
   Dl_info info{};
   if (dladdr(reinterpret_cast<const void*>(&resources), &info) == 0 || info.dli_fname == nullptr) {

@@ -3,7 +3,7 @@
 #include "ui/Export.h"
 #include "view/main/Notifications.h"
 
-/// The names of the view's notifications as symbols of the bundle, in the toolkit's string type.
+/// Exports the names of the view's notifications from the bundle, as Qt strings.
 #define EXPORT_NAME(constant)                  \
   extern "C" UI_EXPORT const QString constant; \
   const QString constant =                     \

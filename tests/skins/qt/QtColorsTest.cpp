@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 #include "skins/qt/SkinColors.h"
 
 namespace {
@@ -18,17 +18,17 @@ TEST(Contrast, IsTheRatioOfLuminances) {
   EXPECT_NEAR(contrast(Qt::black, Qt::white), 21.0, 1e-9);
   EXPECT_NEAR(contrast(Qt::white, Qt::black), 21.0, 1e-9);
   EXPECT_NEAR(contrast(0x123456, 0x123456), 1.0, 1e-9);
-  // The grey that is known to miss 4.5:1 on white by a hair, and the next darker one.
+  // On white, the first grey just misses 4.5:1 and the next darker one reaches it.
   EXPECT_NEAR(contrast(0x777777, Qt::white), 4.478, 0.001);
   EXPECT_NEAR(contrast(0x767676, Qt::white), 4.542, 0.001);
 }
 
-TEST(ReadableColor, LeavesAColourThatStandsOut) {
+TEST(ReadableColor, LeavesAColourWithEnoughContrast) {
   EXPECT_EQ(readable(kDarkRed, kLightWindow, kTextContrast), kDarkRed);
   EXPECT_EQ(readable(kDarkGreen, kLightWindow, kTextContrast), kDarkGreen);
 }
 
-TEST(ReadableColor, LightensADarkTextOnADarkBackgroundAndKeepsItsHue) {
+TEST(ReadableColor, LightensDarkTextOnADarkBackgroundAndKeepsItsHue) {
   for (const QColor& color : {kDarkRed, kDarkGreen}) {
     for (const QColor& window : {kDarkWindow, QColor(Qt::black), QColor(0x3C3F46)}) {
       const QColor shown = readable(color, window, kTextContrast);
@@ -40,7 +40,7 @@ TEST(ReadableColor, LightensADarkTextOnADarkBackgroundAndKeepsItsHue) {
   }
 }
 
-TEST(ReadableColor, DarkensALightTextOnALightBackground) {
+TEST(ReadableColor, DarkensLightTextOnALightBackground) {
   const QColor shown = readable(0xFFE08A, kLightWindow, kTextContrast);
   EXPECT_GE(contrast(shown, kLightWindow), kTextContrast);
   EXPECT_LT(shown.lightness(), QColor(0xFFE08A).lightness());

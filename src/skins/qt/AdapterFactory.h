@@ -13,7 +13,8 @@ class Localization;
 
 namespace ui::qt {
 
-/// The control over a widget, chosen by the widget's class. Every widget is a view at least.
+/// Makes the control for a widget, chosen by the widget's class; a plain view if no other fits. The
+/// widget and the localization must outlive it.
 std::unique_ptr<Object> makeAdapter(QWidget& widget, const Bundle& bundle,
                                     const Localization& localization);
 

@@ -1,4 +1,4 @@
-#include "skins/qt/Adapters.h"
+#include "skins/qt/AdapterFactory.h"
 
 #include <QVariant>
 

@@ -1,26 +1,26 @@
-#include "skins/qt/ReadableColor.h"
+#include "skins/qt/QtColors.h"
 
 namespace ui::qt {
 
 namespace {
 
-Color plain(const QColor& color) {
+Color toColor(const QColor& color) {
   return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
 }
 
 }  // namespace
 
 double contrast(const QColor& one, const QColor& other) {
-  return ui::contrast(plain(one), plain(other));
+  return ui::contrast(toColor(one), toColor(other));
 }
 
 bool isDark(const QColor& background) {
-  return ui::isDark(plain(background));
+  return ui::isDark(toColor(background));
 }
 
 QColor readable(const QColor& color, const QColor& background, double minimumContrast) {
-  const Color found = ui::readable(plain(color), plain(background), minimumContrast);
-  return found == plain(color)
+  const Color found = ui::readable(toColor(color), toColor(background), minimumContrast);
+  return found == toColor(color)
              ? color
              : QColor::fromRgbF(static_cast<float>(found.red), static_cast<float>(found.green),
                                 static_cast<float>(found.blue), static_cast<float>(found.alpha));

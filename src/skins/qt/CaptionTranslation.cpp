@@ -1,4 +1,4 @@
-#include "skins/qt/Captions.h"
+#include "skins/qt/CaptionTranslation.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -29,7 +29,7 @@ class Translator {
         box->setItemText(index, translated(box->itemText(index)));
       }
     }
-    // Setting what is empty would still send an event to every widget.
+    // Setting even an empty text would send an event to every widget.
     if (!widget.windowTitle().isEmpty()) {
       widget.setWindowTitle(translated(widget.windowTitle()));
     }

@@ -1,4 +1,4 @@
-#include "skins/appkit/Captions.h"
+#include "skins/appkit/CaptionTranslation.h"
 
 #include "skins/appkit/Strings.h"
 #include "skins/appkit/ViewTree.h"
@@ -35,7 +35,7 @@ class Translator {
 
  private:
   void translateText(NSTextField* field) const {
-    // A number in the field's own format is no caption.
+    // A field with a formatter shows a number, not a caption.
     if ([[field cell] formatter] == nil) {
       [field setStringValue:translated([field stringValue])];
     }
@@ -66,7 +66,7 @@ class Translator {
 
   void translateAccessibleLabel(NSView* view) const {
 #ifndef GNUSTEP
-    // The label of a control stands with its cell in old files, with the control in new ones.
+    // Older files keep a control's label in its cell, newer ones in the control.
     NSString* label = [view accessibilityLabel];
     if ([label length] > 0) {
       [view setAccessibilityLabel:nsString(captionParts(bundle_, utf8(label)))];
