@@ -16,7 +16,7 @@ class UI_EXPORT TabViewItem : public Object {
 class UI_EXPORT TabViewDelegate {
  public:
   virtual ~TabViewDelegate();
-  /// False refuses the change.
+  /// False refuses the change, and so does an exception.
   virtual bool shouldSelectTabViewItem(TabViewItem* item) = 0;
   /// The change follows; the selected item is still the old one.
   virtual void willSelectTabViewItem(TabViewItem* item) = 0;

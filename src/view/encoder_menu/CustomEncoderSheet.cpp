@@ -1,4 +1,5 @@
 #include "view/encoder_menu/Velk_AACEncodingViewSettingsController.h"
+#include "view/main/RaisedFlag.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
 /// What the view does about the custom-encoder sheet. While it is open, changes of the encoder
@@ -7,11 +8,12 @@ namespace velk {
 
 void Velk_AUAACConverterCustomView::setCustomEncoder(ui::Object* /*sender*/) {
   settingsController->setOwner(this);
-  isCustomConfigurationSheetOpen = true;
+  RaisedFlag open(isCustomConfigurationSheetOpen);
   ui::Sheet& sheet = *settingsController->settingsSheet();
   toolkit_.sheets.beginSheet(sheet, *settingsButton, whileInUse([this, &sheet](int code) {
                                settingsController->settingsSheetDidEnd(sheet, code, this);
                              }));
+  open.keep();
 }
 
 void Velk_AUAACConverterCustomView::configSheetDidClose() {

@@ -1,6 +1,7 @@
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
 #include "ui/Bundle.h"
+#include "ui/Log.h"
 #include "view/main/StringsTable.h"
 
 namespace velk {
@@ -17,7 +18,7 @@ Velk_AUAACConverterCustomView::Velk_AUAACConverterCustomView(ui::NativeView& nat
 
 Velk_AUAACConverterCustomView::~Velk_AUAACConverterCustomView() {
   if (!isTornDown()) {
-    cleanup();
+    ui::guarded([this] { cleanup(); });
   }
   // A unit may have been bound after the teardown.
   priv_removeListeners();

@@ -33,6 +33,9 @@ class FakeNativeView final : public ui::NativeView {
   }
   bool has(std::string_view name) const { return controls_.contains(std::string(name)); }
 
+  /// Whether `applyFrameSize` throws.
+  bool cannotResize = false;
+
   ui::InterfaceObjects& objects() { return *objects_; }
   void setObjects(std::unique_ptr<ui::InterfaceObjects> objects);
   void addControl(const std::string& name, std::unique_ptr<ui::Object> control);

@@ -41,6 +41,7 @@ void FakeSheets::beginSheet(ui::Sheet& sheet, ui::View& control,
                             std::function<void(int code)> didEnd) {
   auto& fake = dynamic_cast<FakeSheet&>(sheet);
   log_.add("sheets.beginSheet ", fake.name(), " over ", nameOf(control));
+  requireOpening();
   fake.visible = true;
   begun_[&fake] = std::move(didEnd);
 }
@@ -68,8 +69,15 @@ void FakeSheets::orderOut(ui::Sheet& sheet) {
 void FakeSheets::beginAlertSheet(const ui::AlertTexts& texts, ui::View& control,
                                  std::function<void(ui::Window& alert, int code)> didEnd) {
   log_.add("sheets.beginAlertSheet over ", nameOf(control));
+  requireOpening();
   alertTexts_ = texts;
   alertEnd_ = std::move(didEnd);
+}
+
+void FakeSheets::requireOpening() const {
+  if (cannotOpen) {
+    throw std::runtime_error("the window cannot be opened");
+  }
 }
 
 std::optional<std::filesystem::path> FakeSheets::runSavePanel(const ui::SavePanelTexts& texts,

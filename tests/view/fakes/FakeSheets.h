@@ -35,6 +35,8 @@ class FakeSheets final : public ui::Sheets {
   const ui::AlertTexts& alertTexts() const { return alertTexts_; }
   void answerAlert(int code);
 
+  /// Whether `beginSheet` and `beginAlertSheet` throw.
+  bool cannotOpen = false;
   /// What every save panel from now on answers; nothing stands for Cancel.
   std::optional<std::filesystem::path> saveAnswer;
   /// Called while a save panel is shown, if set.
@@ -54,6 +56,8 @@ class FakeSheets final : public ui::Sheets {
                                                     ui::View& control) override;
 
  private:
+  void requireOpening() const;
+
   CallLog& log_;
   std::map<FakeSheet*, std::function<void(int code)>> begun_;
   ui::AlertTexts alertTexts_;
