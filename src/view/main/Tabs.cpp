@@ -4,8 +4,8 @@
 #include "view/main/RaisedFlag.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
-/// The two tabs: the active role goes from one controller to the other, unless a listening test
-/// runs.
+/// The two tabs: a change passes the active role from one controller to the other, unless a
+/// listening test is running.
 namespace velk {
 
 TabController* Velk_AUAACConverterCustomView::controllerForTabAtIndex(int index) const {

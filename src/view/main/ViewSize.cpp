@@ -3,7 +3,7 @@
 #include "view/main/RaisedFlag.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
-/// The view has no free size: a size that somebody else asks for stands for a page or the details.
+/// The view's size is not free: a size requested from outside stands for a page or the details.
 namespace velk {
 
 namespace {

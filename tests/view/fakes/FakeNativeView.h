@@ -19,7 +19,7 @@ class FakeNativeView final : public ui::NativeView {
   FakeNativeView(CallLog& log, FakeToolkit& toolkit);
   ~FakeNativeView() override;
 
-  /// What a host does: puts the view under a parent, in a window or not.
+  /// Puts the view under a parent as a host does, in a window or not.
   void moveToSuperview(bool inWindow);
   void removeFromSuperview();
   /// Presses the key at that position.
@@ -55,7 +55,7 @@ class FakeNativeView final : public ui::NativeView {
   bool hasWindow_ = false;
   std::function<void(ui::Size)> observer_;
   std::map<std::string, std::unique_ptr<ui::Object>> controls_;
-  /// After the controls: the objects still use them when they go.
+  /// After the controls, which the objects still use while they are destroyed.
   std::unique_ptr<ui::InterfaceObjects> objects_;
 };
 

@@ -37,9 +37,9 @@ class FakeSheets final : public ui::Sheets {
 
   /// Whether `beginSheet` and `beginAlertSheet` throw.
   bool cannotOpen = false;
-  /// What every save panel from now on answers; nothing stands for Cancel.
+  /// The answer of every save panel from now on; no value means Cancel.
   std::optional<std::filesystem::path> saveAnswer;
-  /// Called while a save panel is shown, if set.
+  /// If set, called while a save panel is shown.
   std::function<void()> whileSavePanelRuns;
   const std::vector<ui::SavePanelTexts>& savePanels() const { return savePanels_; }
 
@@ -59,7 +59,7 @@ class FakeSheets final : public ui::Sheets {
   void requireOpening() const;
 
   CallLog& log_;
-  std::map<FakeSheet*, std::function<void(int code)>> begun_;
+  std::map<FakeSheet*, std::function<void(int code)>> open_;
   ui::AlertTexts alertTexts_;
   std::function<void(ui::Window& alert, int code)> alertEnd_;
   std::vector<ui::SavePanelTexts> savePanels_;
