@@ -17,21 +17,22 @@ class Unit;
 }
 #endif
 
-/// What a host asks of a view bundle's factory; main thread only.
+/// What a host asks of a view bundle's factory. Main thread only.
 class UI_EXPORT AUCocoaUIBase {
  public:
   virtual ~AUCocoaUIBase();
-  /// 0.
+  /// Always 0.
   virtual std::uint32_t interfaceVersion() const = 0;
   virtual std::string description() const = 0;
-  /// A view bound to the unit, or null; the log says why. The size is a wish that a view may
-  /// ignore. The unit has to live until the view has left its parent or is destroyed.
+  /// A view bound to the unit, or null with the reason in the log. The size is a hint that a view
+  /// may ignore. The unit must live until the view leaves its parent or is destroyed.
   virtual std::unique_ptr<ui::NativeView> uiViewForAudioUnit(audio_unit::Unit* unit,
                                                              ui::Size size) = 0;
 };
 
-/// The bundle's only entry: a new factory for the name of its class, null for any other name. The
-/// caller owns it. The toolkit's application object has to exist, and the bundle stays loaded.
+/// The bundle's only entry point: creates a factory by the name of its class; null for any other
+/// name. The caller owns it. The toolkit's application object must exist, and the bundle must stay
+/// loaded.
 extern "C" {
 using VelkInstantiateClassFunction = AUCocoaUIBase* (*)(const char* className);
 }

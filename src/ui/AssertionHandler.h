@@ -9,9 +9,9 @@
 namespace ui {
 
 struct Assertion {
-  /// The operation that failed, by its full selector.
+  /// Full selector of the operation that failed.
   std::string operation;
-  /// The object that it failed on; only its identity counts.
+  /// The object it failed on; used only as an identity.
   const void* object;
   std::string file;
   int line;
@@ -35,7 +35,7 @@ class UI_EXPORT AssertionHandler {
   virtual void handleFailure(const Assertion& assertion) = 0;
 
   static AssertionHandler& currentHandler();
-  /// Null brings the default back. Not owned.
+  /// Null restores the default. Not owned.
   static void setCurrentHandler(AssertionHandler* handler);
 };
 

@@ -20,7 +20,7 @@ std::filesystem::path languageFolder(const std::filesystem::path& resources,
   return resources / (language + ".lproj");
 }
 
-std::string chosenLanguage(const std::filesystem::path& resources,
+std::string chooseLanguage(const std::filesystem::path& resources,
                            const std::vector<std::string>& languages) {
   const auto isThere = [&resources](const std::string& language) {
     std::error_code error;
@@ -31,7 +31,7 @@ std::string chosenLanguage(const std::filesystem::path& resources,
     if (isThere(language)) {
       return language;
     }
-    // "de_AT" and "de-AT" settle for "de".
+    // "de_AT" and "de-AT" fall back to "de".
     std::string withoutRegion = language.substr(0, language.find_first_of("_-.@"));
     if (isThere(withoutRegion)) {
       return withoutRegion;
@@ -45,7 +45,7 @@ std::string chosenLanguage(const std::filesystem::path& resources,
 class Bundle::Tables {
  public:
   Tables(std::filesystem::path resources, const std::vector<std::string>& languages)
-      : resources_(std::move(resources)), language_(chosenLanguage(resources_, languages)) {}
+      : resources_(std::move(resources)), language_(chooseLanguage(resources_, languages)) {}
 
   const std::filesystem::path& resources() const { return resources_; }
   const std::string& language() const { return language_; }

@@ -10,24 +10,24 @@
 
 namespace ui {
 
-/// The resources that travel with a loaded bundle: a folder with interface files, help pages and a
-/// folder "<language>.lproj" of strings tables for each language. Main thread only.
+/// The resources of a loaded bundle: a folder with interface files, help pages and, for each
+/// language, a folder "<language>.lproj" of strings tables. Main thread only.
 class UI_EXPORT Bundle {
  public:
-  /// `languages` are codes such as "de" in the user's order of preference; the first that the
-  /// bundle has is used, else "en". A code with a region, "de_AT" or "de-AT", settles for its
-  /// language. Tables are read when they are first asked for.
+  /// `languages` are codes such as "de" in the user's order of preference; the first one that the
+  /// bundle has is used, or "en". A code with a region ("de_AT", "de-AT") falls back to its
+  /// language. Tables are read on first use.
   Bundle(std::filesystem::path resources, const std::vector<std::string>& languages);
   Bundle(const Bundle&) = delete;
   Bundle& operator=(const Bundle&) = delete;
   virtual ~Bundle();
 
   const std::filesystem::path& resources() const;
-  /// The language that is used.
+  /// The language in use.
   const std::string& language() const;
 
   /// The text for the key, UTF-8. A missing table, an unreadable one (logged once) or a missing key
-  /// gives the key itself. A toolkit that has bundles of its own may look there.
+  /// gives the key itself. A skin may override this to ask its toolkit's own bundles.
   virtual std::string localizedString(std::string_view key, std::string_view table) const;
 
  private:
@@ -35,8 +35,8 @@ class UI_EXPORT Bundle {
   std::unique_ptr<Tables> tables_;
 };
 
-/// Replaces each "%@" in turn, and each "%1$@", "%2$@" … by place, with the arguments. "%%" gives a
-/// percent sign; a placeholder without an argument stays as it is.
+/// Replaces each "%@" with the next argument and each "%1$@", "%2$@" … with the argument of that
+/// number. "%%" gives a percent sign; a placeholder without an argument stays as it is.
 UI_EXPORT std::string formatted(std::string_view format, const std::vector<std::string>& arguments);
 
 }  // namespace ui

@@ -9,14 +9,13 @@ namespace ui {
 
 class Bundle;
 
-/// The table that holds all texts of the views.
+/// The strings table with every text that users see.
 inline constexpr const char* kStringsTable = "AUDravoAACStrings";
 
-/// A caption of an interface file in the user's language; an empty one stays empty.
+/// A caption of an interface file in the user's language. An empty caption stays empty.
 UI_EXPORT std::string caption(const Bundle& bundle, std::string_view key);
 
-/// An accessible name that is put together from several captions, looked up part by part as commas
-/// separate them.
+/// An accessible name made of several captions separated by commas, each looked up by itself.
 UI_EXPORT std::string captionParts(const Bundle& bundle, std::string_view keys);
 
 }  // namespace ui

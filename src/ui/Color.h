@@ -2,7 +2,7 @@
 
 namespace ui {
 
-/// A colour of the output device, each part from 0 to 1.
+/// A device colour; each component is from 0 to 1.
 struct Color {
   double red = 0;
   double green = 0;
@@ -12,7 +12,7 @@ struct Color {
   static constexpr Color deviceRGB(double red, double green, double blue, double alpha) {
     return {red, green, blue, alpha};
   }
-  /// The ordinary text colour; a dark palette shows it as its own text colour.
+  /// The ordinary text colour; a dark palette shows its own text colour instead.
   static constexpr Color black() { return {0, 0, 0, 1}; }
 
   friend bool operator==(const Color&, const Color&) = default;

@@ -29,13 +29,13 @@ class Connections {
     Action action;
   };
 
-  /// `slot` is null until a skin fills it and has to live as long as this object.
+  /// `slot` stays null until a skin fills it, and must outlive this object.
   template <class Control>
-  void outlet(std::string name, Control*& slot) {
+  void addOutlet(std::string name, Control*& slot) {
     outlets_.push_back({std::move(name), Slot(&slot)});
   }
-  /// `selector` is the full one: "monitorChanged:".
-  void action(std::string selector, Action action) {
+  /// `selector` is the full selector, such as "monitorChanged:".
+  void addAction(std::string selector, Action action) {
     actions_.push_back({std::move(selector), std::move(action)});
   }
 

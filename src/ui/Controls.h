@@ -21,7 +21,7 @@ class UI_EXPORT View : public Object {
   virtual void setHidden(bool hidden) = 0;
   virtual bool isEnabled() const = 0;
   virtual void setEnabled(bool enabled) = 0;
-  /// Lower left corner within the enclosing view, y upwards.
+  /// Lower-left corner in the enclosing view, y upwards.
   virtual Point frameOrigin() const = 0;
   virtual void setFrameOrigin(Point origin) = 0;
 };
@@ -32,7 +32,7 @@ class UI_EXPORT Button : public View {
   /// 0 off, 1 on. A push button is always off.
   virtual int state() const = 0;
   virtual void setState(int state) = 0;
-  /// Does what a user's click does: an on/off button flips, then the action is sent. A disabled
+  /// Does what a user's click would: an on/off button flips, then the action is sent. A disabled
   /// button does nothing.
   virtual void performClick() = 0;
   virtual int tag() const = 0;
@@ -43,12 +43,12 @@ class UI_EXPORT TextField : public View {
   ~TextField() override;
   virtual void setStringValue(const std::string& text) = 0;
   virtual void setIntegerValue(std::int64_t value) = 0;
-  /// Shown through the field's own number format.
+  /// Shown in the field's own number format.
   virtual void setFloatValue(float value) = 0;
   virtual void setTextColor(const Color& color) = 0;
 };
 
-/// A lamp: 0 is dark, 2 shows the over-full-scale state.
+/// A lamp: 0 is dark, 2 means over full scale.
 class UI_EXPORT LevelIndicator : public View {
  public:
   ~LevelIndicator() override;

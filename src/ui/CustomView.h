@@ -10,42 +10,42 @@ namespace ui {
 
 /// A key press. `native` is the toolkit's own event, valid during the call.
 struct KeyEvent {
-  /// Position code (virtual key code of the US-ANSI layout); codes above 126 stand for no key.
+  /// Position code (virtual key code of the US-ANSI layout); codes above 126 are no key.
   std::uint16_t keyCode = 0xFFFF;
   const void* native = nullptr;
 };
 
-/// What a toolkit tells a view of its own.
+/// What a toolkit tells a custom view.
 class UI_EXPORT CustomView {
  public:
   virtual ~CustomView();
   virtual void viewWillMoveToSuperview(bool hasNewSuperview) = 0;
   virtual void viewDidMoveToWindow() = 0;
-  /// A size request from outside; the view decides what becomes of it.
+  /// A size request from outside; the view decides what to do about it.
   virtual void setFrameSize(Size size) = 0;
   virtual void keyDown(const KeyEvent& event) = 0;
 };
 
-/// The toolkit's view that a custom view lives in: what a host puts into its window, and what the
-/// custom view asks of its base class. Main thread only.
+/// The toolkit's view behind a custom view: what a host puts into its window, and what the custom
+/// view uses as its base class. Main thread only.
 ///
-/// In the Qt skin it is a QWidget as well: `dynamic_cast<QWidget*>`. A host that gives the widget a
-/// parent releases it to that parent.
+/// In the Qt skin it is also a QWidget: `dynamic_cast<QWidget*>`. A host that gives the widget a
+/// parent gives up ownership to that parent.
 class UI_EXPORT NativeView : public Object {
  public:
   ~NativeView() override;
 
-  /// For hosts: asks for a size. The view may refuse it, answer it later or with another one.
+  /// For hosts: requests a size. The view may refuse it, or take it or another one later.
   virtual void setFrameSize(Size size) = 0;
-  /// For hosts: called whenever the view has changed its size. Not the place to destroy the view.
+  /// For hosts: called whenever the view has changed its size. Must not destroy the view.
   virtual void setFrameSizeObserver(std::function<void(Size)> observer) = 0;
   virtual Size frameSize() const = 0;
 
-  /// For the custom view: really takes the size.
+  /// For the custom view: takes the size without asking.
   virtual void applyFrameSize(Size size) = 0;
   virtual bool hasWindow() const = 0;
   virtual void makeFirstResponder() = 0;
-  /// Hands a key press on to the toolkit's own handling.
+  /// Passes a key press on to the toolkit's own handling.
   virtual void interpretKeyEvents(const KeyEvent& event) = 0;
 };
 

@@ -8,20 +8,20 @@
 
 namespace ui {
 
-/// The outlets and actions of an interface file's objects, found by the names that files use. Every
-/// fault is an `InterfaceError` that says what is wrong, but neither where nor in which file.
+/// Finds the outlets and actions of an interface file's objects by the names that files use. Every
+/// fault throws an `InterfaceError` that says what is wrong, but not where or in which file.
 class UI_EXPORT DeclaredConnections {
  public:
-  /// The objects have to outlive this.
+  /// `objects` must outlive this object.
   explicit DeclaredConnections(const std::vector<InterfaceObjects::Named>& objects);
 
   const Connections& of(std::string_view object) const;
-  /// Fills the outlet. A fault if it is filled already or takes another kind of control; `kind` is
-  /// what the message calls this one.
+  /// Fills the outlet. Throws if it is filled already or takes another kind of control; the message
+  /// calls the given one `kind`.
   void fill(std::string_view object, std::string_view outlet, Object& control,
             std::string_view kind) const;
   const Action& action(std::string_view object, std::string_view selector) const;
-  /// A fault if an outlet of any object is empty.
+  /// Throws if any outlet of any object is empty.
   void requireEveryOutlet() const;
 
  private:

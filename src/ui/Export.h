@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what the shared library offers.
+/// Marks what the shared library exports.
 #define UI_EXPORT __attribute__((visibility("default")))

@@ -10,11 +10,11 @@ namespace {
 
 struct Placeholder {
   std::size_t length;
-  /// From 0; nothing for "%@", which takes the next one.
+  /// Counted from 0; none for "%@", which takes the next argument.
   std::optional<std::size_t> argument;
 };
 
-/// The placeholder that the text begins with, if it begins with one.
+/// The placeholder at the start of the text, if there is one.
 std::optional<Placeholder> placeholderAt(std::string_view text) {
   if (text.substr(0, 2) == "%@") {
     return Placeholder{2, std::nullopt};

@@ -2,14 +2,14 @@
 
 namespace ui {
 
-/// Points.
+/// In points.
 struct Size {
   double width = 0;
   double height = 0;
   friend bool operator==(const Size&, const Size&) = default;
 };
 
-/// Points, from the lower left corner of the enclosing view, y upwards.
+/// In points from the enclosing view's lower-left corner, y upwards.
 struct Point {
   double x = 0;
   double y = 0;

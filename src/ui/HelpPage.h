@@ -8,7 +8,7 @@ namespace ui {
 
 class Bundle;
 
-/// The bundle's help page in the language that is used, or the one that stands for all others.
+/// The bundle's help page in its language, or the default page if there is none.
 UI_EXPORT std::filesystem::path helpPage(const Bundle& bundle);
 
 }  // namespace ui

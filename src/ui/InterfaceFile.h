@@ -13,8 +13,8 @@
 
 namespace ui {
 
-/// The objects that an interface file brings to life beside its controls: the custom view and its
-/// controllers, each with a name under which the file refers to it.
+/// The objects of an interface file other than its controls: the custom view and its controllers,
+/// each with the name by which the file refers to it.
 class UI_EXPORT InterfaceObjects {
  public:
   struct Named {
@@ -43,8 +43,8 @@ class UI_EXPORT InterfaceLoader {
   virtual ~InterfaceLoader();
   /// Loads the file of that name (without extension), makes the objects, fills every outlet that
   /// they declare, connects the actions and returns the view, which owns the objects and the
-  /// controls. Throws `InterfaceError` when the file is missing or broken, when it names an object,
-  /// outlet or action that does not exist, or when an outlet stays empty.
+  /// controls. Throws `InterfaceError` if the file is missing or broken, names an object, outlet or
+  /// action that does not exist, or leaves an outlet empty.
   virtual std::unique_ptr<NativeView> loadNibNamed(std::string_view name,
                                                    const MakeInterfaceObjects& makeObjects) = 0;
 };

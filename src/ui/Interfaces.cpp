@@ -1,6 +1,6 @@
-// The key functions of the abstract classes: with them, and only with them, each class has one type
-// record and one table in the whole process, so that casts and exceptions work between a host, a
-// bundle and a skin.
+// Key functions of the abstract classes: they give each class a single type record and virtual
+// table in the process, without which casts and exceptions would fail between host, bundle and
+// skin.
 
 #include <algorithm>
 #include <cmath>

@@ -29,7 +29,7 @@ std::string toUtf8(icu::UnicodeString text) {
   return utf8;
 }
 
-/// The first of the environment's variables that says something.
+/// The first of the environment variables that is set and not empty.
 std::string fromEnvironment(std::initializer_list<const char*> variables) {
   for (const char* variable : variables) {
     const char* value = std::getenv(variable);
@@ -41,7 +41,7 @@ std::string fromEnvironment(std::initializer_list<const char*> variables) {
 }
 
 icu::Locale icuLocale(const std::string& name) {
-  // The plain C locale has no language of its own; its messages are English.
+  // The C locale has no language; its messages are English.
   const std::string_view language = std::string_view(name).substr(0, name.find_first_of(".@"));
   if (language.empty() || language == "C" || language == "POSIX") {
     return icu::Locale::getUS();
@@ -49,7 +49,7 @@ icu::Locale icuLocale(const std::string& name) {
   return icu::Locale::createCanonical(name.c_str());
 }
 
-/// The locale's symbols with U+2212 for the sign, whatever marks of direction stand around it.
+/// The locale's symbols with U+2212 as the minus sign; direction marks around it stay.
 icu::DecimalFormatSymbols symbolsWithTrueMinus(const icu::Locale& locale) {
   UErrorCode status = U_ZERO_ERROR;
   icu::DecimalFormatSymbols symbols(locale, status);
@@ -72,7 +72,7 @@ class IcuLocalization final : public Localization {
                         .symbols(symbolsWithTrueMinus(numbers))
                         .grouping(UNUM_GROUPING_OFF)
                         .precision(icu::number::Precision::fixedFraction(1))
-                        // What rounds to zero has no sign.
+                        // No sign for what rounds to zero.
                         .sign(UNUM_SIGN_NEGATIVE)),
         date_(icu::DateFormat::createDateTimeInstance(icu::DateFormat::kLong,
                                                       icu::DateFormat::kShort, dates)) {
@@ -84,24 +84,24 @@ class IcuLocalization final : public Localization {
   std::string plain(std::int64_t value) const override {
     UErrorCode status = U_ZERO_ERROR;
     const auto number = plain_.formatInt(value, status);
-    return finished(number, status);
+    return toText(number, status);
   }
 
   std::string percent(double share) const override {
     UErrorCode status = U_ZERO_ERROR;
     const auto number = percent_.formatDouble(share, status);
-    return finished(number, status);
+    return toText(number, status);
   }
 
   std::string oneDecimal(double value) const override {
     UErrorCode status = U_ZERO_ERROR;
     const auto number = oneDecimal_.formatDouble(value, status);
-    return finished(number, status);
+    return toText(number, status);
   }
 
   std::string longDateShortTime(std::chrono::system_clock::time_point moment) const override {
     const std::chrono::duration<double, std::milli> sinceEpoch = moment.time_since_epoch();
-    // Asked anew each time: a computer may travel while the view is open.
+    // Asked each time: a computer may change its time zone while the view is open.
     const std::unique_ptr<icu::DateFormat> date(date_->clone());
     date->adoptTimeZone(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString text;
@@ -110,7 +110,7 @@ class IcuLocalization final : public Localization {
   }
 
  private:
-  static std::string finished(const icu::number::FormattedNumber& number, UErrorCode status) {
+  static std::string toText(const icu::number::FormattedNumber& number, UErrorCode status) {
     const icu::UnicodeString text = number.toString(status);
     check(status, "a number cannot be written");
     return toUtf8(text);

@@ -10,7 +10,7 @@
 namespace ui {
 
 /// Numbers and dates as the user's locale writes them, UTF-8. The narrow no-break space of newer
-/// locale data (U+202F) comes out as a plain space.
+/// locale data (U+202F) is replaced by a plain space.
 class UI_EXPORT Localization {
  public:
   virtual ~Localization();
@@ -24,9 +24,9 @@ class UI_EXPORT Localization {
   virtual std::string longDateShortTime(std::chrono::system_clock::time_point moment) const = 0;
 };
 
-/// ICU's rules for a locale such as "de_DE". An empty name takes the user's own from the
-/// environment: LC_ALL, else LC_NUMERIC for numbers and LC_TIME for dates, else LANG, else American
-/// English.
+/// Formats by ICU's rules for a locale such as "de_DE". An empty name stands for the user's locale
+/// in the environment: LC_ALL, else LC_NUMERIC for numbers and LC_TIME for dates, else LANG, else
+/// American English.
 UI_EXPORT std::unique_ptr<Localization> makeLocalization(const std::string& locale);
 
 }  // namespace ui

@@ -32,14 +32,14 @@ void writeToStandardError(std::string_view text) {
   line += fraction.data();
   line += text;
   line += '\n';
-  // One call a line, so that lines of several processes do not mix.
+  // One call per line, so that lines of several processes do not mix.
   std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
 struct State {
   // Recursive, because a sink may log or replace itself.
   std::recursive_mutex mutex;
-  // Shared, because a sink that replaces itself has to outlive its own call. Null is the default.
+  // Shared, because a sink that replaces itself must outlive its own call. Null is the default.
   std::shared_ptr<const LogSink> sink;
 };
 
@@ -69,7 +69,7 @@ LogSink setLogSink(LogSink sink) {
 }
 
 void guarded(const std::function<void()>& work) noexcept {
-  // The outer block is for a log that throws itself: there is nobody left to tell.
+  // The outer block catches what the log itself throws: nobody is left to tell.
   try {
     try {
       work();

@@ -13,13 +13,12 @@ namespace ui {
 UI_EXPORT void log(std::string_view text);
 
 using LogSink = std::function<void(std::string_view text)>;
-/// Replaces the sink and returns the earlier one; an empty function stands for the default, both
-/// ways. A sink is called by one thread at a time and never again once it has been replaced; it may
-/// log.
+/// Replaces the sink and returns the previous one; an empty function means the default, in both
+/// directions. A sink is called by one thread at a time, never again once replaced, and may log.
 UI_EXPORT LogSink setLogSink(LogSink sink);
 
-/// Runs `work`; an exception that it throws is logged and goes no further. The outermost call of
-/// everything that a toolkit or a listener starts.
+/// Runs `work`; whatever it throws is logged and goes no further. Everything that a toolkit, a host
+/// or a listener calls runs inside it.
 UI_EXPORT void guarded(const std::function<void()>& work) noexcept;
 
 }  // namespace ui

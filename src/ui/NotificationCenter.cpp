@@ -30,8 +30,7 @@ NotificationCenter*& replacement() {
 
 class NotificationCenter::Registry {
  public:
-  // Shared with the deliveries under way, so that a function is never destroyed inside its own
-  // call.
+  // Shared with the deliveries in progress, so that no function is destroyed inside its own call.
   std::list<std::shared_ptr<Registration>> registrations;
 };
 
@@ -57,7 +56,7 @@ void NotificationCenter::addObserver(const void* observer, std::string_view name
 }
 
 void NotificationCenter::removeObserver(const void* observer) {
-  // What is removed is destroyed last: what a function holds may come back here as it goes.
+  // Destroyed last: what a removed function holds may call back in here from its destructor.
   std::list<std::shared_ptr<Registration>> removed;
   auto& registrations = registry_->registrations;
   for (auto next = registrations.begin(); next != registrations.end();) {

@@ -11,19 +11,19 @@ namespace ui {
 
 struct Notification {
   std::string_view name;
-  /// The object that it is about; only its identity counts.
+  /// The object it is about; used only as an identity.
   const void* object;
 };
 
 /// Announcements within the process, delivered synchronously in the order of registration.
-/// An observer that is removed during a delivery is not called any more; one that is added is first
-/// called by the next post. An exception of an observer ends that delivery and reaches whoever
-/// posted. Main thread only.
+/// An observer removed during a delivery is no longer called; one added is first called by the next
+/// post. An exception thrown by an observer ends the delivery and reaches the poster. Main thread
+/// only.
 class UI_EXPORT NotificationCenter {
  public:
   static NotificationCenter& defaultCenter();
-  /// Puts a toolkit's own centre in the place of the default one; null brings that back. Not owned.
-  /// What is observed stays with the centre where it was asked for.
+  /// Replaces the default centre with a toolkit's own; null restores it. Not owned. Observers stay
+  /// with the centre that they were added to.
   static void setDefaultCenter(NotificationCenter* center);
 
   NotificationCenter();

@@ -4,8 +4,8 @@
 
 namespace ui {
 
-/// Anything that can send an action or be the object of a notification. An action that cares who
-/// sent it asks with `dynamic_cast`.
+/// Anything that can send an action or be the object of a notification. An action identifies its
+/// sender by `dynamic_cast`.
 class UI_EXPORT Object {
  public:
   Object() = default;

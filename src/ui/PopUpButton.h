@@ -24,11 +24,11 @@ class UI_EXPORT MenuItem : public Object {
   /// Null while none is set.
   virtual const Dictionary* representedObject() const = 0;
   virtual void setRepresentedObject(const Dictionary& object) = 0;
-  /// What is called, with the item as sender, when the user picks the item.
+  /// Called with the item as sender when the user picks the item.
   virtual void setAction(Action action) = 0;
 };
 
-/// Indices count from 0, separators included; -1 stands for no item.
+/// Indices count from 0 and include separators; -1 means no item.
 class UI_EXPORT PopUpButton : public View {
  public:
   ~PopUpButton() override;
@@ -37,7 +37,7 @@ class UI_EXPORT PopUpButton : public View {
   virtual MenuItem* itemAtIndex(int index) = 0;
   virtual int indexOfItemWithTag(int tag) const = 0;
   virtual int indexOfItemWithRepresentedObject(const Dictionary& object) const = 0;
-  /// Equal titles may stand side by side.
+  /// Titles need not be unique.
   virtual void insertItemWithTitle(const std::string& title, int index) = 0;
   virtual void removeItemAtIndex(int index) = 0;
   virtual int indexOfSelectedItem() const = 0;

@@ -60,7 +60,7 @@ Color readable(const Color& color, const Color& background, double minimumContra
   if (contrast(color, background) >= minimumContrast) {
     return color;
   }
-  // The extreme stands out as far as anything can; halve the way to it until the step is invisible.
+  // Black or white stands out the most; bisect the way there until the step is invisible.
   double tooClose = lightness(color);
   double farEnough = isDark(background) ? 1.0 : 0.0;
   while (std::abs(farEnough - tooClose) > 1.0 / 512.0) {

@@ -8,7 +8,7 @@
 namespace ui {
 
 /// The states of a toolkit's event loop in which a timer may fire. A toolkit with one loop for all
-/// of them fires a timer as soon as it has any mode.
+/// of them fires every timer in any state.
 enum class RunLoopMode { Default, EventTracking, ModalPanel };
 
 /// A repeating timer. Destroying it invalidates it.
@@ -16,11 +16,11 @@ class UI_EXPORT Timer {
  public:
   virtual ~Timer();
   virtual void addToMode(RunLoopMode mode) = 0;
-  /// It never fires again. Safe inside its own callback.
+  /// Stops it for good. Safe inside its own callback.
   virtual void invalidate() = 0;
 };
 
-/// Work that waits for its turn. Destroying it cancels it; safe inside the work itself.
+/// Work waiting for its turn. Destroying this cancels it; safe inside the work itself.
 class UI_EXPORT Deferred {
  public:
   virtual ~Deferred();
@@ -32,7 +32,7 @@ class UI_EXPORT RunLoop {
   virtual ~RunLoop();
   /// Fires every `interval` seconds in the default mode.
   virtual std::unique_ptr<Timer> scheduledTimer(double interval, std::function<void()> fire) = 0;
-  /// Calls `work` once on the next turn of the loop, never before this call returned.
+  /// Calls `work` once on the next turn of the loop, never before this call returns.
   virtual std::unique_ptr<Deferred> performLater(std::function<void()> work) = 0;
 };
 

@@ -21,7 +21,7 @@ class UI_EXPORT Sheet : public Window {
 };
 
 struct AlertTexts {
-  /// Empty: no title.
+  /// Empty for no title.
   std::string title;
   std::string defaultButton;
   std::string alternateButton;
@@ -36,20 +36,20 @@ struct SavePanelTexts {
   std::string title;
   /// Without the extension.
   std::string proposedName;
-  /// Without the dot; the panel adds it to a name that lacks it.
+  /// Without the dot; added to a name that lacks it.
   std::string allowedFileType;
 };
 
-/// Document-modal sheets and the save panel. Main thread only. What is pending when the view goes
-/// away is cancelled: its end function is then never called.
+/// Document-modal sheets and the save panel. Main thread only. Whatever is open when the view goes
+/// away is cancelled, and its end function is never called.
 class UI_EXPORT Sheets {
  public:
   virtual ~Sheets();
 
   /// Shows the sheet over the window of `control` and returns at once. `didEnd` is called with the
-  /// code that `endSheet` gave; it orders the sheet out.
+  /// code passed to `endSheet`; it orders the sheet out.
   virtual void beginSheet(Sheet& sheet, View& control, std::function<void(int code)> didEnd) = 0;
-  /// Ends a sheet that was begun. The sheet stays visible until it is ordered out.
+  /// Ends an open sheet, which stays visible until it is ordered out.
   virtual void endSheet(Sheet& sheet, int code) = 0;
   virtual void orderOut(Sheet& sheet) = 0;
 
@@ -58,8 +58,8 @@ class UI_EXPORT Sheets {
   virtual void beginAlertSheet(const AlertTexts& texts, View& control,
                                std::function<void(Window& alert, int code)> didEnd) = 0;
 
-  /// Runs the panel modally over the window of `control`: the chosen place, or nothing when the
-  /// user cancelled.
+  /// Runs the panel modally over the window of `control`. Returns the chosen file, or nothing if
+  /// the user cancelled.
   virtual std::optional<std::filesystem::path> runSavePanel(const SavePanelTexts& texts,
                                                             View& control) = 0;
 };

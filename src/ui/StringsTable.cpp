@@ -64,14 +64,14 @@ class Parser {
 
  private:
   bool atEnd() const { return position_ >= text_.size(); }
-  /// The character at the place, or after it; 0 past the end.
+  /// The character that many places ahead; 0 past the end.
   char peek(std::size_t ahead = 0) const {
     return position_ + ahead < text_.size() ? text_[position_ + ahead] : '\0';
   }
 
   char advance() {
     const char c = text_[position_++];
-    // A carriage return before a line feed belongs to the same line end.
+    // CR LF is one line end.
     if (c == '\n' || (c == '\r' && peek() != '\n')) {
       ++line_;
     }

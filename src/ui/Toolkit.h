@@ -11,9 +11,9 @@ class Localization;
 class RunLoop;
 class Sheets;
 
-/// The services that a skin gives to one view. Everything lives longer than the view's objects.
+/// The services that a skin gives to one view. All of them outlive the view's objects.
 struct Toolkit {
-  /// As `ui::writeMacRoman`, in the toolkit's way.
+  /// `ui::writeMacRoman` or the toolkit's equivalent.
   using WriteMacRoman = bool(const std::filesystem::path& file, std::string_view utf8);
 
   RunLoop& runLoop;

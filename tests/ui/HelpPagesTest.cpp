@@ -55,7 +55,7 @@ TEST_P(HelpPage, CallsTheControlsAsTheViewDoes) {
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return text;
   };
-  // Lines of the page break within names.
+  // The page may break its lines within names.
   const std::string page = lowerCase(onOneLine(html));
   for (const char* control :
        {"Monitor", "Source", "Reset", "Show Details", "Learning Mode", "End Test"}) {
@@ -88,8 +88,8 @@ TEST_P(HelpPage, LinksOnlyToPagesThatAreThere) {
   std::size_t count = 0;
   for (std::size_t at = html.find(opening); at != std::string::npos;
        at = html.find(opening, at + 1)) {
-    const std::size_t begin = at + opening.size();
-    const std::string target = html.substr(begin, html.find('"', begin) - begin);
+    const std::size_t start = at + opening.size();
+    const std::string target = html.substr(start, html.find('"', start) - start);
     EXPECT_TRUE(fs::exists(kResources / "help" / target)) << target;
     ++count;
   }

@@ -14,7 +14,7 @@ namespace {
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-/// A variable of the environment for one test.
+/// Sets an environment variable for one test.
 class Environment {
  public:
   Environment(const char* name, const char* value) : name_(name) {

@@ -33,23 +33,23 @@ bool hasWord(std::string_view text) {
   return std::adjacent_find(text.begin(), text.end(), areLetters) != text.end();
 }
 
-/// What stands between two marks behind `place`, which moves on behind the second one.
+/// What is between two marks after `place`, which moves past the second one.
 std::optional<std::string_view> between(std::string_view text, std::size_t& place,
                                         std::string_view opening, std::string_view closing) {
-  const std::size_t begin = text.find(opening, place);
-  if (begin == std::string_view::npos) {
+  const std::size_t start = text.find(opening, place);
+  if (start == std::string_view::npos) {
     return std::nullopt;
   }
-  const std::size_t end = text.find(closing, begin + opening.size());
+  const std::size_t end = text.find(closing, start + opening.size());
   if (end == std::string_view::npos) {
     return std::nullopt;
   }
   place = end + closing.size();
-  return text.substr(begin + opening.size(), end - begin - opening.size());
+  return text.substr(start + opening.size(), end - start - opening.size());
 }
 
-/// Reads a C++ text in quotes; `place` moves from its opening quote behind its closing one.
-std::string quotedText(std::string_view source, std::size_t& place) {
+/// Reads a C++ text in quotes; `place` moves from its opening quote past its closing one.
+std::string readQuotedText(std::string_view source, std::size_t& place) {
   std::string text;
   for (++place; place < source.size() && source[place] != '"'; ++place) {
     if (source[place] == '\\' && place + 1 < source.size()) {
@@ -63,7 +63,7 @@ std::string quotedText(std::string_view source, std::size_t& place) {
   return text;
 }
 
-/// The texts of the call whose parenthesis has just been opened. Neighbours are one text.
+/// The texts of the call whose parenthesis has just been opened. Adjacent literals are one text.
 std::set<std::string> textsOfCall(std::string_view arguments) {
   std::set<std::string> texts;
   std::optional<std::string> text;
@@ -71,7 +71,7 @@ std::set<std::string> textsOfCall(std::string_view arguments) {
   for (std::size_t i = 0; i < arguments.size() && depth > 0;) {
     const char c = arguments[i];
     if (c == '"') {
-      text = text.value_or("") + quotedText(arguments, i);
+      text = text.value_or("") + readQuotedText(arguments, i);
       continue;
     }
     if (text && std::isspace(static_cast<unsigned char>(c)) == 0) {
@@ -84,12 +84,12 @@ std::set<std::string> textsOfCall(std::string_view arguments) {
 }
 
 std::string_view nameBefore(std::string_view source, std::size_t parenthesis) {
-  std::size_t begin = parenthesis;
-  while (begin > 0 && (std::isalnum(static_cast<unsigned char>(source[begin - 1])) != 0 ||
-                       source[begin - 1] == '_')) {
-    --begin;
+  std::size_t start = parenthesis;
+  while (start > 0 && (std::isalnum(static_cast<unsigned char>(source[start - 1])) != 0 ||
+                       source[start - 1] == '_')) {
+    --start;
   }
-  return source.substr(begin, parenthesis - begin);
+  return source.substr(start, parenthesis - start);
 }
 
 std::string withoutEntities(std::string_view escaped) {
@@ -106,7 +106,7 @@ std::string withoutEntities(std::string_view escaped) {
   return text;
 }
 
-/// The value of a property of text, nothing for one of another kind or an empty one.
+/// The value of a text property; empty for a property of any other kind.
 std::string valueOf(std::string_view property) {
   std::size_t place = property.find("<string");
   if (place == std::string_view::npos) {

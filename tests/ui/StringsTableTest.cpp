@@ -11,7 +11,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Pair;
 
-/// The line that the parser complains of, 0 when it does not.
+/// The line that the parser complains about; 0 if it does not.
 std::size_t faultyLine(std::string_view text) {
   try {
     ui::parseStringsTable(text);

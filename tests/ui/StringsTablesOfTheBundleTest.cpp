@@ -42,7 +42,7 @@ std::set<std::string> keys(const ui::StringsTable& table) {
   return keys;
 }
 
-/// The ones that the first set has and the second lacks.
+/// Those in the first set that the second lacks.
 std::set<std::string> missing(const std::set<std::string>& wanted, const ui::StringsTable& table) {
   std::set<std::string> missing;
   for (const std::string& key : wanted) {
@@ -132,7 +132,7 @@ const std::set<std::string> kTextsOfTheView = {
     "Test Cycles: %@\n",
     "Results: %@/%@ (%@ Correct)\n\n"};
 
-/// Of all that the bundle is made of.
+/// Of everything that goes into the bundle.
 std::set<std::string> keysInSources() {
   std::set<std::string> keys;
   for (const char* room : {"skins", "ui", "view"}) {
@@ -259,7 +259,7 @@ void PrintTo(const User& user, std::ostream* stream) {
 
 class ResultsFileOf : public testing::TestWithParam<User> {
  protected:
-  /// The texts that cannot be saved. They are tried together first: a file is slow to be made safe.
+  /// The texts that cannot be saved. All are tried together first, since syncing a file is slow.
   std::vector<std::string> unsavable(const std::vector<std::string>& texts) const {
     if (ui::writeMacRoman(file_, std::accumulate(texts.begin(), texts.end(), std::string()))) {
       return {};

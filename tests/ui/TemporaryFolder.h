@@ -9,7 +9,7 @@
 #include <system_error>
 #include <vector>
 
-/// A folder of its own for one test, removed with all it holds.
+/// A folder for one test, removed with everything in it.
 class TemporaryFolder {
  public:
   TemporaryFolder() {

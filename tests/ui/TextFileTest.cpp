@@ -213,7 +213,7 @@ TEST_F(MacRomanFile, IsNotWrittenWhenLinksRunInACircle) {
   EXPECT_TRUE(fs::is_symlink(file));
 }
 
-/// The superuser may write everywhere; as nobody he may not.
+/// The superuser may write anywhere; as nobody, the process may not.
 class OrdinaryUser {
  public:
   OrdinaryUser() : isChanged_(::geteuid() == 0 && ::seteuid(65534) == 0) {}

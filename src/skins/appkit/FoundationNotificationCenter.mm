@@ -62,22 +62,42 @@ Representatives& representatives() {
   return all;
 }
 
-/// What an observer has thrown during the innermost post. It has to pass the centre by: that is not
-/// made for exceptions of C++.
-std::exception_ptr& failure() {
-  static std::exception_ptr exception;
+/// Where the innermost `post` keeps what an observer throws, which must not pass through
+/// Foundation. Null while nobody posts through this class; a host may post without it.
+std::exception_ptr*& failure() {
+  static std::exception_ptr* exception = nullptr;
   return exception;
 }
 
+/// Takes what is thrown during one `post`.
+class Failure {
+ public:
+  Failure() : outer_(std::exchange(failure(), &thrown_)) {}
+  Failure(const Failure&) = delete;
+  Failure& operator=(const Failure&) = delete;
+  ~Failure() { failure() = outer_; }
+
+  const std::exception_ptr& thrown() const { return thrown_; }
+
+ private:
+  std::exception_ptr thrown_;
+  std::exception_ptr* outer_;
+};
+
+/// Throws what the observer throws only where no `post` is there to take it.
 void receive(NSNotification* notification, const Deliver& deliver) {
-  if (failure()) {
+  std::exception_ptr* const kept = failure();
+  if (kept != nullptr && *kept) {
     return;
   }
-  const std::string name = utf8([notification name]);
   try {
+    const std::string name = utf8([notification name]);
     deliver({name, representatives().object([notification object])});
   } catch (...) {
-    failure() = std::current_exception();
+    if (kept == nullptr) {
+      throw;
+    }
+    *kept = std::current_exception();
   }
 }
 
@@ -127,11 +147,11 @@ void FoundationNotificationCenter::removeObserver(const void* observer) {
 }
 
 void FoundationNotificationCenter::post(std::string_view name, const void* object) {
-  const std::exception_ptr outer = std::exchange(failure(), nullptr);
+  const Failure failure;
   [[NSNotificationCenter defaultCenter] postNotificationName:nsString(name)
                                                       object:nativeObject(object)];
-  if (const std::exception_ptr thrown = std::exchange(failure(), outer)) {
-    std::rethrow_exception(thrown);
+  if (failure.thrown()) {
+    std::rethrow_exception(failure.thrown());
   }
 }
 

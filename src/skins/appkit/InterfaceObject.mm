@@ -75,10 +75,11 @@ class ConnectedObject final : public InterfaceObject {
     }
     for (const Connections::NamedAction& action : declared_->actions()) {
       if (action.selector == selector) {
-        // What it does may destroy this object and the place where it is kept.
-        const Action work = action.action;
-        Object* const control = controls_->control(sender);
-        guarded([&] { work(control); });
+        guarded([&] {
+          // What it does may destroy this object and the place where it is kept.
+          const Action work = action.action;
+          work(controls_->control(sender));
+        });
         return;
       }
     }

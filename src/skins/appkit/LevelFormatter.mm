@@ -1,6 +1,7 @@
 #include "skins/appkit/LevelFormatter.h"
 
 #include "skins/appkit/Strings.h"
+#include "ui/Log.h"
 
 @implementation Velk_LevelFormatter
 
@@ -12,7 +13,10 @@
   if (_levelText == nullptr || ![object respondsToSelector:@selector(doubleValue)]) {
     return [object description];
   }
-  return ui::appkit::nsString(_levelText->text([object doubleValue]));
+  const ui::appkit::LevelText& levelText = *_levelText;
+  NSString* text = [object description];
+  ui::guarded([&] { text = ui::appkit::nsString(levelText.text([object doubleValue])); });
+  return text;
 }
 
 - (BOOL)getObjectValue:(id*)object forString:(NSString*)string errorDescription:(NSString**)error {

@@ -1,8 +1,13 @@
 #include "skins/appkit/TabViewAdapter.h"
 
+#include <exception>
+#include <utility>
+
 #include "ui/Log.h"
 
-/// Hands the tab view's questions on to the core's delegate.
+/// Passes the tab view's questions on to the core's delegate. A delegate that throws when asked
+/// refuses the change. Its exception must not pass through the toolkit: it is kept for the code
+/// that selects, or logged when a user does.
 @interface Velk_TabViewDelegate : NSObject
 #ifndef GNUSTEP
                                   <NSTabViewDelegate>
@@ -10,15 +15,39 @@
 {
   ui::TabViewDelegate* _delegate;
   ui::TabView* _tabs;
+  std::exception_ptr* _failure;
 }
 - (void)setDelegate:(ui::TabViewDelegate*)delegate ofTabs:(ui::TabView*)tabs;
+/// Null logs exceptions. Returns the earlier place.
+- (std::exception_ptr*)keepFailureIn:(std::exception_ptr*)failure;
 @end
+
+namespace {
+
+template <class Question>
+void ask(std::exception_ptr* failure, const Question& question) {
+  if (failure == nullptr) {
+    ui::guarded(question);
+    return;
+  }
+  try {
+    question();
+  } catch (...) {
+    *failure = std::current_exception();
+  }
+}
+
+}  // namespace
 
 @implementation Velk_TabViewDelegate
 
 - (void)setDelegate:(ui::TabViewDelegate*)delegate ofTabs:(ui::TabView*)tabs {
   _delegate = delegate;
   _tabs = tabs;
+}
+
+- (std::exception_ptr*)keepFailureIn:(std::exception_ptr*)failure {
+  return std::exchange(_failure, failure);
 }
 
 - (ui::TabViewItem*)item:(NSTabViewItem*)item of:(NSTabView*)tabs {
@@ -29,9 +58,9 @@
 - (BOOL)tabView:(NSTabView*)tabs shouldSelectTabViewItem:(NSTabViewItem*)item {
   ui::TabViewDelegate* const delegate = _delegate;
   ui::TabViewItem* const requested = [self item:item of:tabs];
-  bool allowed = true;
+  bool allowed = delegate == nullptr;
   if (delegate != nullptr) {
-    ui::guarded([&] { allowed = delegate->shouldSelectTabViewItem(requested); });
+    ask(_failure, [&] { allowed = delegate->shouldSelectTabViewItem(requested); });
   }
   return allowed ? YES : NO;
 }
@@ -40,13 +69,35 @@
   ui::TabViewDelegate* const delegate = _delegate;
   ui::TabViewItem* const next = [self item:item of:tabs];
   if (delegate != nullptr) {
-    ui::guarded([&] { delegate->willSelectTabViewItem(next); });
+    ask(_failure, [&] { delegate->willSelectTabViewItem(next); });
   }
 }
 
 @end
 
 namespace ui::appkit {
+
+namespace {
+
+/// Takes what the delegate throws during one selection.
+class Failure {
+ public:
+  /// The delegate is retained: what the selection leads to may destroy the adapter.
+  explicit Failure(Retained<Velk_TabViewDelegate*> delegate)
+      : delegate_(std::move(delegate)), outer_([delegate_.get() keepFailureIn:&thrown_]) {}
+  Failure(const Failure&) = delete;
+  Failure& operator=(const Failure&) = delete;
+  ~Failure() { [delegate_.get() keepFailureIn:outer_]; }
+
+  const std::exception_ptr& thrown() const { return thrown_; }
+
+ private:
+  std::exception_ptr thrown_;
+  Retained<Velk_TabViewDelegate*> delegate_;
+  std::exception_ptr* outer_;
+};
+
+}  // namespace
 
 TabViewAdapter::TabViewAdapter(NSTabView* tabs)
     : Adapter(tabs),
@@ -65,8 +116,13 @@ int TabViewAdapter::indexOfSelectedItem() const {
 }
 
 void TabViewAdapter::selectItemAtIndex(int index) {
-  if (itemAtIndex(index) != nullptr) {
-    [control() selectTabViewItemAtIndex:index];
+  if (itemAtIndex(index) == nullptr) {
+    return;
+  }
+  const Failure failure(nativeDelegate_);
+  [control() selectTabViewItemAtIndex:index];
+  if (failure.thrown()) {
+    std::rethrow_exception(failure.thrown());
   }
 }
 

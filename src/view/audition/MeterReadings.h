@@ -17,11 +17,11 @@ constexpr ReadingSet readingSetFor(std::uint32_t numChannels) {
   return numChannels == 2 ? ReadingSet::Stereo : ReadingSet::Mono;
 }
 
-/// One reading of the details table and the figure of the statistics that feeds it.
+/// One reading of the details table and the statistics figure that it shows.
 ///
-/// The name says signal (s source, e encoded), measure (s sample peak, i inter-sample peak) and
-/// channel (l, r, m); a clip counter's name ends in another c. A peak has the outlets name +
-/// "Field" and name + "Indicator", a counter name + "Field".
+/// The letters of the name are signal (s source, e encoded), measure (s sample peak, i inter-sample
+/// peak) and channel (l, r, m), with a c added for a clip counter. A peak has the outlets name +
+/// "Field" and name + "Indicator", a counter only name + "Field".
 struct MeterReading {
   using Peak = float TruePeakStats::*;
   using Count = std::int64_t TruePeakStats::*;

@@ -22,9 +22,9 @@ void PeakHoldMeters::declareOutlets(ui::Connections& connections) {
   for (std::size_t i = 0; i < kMeterReadingCount; ++i) {
     const MeterReading& row = meterReadings()[i];
     const std::string name(row.name);
-    connections.outlet(name + "Field", readings_[i].field);
+    connections.addOutlet(name + "Field", readings_[i].field);
     if (isPeak(row)) {
-      connections.outlet(name + "Indicator", readings_[i].indicator);
+      connections.addOutlet(name + "Indicator", readings_[i].indicator);
     }
   }
 }

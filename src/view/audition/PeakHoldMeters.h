@@ -16,7 +16,7 @@ namespace velk {
 /// Level at which held peaks start, dB relative to full scale.
 inline constexpr float kMeterFloor = -60.0F;
 
-/// Values of a lamp.
+/// States of a lamp.
 inline constexpr int kLampDark = 0;
 inline constexpr int kLampLit = 2;
 
@@ -29,17 +29,16 @@ class PeakHoldMeters {
 
   void declareOutlets(ui::Connections& connections);
 
-  /// Raises the readings of one set to the figures of the block. Allocates only for a count that
-  /// rises.
+  /// Raises the readings of one set to the block's figures. Allocates only when a count rises.
   void poll(const PeakStatistics& block, ReadingSet set, const ui::Localization& localization);
 
-  /// Takes the held values of both sets back.
+  /// Resets the held values of both sets.
   void clearHeldValues();
-  /// Shows the readings of one set as cleared.
+  /// Clears the controls of one set.
   void clearControls(ReadingSet set);
 
  private:
-  /// What belongs to the row of the table at the same place. A counter has no indicator.
+  /// The state of the `meterReadings` entry at the same index. A counter has no indicator.
   struct Reading {
     float peak = kMeterFloor;
     std::int64_t count = 0;

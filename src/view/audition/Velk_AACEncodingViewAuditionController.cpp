@@ -29,19 +29,19 @@ void latch(ui::LevelIndicator& lamp) {
 
 Velk_AACEncodingViewAuditionController::Velk_AACEncodingViewAuditionController(ui::Toolkit& toolkit)
     : toolkit_(toolkit) {
-  connections_.outlet("monitorControl", monitorControl);
-  connections_.outlet("sourceClipIndicator", sourceClipIndicator);
-  connections_.outlet("encoderClipIndicator", encoderClipIndicator);
-  connections_.outlet("resetButton", resetButton);
-  connections_.outlet("showDetailsButton", showDetailsButton);
-  connections_.outlet("showDetailsText", showDetailsText);
-  connections_.outlet("monoStereoTabView", monoStereoTabView);
-  connections_.outlet("helpButton", helpButton);
+  connections_.addOutlet("monitorControl", monitorControl);
+  connections_.addOutlet("sourceClipIndicator", sourceClipIndicator);
+  connections_.addOutlet("encoderClipIndicator", encoderClipIndicator);
+  connections_.addOutlet("resetButton", resetButton);
+  connections_.addOutlet("showDetailsButton", showDetailsButton);
+  connections_.addOutlet("showDetailsText", showDetailsText);
+  connections_.addOutlet("monoStereoTabView", monoStereoTabView);
+  connections_.addOutlet("helpButton", helpButton);
   meters_.declareOutlets(connections_);
-  connections_.action("monitorChanged:", [this](ui::Object* sender) { monitorChanged(sender); });
-  connections_.action("resetClip:", [this](ui::Object* sender) { resetClip(sender); });
-  connections_.action("toggleShowDetails:",
-                      [this](ui::Object* sender) { toggleShowDetails(sender); });
+  connections_.addAction("monitorChanged:", [this](ui::Object* sender) { monitorChanged(sender); });
+  connections_.addAction("resetClip:", [this](ui::Object* sender) { resetClip(sender); });
+  connections_.addAction("toggleShowDetails:",
+                         [this](ui::Object* sender) { toggleShowDetails(sender); });
 }
 
 Velk_AACEncodingViewAuditionController::~Velk_AACEncodingViewAuditionController() {
@@ -56,7 +56,7 @@ void Velk_AACEncodingViewAuditionController::setOwner(Velk_AUAACConverterCustomV
 
 void Velk_AACEncodingViewAuditionController::prepare() {
   showMonitoredSignal();
-  // A view that is bound once more prepares a page that is live already.
+  // Binding again prepares a page that is already live.
   if (clipIndicatorTimer) {
     clipIndicatorTimer->invalidate();
   }
@@ -144,7 +144,7 @@ void Velk_AACEncodingViewAuditionController::updateClipIndicators() {
     latch(*encoderClipIndicator);
   }
 
-  // A failed read leaves the inter-sample peaks as they are here: at the floor they raise nothing.
+  // A failed read leaves the inter-sample peaks at this floor, where they raise nothing.
   PeakStatistics block{};
   for (TruePeakStats& record : block) {
     record.mInterSamplePeak = kMeterFloor;

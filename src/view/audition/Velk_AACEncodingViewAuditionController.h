@@ -17,7 +17,7 @@ class Velk_AUAACConverterCustomView;
 /// disclosure. Main thread only.
 class Velk_AACEncodingViewAuditionController final : public TabController {
  public:
-  /// The toolkit lives longer than the controller.
+  /// `toolkit` must outlive the controller.
   explicit Velk_AACEncodingViewAuditionController(ui::Toolkit& toolkit);
   ~Velk_AACEncodingViewAuditionController() override;
 
@@ -38,7 +38,7 @@ class Velk_AACEncodingViewAuditionController final : public TabController {
   void handleListeningTestStateChanged(const ui::Notification& notification);
 
   // Meters.
-  /// One poll of the converter's statistics.
+  /// Polls the converter's statistics once.
   void updateClipIndicators();
   void resetClip(ui::Object* sender);
   void handleClearClip(const ui::Notification& notification);

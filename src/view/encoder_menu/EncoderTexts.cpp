@@ -7,10 +7,12 @@
 
 #include "contract/ConverterInterface.h"
 #include "ui/Bundle.h"
+#include "ui/Captions.h"
 #include "ui/Localization.h"
-#include "view/main/StringsTable.h"
 
 namespace velk {
+
+using ui::kStringsTable;
 
 namespace {
 

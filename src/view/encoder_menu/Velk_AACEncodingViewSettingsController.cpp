@@ -17,7 +17,7 @@ constexpr int kABRItem = 0;
 constexpr int kVBRItem = 2;
 constexpr int kHEv2Item = 2;
 
-/// The item that a value stands for; -1 for a value that no index can be.
+/// Index of the item that a value stands for; -1 for a value that is no index.
 int itemFor(float value) {
   constexpr float kMostItems = 1000.0F;
   const float whole = std::trunc(value);
@@ -50,21 +50,21 @@ class Closing {
 
 Velk_AACEncodingViewSettingsController::Velk_AACEncodingViewSettingsController(ui::Toolkit& toolkit)
     : toolkit_(toolkit) {
-  connections_.outlet("settingsSheet", settingsSheet_);
-  connections_.outlet("typePopup", typePopup);
-  connections_.outlet("strategyPopup", strategyPopup);
-  connections_.outlet("rateQualityTabView", rateQualityTabView);
-  connections_.outlet("bitratePopup", bitratePopup);
-  connections_.outlet("rateLabel", rateLabel);
-  connections_.outlet("qualitySlider", qualitySlider);
-  connections_.outlet("OKButton", OKButton);
-  connections_.outlet("cancelButton", cancelButton);
-  connections_.action("setType:", [this](ui::Object* sender) { setType(sender); });
-  connections_.action("setStrategy:", [this](ui::Object* sender) { setStrategy(sender); });
-  connections_.action("setBitrate:", [this](ui::Object* sender) { setBitrate(sender); });
-  connections_.action("setQuality:", [this](ui::Object* sender) { setQuality(sender); });
-  connections_.action("OKPressed:", [this](ui::Object* sender) { OKPressed(sender); });
-  connections_.action("cancelPressed:", [this](ui::Object* sender) { cancelPressed(sender); });
+  connections_.addOutlet("settingsSheet", settingsSheet_);
+  connections_.addOutlet("typePopup", typePopup);
+  connections_.addOutlet("strategyPopup", strategyPopup);
+  connections_.addOutlet("rateQualityTabView", rateQualityTabView);
+  connections_.addOutlet("bitratePopup", bitratePopup);
+  connections_.addOutlet("rateLabel", rateLabel);
+  connections_.addOutlet("qualitySlider", qualitySlider);
+  connections_.addOutlet("OKButton", OKButton);
+  connections_.addOutlet("cancelButton", cancelButton);
+  connections_.addAction("setType:", [this](ui::Object* sender) { setType(sender); });
+  connections_.addAction("setStrategy:", [this](ui::Object* sender) { setStrategy(sender); });
+  connections_.addAction("setBitrate:", [this](ui::Object* sender) { setBitrate(sender); });
+  connections_.addAction("setQuality:", [this](ui::Object* sender) { setQuality(sender); });
+  connections_.addAction("OKPressed:", [this](ui::Object* sender) { OKPressed(sender); });
+  connections_.addAction("cancelPressed:", [this](ui::Object* sender) { cancelPressed(sender); });
 }
 
 void Velk_AACEncodingViewSettingsController::setOwner(Velk_AUAACConverterCustomView* view) {
@@ -82,7 +82,7 @@ void Velk_AACEncodingViewSettingsController::offerTypes(bool withHEv2) {
     hev2Title_ = typePopup->itemAtIndex(kHEv2Item)->title();
     typePopup->removeItemAtIndex(kHEv2Item);
   } else if (!isOffered && withHEv2 && !hev2Title_.empty()) {
-    // The view was bound to a converter without it before.
+    // The view was bound to a converter without it earlier.
     typePopup->insertItemWithTitle(hev2Title_, kHEv2Item);
   }
 }
@@ -150,8 +150,7 @@ void Velk_AACEncodingViewSettingsController::settingsSheetDidEnd(
   contextInfo->updatePopup();
 }
 
-// In both the strategy has to be in place before the third value, which means what the strategy
-// says.
+// Both write the strategy before the third value, whose meaning depends on it.
 
 void Velk_AACEncodingViewSettingsController::writeControls(
     Velk_AUAACConverterCustomView& view) const {

@@ -9,15 +9,15 @@ namespace velk {
 
 class Velk_AUAACConverterCustomView;
 
-/// The sheet in which the user sets the encoder freely. It edits the converter live; Cancel puts
-/// back what was in force when it opened. Main thread only.
+/// The sheet for custom encoder settings. It edits the converter live; Cancel restores the setting
+/// that was in force when it opened. Main thread only.
 class Velk_AACEncodingViewSettingsController final : public ui::Object {
  public:
-  /// The toolkit lives longer than the controller.
+  /// `toolkit` must outlive the controller.
   explicit Velk_AACEncodingViewSettingsController(ui::Toolkit& toolkit);
 
-  /// Stores the main view, which is not owned, and makes the sheet ready to open: remembers the
-  /// current setting, offers the types that the converter has, and shows the setting.
+  /// Stores the main view, which is not owned, and prepares the sheet: remembers the current
+  /// setting, offers the types that the converter has, and shows the setting.
   void setOwner(Velk_AUAACConverterCustomView* view);
   /// Makes the controls show the converter's setting.
   void updateUI();
@@ -58,9 +58,9 @@ class Velk_AACEncodingViewSettingsController final : public ui::Object {
   ui::Button* cancelButton = nullptr;
   float initialType = 0;
   float initialStrategy = 0;
-  /// As the parameter holds it: a rate index or a quality.
+  /// The parameter's raw value: a rate index or a quality.
   float initialQualityOrRate = 0;
-  /// Title of the type that was taken out of the menu; empty while none was.
+  /// Title of the type removed from the menu; empty if none was.
   std::string hev2Title_;
 };
 

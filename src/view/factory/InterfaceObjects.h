@@ -17,7 +17,7 @@ namespace velk {
 /// controllers outlive the view, whose teardown still needs them.
 class InterfaceObjects final : public ui::InterfaceObjects {
  public:
-  /// Both references live longer than this object.
+  /// Both must outlive this object.
   InterfaceObjects(ui::NativeView& native, ui::Toolkit& toolkit);
   ~InterfaceObjects() override;
 

@@ -14,6 +14,19 @@ namespace {
 
 constexpr const char* kInterfaceFile = "Velk_NordaAACConverter";
 
+/// False, with the fault in the log, if the view cannot be bound.
+bool bind(Velk_AUAACConverterCustomView& view, audio_unit::Unit* unit) {
+  try {
+    view.setAU(unit);
+    return true;
+  } catch (const std::exception& exception) {
+    ui::log(std::string("Unable to bind the view: ") + exception.what());
+  } catch (...) {
+    ui::log("Unable to bind the view.");
+  }
+  return false;
+}
+
 }  // namespace
 
 Velk_AUAACConverterFactory::Velk_AUAACConverterFactory(std::unique_ptr<ui::InterfaceLoader> loader)
@@ -31,21 +44,16 @@ std::string Velk_AUAACConverterFactory::description() const {
 
 std::unique_ptr<ui::NativeView> Velk_AUAACConverterFactory::uiViewForAudioUnit(
     audio_unit::Unit* unit, ui::Size /*size*/) {
-  std::unique_ptr<ui::NativeView> native = loadView();
-  Velk_AUAACConverterCustomView* const view = std::exchange(uiFreshlyLoadedView, nullptr);
-  if (!native) {
-    return nullptr;
-  }
-  // The host is on the other side: nothing is thrown at it.
-  try {
-    view->setAU(unit);
-    return native;
-  } catch (const std::exception& exception) {
-    ui::log(std::string("Unable to bind the view: ") + exception.what());
-  } catch (...) {
-    ui::log("Unable to bind the view.");
-  }
-  return nullptr;
+  std::unique_ptr<ui::NativeView> bound;
+  // Nothing may reach the host, not even what the log throws.
+  ui::guarded([&] {
+    std::unique_ptr<ui::NativeView> loaded = loadView();
+    Velk_AUAACConverterCustomView* const view = std::exchange(uiFreshlyLoadedView, nullptr);
+    if (loaded && bind(*view, unit)) {
+      bound = std::move(loaded);
+    }
+  });
+  return bound;
 }
 
 std::unique_ptr<ui::NativeView> Velk_AUAACConverterFactory::loadView() {
@@ -57,8 +65,13 @@ std::unique_ptr<ui::NativeView> Velk_AUAACConverterFactory::loadView() {
                                    uiFreshlyLoadedView = &objects->view();
                                    return objects;
                                  });
+  } catch (const ui::InterfaceError& error) {
+    // Names the file itself.
+    fault = error.what();
   } catch (const std::exception& exception) {
-    fault = exception.what();
+    fault = std::string(kInterfaceFile) + ": " + exception.what();
+  } catch (...) {
+    fault = std::string(kInterfaceFile) + ": exception of an unknown type";
   }
   ui::log("Unable to load nib for view.");
   ui::log(fault);

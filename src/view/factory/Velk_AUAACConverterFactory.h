@@ -21,11 +21,11 @@ class Velk_AUAACConverterFactory final : public AUCocoaUIBase {
                                                      ui::Size size) override;
 
  private:
-  /// Null, with the fault in the log, when the interface file cannot be loaded.
+  /// Null, with the fault in the log, if the interface file cannot be loaded.
   std::unique_ptr<ui::NativeView> loadView();
 
   std::unique_ptr<ui::InterfaceLoader> loader_;
-  /// Set while an interface file is loaded and its view is bound.
+  /// Set only from the making of a view until the view is bound.
   Velk_AUAACConverterCustomView* uiFreshlyLoadedView = nullptr;
 };
 

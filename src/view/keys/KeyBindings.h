@@ -7,10 +7,10 @@
 
 namespace velk {
 
-/// Key label to the names of the notifications that the key posts, in order.
+/// Maps a key's label to the names of the notifications that the key posts, in order.
 using KeyBindings = std::map<std::string, std::vector<std::string_view>, std::less<>>;
 
-/// The bindings of every view; nothing changes them.
+/// The bindings that every view has; users cannot change them.
 KeyBindings defaultKeyBindings();
 
 }  // namespace velk

@@ -6,8 +6,8 @@
 #include "view/keys/KeyLabels.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
-/// From a key press to the commands that are bound to it. Which page acts on a command is decided
-/// by which controller observes.
+/// From a key press to the commands bound to it. Whichever page's controller observes a command
+/// acts on it.
 namespace velk {
 
 std::string Velk_AUAACConverterCustomView::unicodeStringForKeyCode(std::uint16_t keyCode) {
@@ -17,7 +17,7 @@ std::string Velk_AUAACConverterCustomView::unicodeStringForKeyCode(std::uint16_t
 void Velk_AUAACConverterCustomView::keyDown(const ui::KeyEvent& event) {
   const auto binding = keyBindings_.find(keyLabel(event.keyCode));
   if (binding != keyBindings_.end()) {
-    // An observer may tear the view down, which empties the table, or destroy it.
+    // An observer may tear the view down, which clears the table, or destroy the view.
     const std::vector<std::string_view> names = binding->second;
     const std::weak_ptr<const bool> exists = exists_;
     for (const std::string_view name : names) {

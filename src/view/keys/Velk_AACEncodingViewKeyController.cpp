@@ -11,19 +11,19 @@ constexpr int kCancelReturn = 0;
 
 Velk_AACEncodingViewKeyController::Velk_AACEncodingViewKeyController(ui::Toolkit& toolkit)
     : toolkit_(toolkit) {
-  connections_.outlet("keySettingsSheet", keySettingsSheet);
-  connections_.outlet("monitorSourceAuditionField", monitorSourceAuditionField);
-  connections_.outlet("monitorCodecAuditionField", monitorCodecAuditionField);
-  connections_.outlet("clearClipField", clearClipField);
-  connections_.outlet("monitorSourceTestField", monitorSourceTestField);
-  connections_.outlet("monitorATestField", monitorATestField);
-  connections_.outlet("monitorBTestField", monitorBTestField);
-  connections_.outlet("chooseATestField", chooseATestField);
-  connections_.outlet("chooseBTestField", chooseBTestField);
-  connections_.outlet("doneButton", doneButton);
-  connections_.outlet("cancelButton", cancelButton);
-  connections_.action("donePressed:", [this](ui::Object* sender) { donePressed(sender); });
-  connections_.action("cancelPressed:", [this](ui::Object* sender) { cancelPressed(sender); });
+  connections_.addOutlet("keySettingsSheet", keySettingsSheet);
+  connections_.addOutlet("monitorSourceAuditionField", monitorSourceAuditionField);
+  connections_.addOutlet("monitorCodecAuditionField", monitorCodecAuditionField);
+  connections_.addOutlet("clearClipField", clearClipField);
+  connections_.addOutlet("monitorSourceTestField", monitorSourceTestField);
+  connections_.addOutlet("monitorATestField", monitorATestField);
+  connections_.addOutlet("monitorBTestField", monitorBTestField);
+  connections_.addOutlet("chooseATestField", chooseATestField);
+  connections_.addOutlet("chooseBTestField", chooseBTestField);
+  connections_.addOutlet("doneButton", doneButton);
+  connections_.addOutlet("cancelButton", cancelButton);
+  connections_.addAction("donePressed:", [this](ui::Object* sender) { donePressed(sender); });
+  connections_.addAction("cancelPressed:", [this](ui::Object* sender) { cancelPressed(sender); });
 }
 
 void Velk_AACEncodingViewKeyController::donePressed(ui::Object* /*sender*/) {

@@ -11,7 +11,7 @@ class Velk_AUAACConverterCustomView;
 /// thread only.
 class Velk_AACEncodingViewKeyController final : public ui::Object {
  public:
-  /// The toolkit lives longer than the controller.
+  /// `toolkit` must outlive the controller.
   explicit Velk_AACEncodingViewKeyController(ui::Toolkit& toolkit);
 
   /// Stores the main view, which is not owned.
@@ -34,7 +34,7 @@ class Velk_AACEncodingViewKeyController final : public ui::Object {
 
   Velk_AUAACConverterCustomView* owner = nullptr;
   ui::Sheet* keySettingsSheet = nullptr;
-  // The interface file fills the texts in.
+  // The interface file sets their texts.
   ui::TextField* monitorSourceAuditionField = nullptr;
   ui::TextField* monitorCodecAuditionField = nullptr;
   ui::TextField* clearClipField = nullptr;

@@ -52,7 +52,7 @@ void Velk_AACEncodingViewListeningTestController::saveResultFile() {
   // A cancelled panel uses up its number too.
   ++fileID;
 
-  // While the panel runs the view may be torn down, and this controller with it.
+  // The view may be torn down, and this controller destroyed, while the panel runs.
   const std::weak_ptr<const bool> alive = alive_;
   const std::optional<std::filesystem::path> place =
       toolkit_.sheets.runSavePanel(panel, *sourceButton);
@@ -66,7 +66,7 @@ void Velk_AACEncodingViewListeningTestController::saveResultFile() {
       lastTestData->cycle,
       lastTestData->correct,
   };
-  // A write that fails is silent.
+  // A failed write is silent.
   static_cast<void>(toolkit_.writeMacRoman(*place, resultsText(results, texts)));
 }
 

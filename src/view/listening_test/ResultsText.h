@@ -7,9 +7,9 @@ namespace velk {
 
 class TestTexts;
 
-/// What a results file says of one test.
+/// What a results file says about one test.
 struct TestResults {
-  /// When it is saved, as the user's locale writes it.
+  /// When it is saved, in the user's locale.
   std::string date;
   std::string encoderName;
   /// Answers given, plus 1.
@@ -17,7 +17,7 @@ struct TestResults {
   std::uint32_t correct;
 };
 
-/// The content of the results file, UTF-8: lines end in a line feed, the last one in nothing.
+/// The content of the results file, UTF-8. Line feeds separate the lines; none ends the last one.
 std::string resultsText(const TestResults& results, const TestTexts& texts);
 
 }  // namespace velk

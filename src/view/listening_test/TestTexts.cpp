@@ -1,14 +1,14 @@
 #include "view/listening_test/TestTexts.h"
 
 #include "ui/Bundle.h"
+#include "ui/Captions.h"
 #include "ui/Localization.h"
 #include "view/listening_test/PassThreshold.h"
-#include "view/main/StringsTable.h"
 
 namespace velk {
 
 std::string TestTexts::text(std::string_view key) const {
-  return bundle_.localizedString(key, kStringsTable);
+  return bundle_.localizedString(key, ui::kStringsTable);
 }
 
 std::string TestTexts::text(std::string_view key, const std::vector<std::string>& arguments) const {

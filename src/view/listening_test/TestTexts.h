@@ -17,19 +17,19 @@ namespace velk {
 /// The listening test's texts and numbers in the user's language.
 class TestTexts {
  public:
-  /// Both references live longer than this object.
+  /// Both must outlive this object.
   TestTexts(const ui::Bundle& bundle, const ui::Localization& localization)
       : bundle_(bundle), localization_(localization) {}
 
   std::string text(std::string_view key) const;
-  /// The text with its placeholders filled in turn.
+  /// The text with its placeholders filled in order.
   std::string text(std::string_view key, const std::vector<std::string>& arguments) const;
   std::string plain(std::uint32_t number) const;
 
-  /// A format text filled with `correct`, `trials` and the share of correct answers. `trials` is
-  /// not 0.
+  /// A format text filled with `correct`, `trials` and the share of correct answers. `trials` must
+  /// not be 0.
   std::string score(std::string_view key, std::uint32_t trials, std::uint32_t correct) const;
-  /// What a verdict on that many trials says.
+  /// The text of a verdict on that many trials.
   std::string verdict(Verdict verdict, std::uint32_t trials) const;
 
  private:

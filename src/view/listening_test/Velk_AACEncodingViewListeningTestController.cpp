@@ -27,7 +27,7 @@ bool drawAIsSource() {
   return 1 - (std::rand() & 1) != 0;
 }
 
-/// A key never switches off what is heard.
+/// A key never switches a monitor button off.
 void clickUnlessOn(ui::Button& button) {
   if (button.state() == kOff) {
     button.performClick();
@@ -42,27 +42,27 @@ Velk_AACEncodingViewListeningTestController::Velk_AACEncodingViewListeningTestCo
   std::srand(static_cast<unsigned>(std::clock()));
   aIsSource = drawAIsSource();
 
-  connections_.outlet("cycleLabel", cycleLabel);
-  connections_.outlet("sourceButton", sourceButton);
-  connections_.outlet("aButton", aButton);
-  connections_.outlet("bButton", bButton);
-  connections_.outlet("aIsSourceButton", aIsSourceButton);
-  connections_.outlet("bIsSourceButton", bIsSourceButton);
-  connections_.outlet("aResultsText", aResultsText);
-  connections_.outlet("bResultsText", bResultsText);
-  connections_.outlet("endTestButton", endTestButton);
-  connections_.outlet("learnModeButton", learnModeButton);
-  connections_.outlet("saveResultsButton", saveResultsButton);
-  connections_.outlet("resultsSheet", resultsSheet);
-  connections_.outlet("encoderField", encoderField);
-  connections_.outlet("cyclesField", cyclesField);
-  connections_.outlet("resultsField", resultsField);
-  connections_.outlet("summaryField", summaryField);
+  connections_.addOutlet("cycleLabel", cycleLabel);
+  connections_.addOutlet("sourceButton", sourceButton);
+  connections_.addOutlet("aButton", aButton);
+  connections_.addOutlet("bButton", bButton);
+  connections_.addOutlet("aIsSourceButton", aIsSourceButton);
+  connections_.addOutlet("bIsSourceButton", bIsSourceButton);
+  connections_.addOutlet("aResultsText", aResultsText);
+  connections_.addOutlet("bResultsText", bResultsText);
+  connections_.addOutlet("endTestButton", endTestButton);
+  connections_.addOutlet("learnModeButton", learnModeButton);
+  connections_.addOutlet("saveResultsButton", saveResultsButton);
+  connections_.addOutlet("resultsSheet", resultsSheet);
+  connections_.addOutlet("encoderField", encoderField);
+  connections_.addOutlet("cyclesField", cyclesField);
+  connections_.addOutlet("resultsField", resultsField);
+  connections_.addOutlet("summaryField", summaryField);
 
   using Self = Velk_AACEncodingViewListeningTestController;
   const auto action = [this](const char* selector, void (Self::*operation)(ui::Object*)) {
-    connections_.action(selector,
-                        [this, operation](ui::Object* sender) { (this->*operation)(sender); });
+    connections_.addAction(selector,
+                           [this, operation](ui::Object* sender) { (this->*operation)(sender); });
   };
   action("monitorSource:", &Self::monitorSource);
   action("monitorA:", &Self::monitorA);
@@ -94,7 +94,7 @@ void Velk_AACEncodingViewListeningTestController::cleanup() {
 
 void Velk_AACEncodingViewListeningTestController::observe() {
   ui::NotificationCenter& center = ui::NotificationCenter::defaultCenter();
-  // A view that is bound once more prepares a page that observes already.
+  // Binding again prepares a page that already observes.
   center.removeObserver(this);
   using Self = Velk_AACEncodingViewListeningTestController;
   const auto on = [&](std::string_view name, void (Self::*operation)(const ui::Notification&)) {

@@ -13,12 +13,12 @@ namespace velk {
 
 class Velk_AUAACConverterCustomView;
 
-/// The listening-test page: in each cycle A or B plays the source and the other one the encoded
+/// The listening-test page: in each cycle A or B plays the source and the other the encoded
 /// signal, and the user says which is the source. Main thread only.
 class Velk_AACEncodingViewListeningTestController final : public TabController {
  public:
-  /// Seeds the process-wide random generator with the processor time. The toolkit lives longer than
-  /// the controller.
+  /// Seeds the process-wide random generator with the processor time. `toolkit` must outlive the
+  /// controller.
   explicit Velk_AACEncodingViewListeningTestController(ui::Toolkit& toolkit);
   ~Velk_AACEncodingViewListeningTestController() override;
 
@@ -45,14 +45,14 @@ class Velk_AACEncodingViewListeningTestController final : public TabController {
   /// sender gets the results sheet.
   void endTest(ui::Object* sender);
   void toggleLearnMode(ui::Object* sender);
-  /// How many of `trialSize` answers have to be correct.
+  /// How many of `trialSize` answers must be correct.
   std::uint32_t requiredCorrectAnswersForTrialSize(std::uint32_t trialSize) const;
 
   // Results.
   void prepareResultsSheetAndShow();
   void okButtonPressed(ui::Object* sender);
-  /// Asks for a place and writes the results of the last ended test there. A write that fails is
-  /// silent. The controller may be gone when this returns.
+  /// Asks for a file and writes the results of the last finished test to it. A failed write is
+  /// silent. The controller may have been destroyed when this returns.
   void saveResultFile();
 
   // Keyboard.
@@ -94,12 +94,12 @@ class Velk_AACEncodingViewListeningTestController final : public TabController {
   ui::TextField* cyclesField = nullptr;
   ui::TextField* resultsField = nullptr;
   ui::TextField* summaryField = nullptr;
-  /// The cycle now being played, from 1.
+  /// The current cycle, counted from 1.
   std::uint32_t cycle = 1;
   std::uint32_t correctAnswers = 0;
   /// A plays the source and B the encoded signal.
   bool aIsSource = false;
-  /// Number in the proposed name of the next results file.
+  /// The number in the next results file's proposed name.
   std::uint32_t fileID = 1;
   std::optional<TestData> lastTestData;
   /// Expires with the controller, which may happen while a save panel runs.

@@ -6,7 +6,7 @@ namespace velk {
 
 namespace {
 
-Verdict judged(std::uint32_t trials, std::uint32_t correct) {
+Verdict judge(std::uint32_t trials, std::uint32_t correct) {
   return correct < requiredCorrectAnswers(trials) ? Verdict::Failed : Verdict::Passed;
 }
 
@@ -14,12 +14,12 @@ Verdict judged(std::uint32_t trials, std::uint32_t correct) {
 
 Verdict sheetVerdict(std::uint32_t trials, std::uint32_t correct) {
   constexpr std::uint32_t kFewestTrials = 9;
-  return trials < kFewestTrials ? Verdict::Incomplete : judged(trials, correct);
+  return trials < kFewestTrials ? Verdict::Incomplete : judge(trials, correct);
 }
 
 Verdict fileVerdict(std::uint32_t trials, std::uint32_t correct) {
   constexpr std::uint32_t kFewestTrials = 10;
-  return trials < kFewestTrials ? Verdict::Incomplete : judged(trials, correct);
+  return trials < kFewestTrials ? Verdict::Incomplete : judge(trials, correct);
 }
 
 }  // namespace velk

@@ -3,7 +3,7 @@
 #include "view/listening_test/Velk_AACEncodingViewListeningTestController.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
-/// Binding the view to a unit and taking everything down again.
+/// Binds the view to a unit and tears everything down again.
 namespace velk {
 
 namespace {

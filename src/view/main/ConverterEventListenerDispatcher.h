@@ -4,8 +4,8 @@
 
 namespace velk {
 
-/// The view's event listener callback: hands the event to the view, which is the user data. An
-/// exception ends here, in the log.
+/// The view's event listener callback: passes the event to the view, which is `inUserData`.
+/// Exceptions are logged and go no further.
 void ConverterEventListenerDispatcher(void* inUserData, void* inObject,
                                       const AudioUnitEvent* inEvent, UInt64 inEventHostTime,
                                       AudioUnitParameterValue inParameterValue);

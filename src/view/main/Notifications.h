@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// Names of the in-process notifications. Each is posted on the default centre with the view as its
+/// Names of the in-process notifications. Each is posted to the default centre with the view as its
 /// object. The skins export them from the bundle in their toolkit's string type.
 namespace velk {
 

@@ -5,7 +5,7 @@
 namespace velk {
 
 /// The controller of one page of the main view's tab view. It is live between `prepare` and
-/// `cleanup`: only then it observes notifications and runs timers.
+/// `cleanup`: only then does it observe notifications and run timers.
 class TabController : public ui::Object {
  public:
   virtual void prepare() = 0;

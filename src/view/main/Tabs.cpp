@@ -1,10 +1,11 @@
 #include "ui/Sheets.h"
 #include "view/audition/Velk_AACEncodingViewAuditionController.h"
 #include "view/listening_test/Velk_AACEncodingViewListeningTestController.h"
+#include "view/main/RaisedFlag.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
-/// The two tabs: the active role goes from one controller to the other, unless a listening test
-/// runs.
+/// The two tabs: a change passes the active role from one controller to the other, unless a
+/// listening test is running.
 namespace velk {
 
 TabController* Velk_AUAACConverterCustomView::controllerForTabAtIndex(int index) const {
@@ -50,12 +51,13 @@ void Velk_AUAACConverterCustomView::showEndTestAlert(ui::TabViewItem* requestedI
       localized("Stop"),
       localized("You are currently performing a listening test. Would you like to stop the test?"),
   };
-  isAlertOpen_ = true;
+  RaisedFlag open(isAlertOpen_);
   toolkit_.sheets.beginAlertSheet(
       texts, *settingsButton, whileInUse([this, requestedItem](ui::Window& alert, int returnCode) {
         isAlertOpen_ = false;
         testAlertSheetDidEnd(alert, returnCode, requestedItem);
       }));
+  open.keep();
 }
 
 void Velk_AUAACConverterCustomView::testAlertSheetDidEnd(ui::Window& sheet, int returnCode,

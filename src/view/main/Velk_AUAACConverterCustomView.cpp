@@ -1,7 +1,8 @@
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
 #include "ui/Bundle.h"
-#include "view/main/StringsTable.h"
+#include "ui/Captions.h"
+#include "ui/Log.h"
 
 namespace velk {
 
@@ -17,7 +18,7 @@ Velk_AUAACConverterCustomView::Velk_AUAACConverterCustomView(ui::NativeView& nat
 
 Velk_AUAACConverterCustomView::~Velk_AUAACConverterCustomView() {
   if (!isTornDown()) {
-    cleanup();
+    ui::guarded([this] { cleanup(); });
   }
   // A unit may have been bound after the teardown.
   priv_removeListeners();
@@ -27,13 +28,13 @@ Velk_AUAACConverterCustomView::~Velk_AUAACConverterCustomView() {
 }
 
 void Velk_AUAACConverterCustomView::declareConnections() {
-  connections_.outlet("settingsButton", settingsButton);
-  connections_.outlet("encoderPopup", encoderPopup);
-  connections_.outlet("tabView", tabView);
+  connections_.addOutlet("settingsButton", settingsButton);
+  connections_.addOutlet("encoderPopup", encoderPopup);
+  connections_.addOutlet("tabView", tabView);
   const auto action = [this](const char* selector,
                              void (Velk_AUAACConverterCustomView::*operation)(ui::Object*)) {
-    connections_.action(selector,
-                        [this, operation](ui::Object* sender) { (this->*operation)(sender); });
+    connections_.addAction(selector,
+                           [this, operation](ui::Object* sender) { (this->*operation)(sender); });
   };
   action("setOndaraPlusEncoder:", &Velk_AUAACConverterCustomView::setOndaraPlusEncoder);
   action("set128KAACPreset:", &Velk_AUAACConverterCustomView::set128KAACPreset);
@@ -53,7 +54,7 @@ void Velk_AUAACConverterCustomView::setControllers(const Controllers& controller
 }
 
 std::string Velk_AUAACConverterCustomView::localized(std::string_view key) const {
-  return toolkit_.bundle.localizedString(key, kStringsTable);
+  return toolkit_.bundle.localizedString(key, ui::kStringsTable);
 }
 
 }  // namespace velk

@@ -23,20 +23,20 @@ class Velk_AACEncodingViewListeningTestController;
 class Velk_AACEncodingViewSettingsController;
 class TabController;
 
-/// The main view: bound to one converter unit, which everybody else reaches only through it. Owner
-/// of the four controllers' work, though the interface file owns the controllers. Main thread only.
+/// The main view, bound to one converter unit that everybody else reaches only through it. It
+/// directs the four controllers, which the interface file owns. Main thread only.
 ///
-/// The operations of the encoder menu are implemented in encoder/, those of the keys in keys/.
+/// The operations of the encoder menu are implemented in encoder_menu/, those of the keys in keys/.
 class Velk_AUAACConverterCustomView final : public ui::Object,
                                             public ui::CustomView,
                                             public ui::TabViewDelegate {
  public:
-  /// `initWithFrame:`. Both references live longer than the view.
+  /// `initWithFrame:`. Both must outlive the view.
   Velk_AUAACConverterCustomView(ui::NativeView& native, ui::Toolkit& toolkit);
-  /// Runs `cleanup` unless the view has left its superview before.
+  /// Runs `cleanup` unless the view has already left its superview; logs what that throws.
   ~Velk_AUAACConverterCustomView() override;
 
-  /// The controllers that the interface file created; they live as long as the view.
+  /// The controllers that the interface file created; they must outlive the view.
   struct Controllers {
     Velk_AACEncodingViewAuditionController* auditionController;
     Velk_AACEncodingViewListeningTestController* listeningTestController;
@@ -50,11 +50,11 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   ui::Toolkit& toolkit() const { return toolkit_; }
 
   // Binding and teardown.
-  /// Binds the view to a unit, which is not owned and has to live until the teardown. An assertion
-  /// failure when a parameter cannot be read. May be called again for another unit.
+  /// Binds the view to a unit, which is not owned and must live until the teardown. A parameter
+  /// that cannot be read is an assertion failure. May be called again for another unit.
   void setAU(AudioUnit unit);
-  /// Unbinds and ends everything that runs; what is pending then never happens. Once per view: when
-  /// it has left its superview or, failing that, when it is destroyed.
+  /// Unbinds, ends everything that runs and cancels what is pending. Runs once per view: when it
+  /// leaves its superview or, failing that, when it is destroyed.
   void cleanup();
 
   // What the toolkit sends.
@@ -77,7 +77,7 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   void monitorEncoder(bool encoded);
 
   void showHelp(ui::Object* sender);
-  /// Points. The only way in which the system itself changes the view's size.
+  /// In points. The only way in which the view changes its own size.
   void changeHeight(double height);
 
   // Typed access to the converter. A parameter that cannot be read or written is an assertion
@@ -88,10 +88,10 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   void setFormat(float format);
   float getStrategy() const;
   void setStrategy(float strategy);
-  /// Index into `bitRates`; refused with a log line, and 0.0, while the strategy is VBR.
+  /// Index into `bitRates`. Refused with a log line, reading as 0.0, while the strategy is VBR.
   float getRate() const;
   void setRate(float rate);
-  /// Refused with a log line, and 0.0, unless the strategy is VBR.
+  /// Refused with a log line, reading as 0.0, unless the strategy is VBR.
   float getQuality() const;
   void setQuality(float quality);
   /// Channels of the unit's output, 0 on any error.
@@ -108,7 +108,7 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   void priv_addListenerForParameter(AudioUnitParameterID parameter, AudioUnitScope scope,
                                     AudioUnitElement element);
   void priv_removeListeners();
-  /// Turns one event into a refresh or a notification about `object`, the registered one.
+  /// Turns one event into a refresh or a notification about the registered `object`.
   void priv_eventListener(void* object, const AudioUnitEvent& event, float value);
 
   // Encoder menu.
@@ -145,7 +145,7 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   bool unitOffersHEV2() const;
   void attachSetting(int tag, const ui::Dictionary& setting);
   bool isTornDown() const { return inUse_ == nullptr; }
-  /// The work as an end function that does nothing any more after the teardown.
+  /// `work` as an end function that does nothing after the teardown.
   template <class Work>
   auto whileInUse(Work work) const {
     return
@@ -176,13 +176,13 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   bool hasHEV2_ = false;
   bool allowSizeChange = false;
   KeyBindings keyBindings_;
-  /// The tab controllers know their owner: there is something to tear down.
+  /// Whether the tab controllers know their owner, so that there is something to tear down.
   bool hasBeenBound_ = false;
   bool isAlertOpen_ = false;
   std::unique_ptr<ui::Deferred> pendingExpand_;
   /// Null after the teardown.
   std::shared_ptr<const bool> inUse_;
-  /// For work that may end in the destruction of the view: never null.
+  /// Never null. Expires for work that outlives the view.
   const std::shared_ptr<const bool> exists_;
 };
 

@@ -1,8 +1,9 @@
 #include "view/audition/Velk_AACEncodingViewAuditionController.h"
 #include "view/audition/ViewHeight.h"
+#include "view/main/RaisedFlag.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
-/// The view has no free size: a size that somebody else asks for stands for a page or the details.
+/// The view's size is not free: a size requested from outside stands for a page or the details.
 namespace velk {
 
 namespace {
@@ -12,9 +13,8 @@ constexpr int kListeningTestPage = 1;
 }  // namespace
 
 void Velk_AUAACConverterCustomView::changeHeight(double height) {
-  allowSizeChange = true;
+  const RaisedFlag gate(allowSizeChange);
   setFrameSize({native_.frameSize().width, height});
-  allowSizeChange = false;
 }
 
 void Velk_AUAACConverterCustomView::setFrameSize(ui::Size size) {

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 #include "skins/appkit/AppKitRunLoop.h"
 #include "skins/appkit/Clock.h"
@@ -15,11 +16,13 @@
 #include "skins/appkit/FoundationLocalization.h"
 #include "skins/appkit/FoundationNotificationCenter.h"
 #include "skins/appkit/FoundationTextFile.h"
+#include "skins/appkit/LevelFormatter.h"
 #include "skins/appkit/MainThread.h"
 #include "skins/appkit/Strings.h"
 #include "ui/AssertionHandler.h"
 #include "ui/Bundle.h"
 #include "ui/TextFile.h"
+#include "view/fakes/LogCapture.h"
 #include "view/listening_test/ResultsText.h"
 #include "view/listening_test/TestTexts.h"
 
@@ -166,6 +169,51 @@ TEST(NotificationCenter, LetsAnExceptionOfAnObserverReachWhoeverPosted) {
     center.removeObserver(&calls);
     center.post("one", &calls);
     EXPECT_EQ(calls, 1);
+  });
+}
+
+TEST(NotificationCenter, LogsAnExceptionWhenAHostPostsWithoutIt) {
+  onMain([] {
+    fakes::CallLog calls;
+    const fakes::LogCapture log(calls);
+    ui::appkit::FoundationNotificationCenter center;
+    int heard = 0;
+    center.addObserver(&heard, "one", nullptr, [&](const ui::Notification&) {
+      ++heard;
+      throw std::runtime_error("observer");
+    });
+    [[NSNotificationCenter defaultCenter] postNotificationName:@"one" object:nil];
+    EXPECT_THAT(log.lines(), testing::ElementsAre(testing::HasSubstr("observer")));
+    // It still hears what comes later.
+    [[NSNotificationCenter defaultCenter] postNotificationName:@"one" object:nil];
+    EXPECT_THROW(center.post("one", &heard), std::runtime_error);
+    EXPECT_EQ(heard, 3);
+    center.removeObserver(&heard);
+  });
+}
+
+TEST(Boundary, EndsAnExceptionOfFoundationToo) {
+  onMain([] {
+    fakes::CallLog calls;
+    const fakes::LogCapture log(calls);
+    ui::guarded([] { [NSException raise:NSGenericException format:@"no luck"]; });
+    EXPECT_EQ(log.lines().size(), 1U);
+  });
+}
+
+TEST(LevelFormatter, ShowsThePlainNumberWhereTheTextCannotBeMade) {
+  class NoText final : public ui::appkit::LevelText {
+   public:
+    std::string text(double /*level*/) const override { throw std::runtime_error("no text"); }
+  };
+  onMain([] {
+    fakes::CallLog calls;
+    const fakes::LogCapture log(calls);
+    const NoText noText;
+    Velk_LevelFormatter* formatter = [[[Velk_LevelFormatter alloc] init] autorelease];
+    [formatter setLevelText:&noText];
+    EXPECT_EQ(utf8([formatter stringForObjectValue:[NSNumber numberWithInt:-3]]), "-3");
+    EXPECT_THAT(log.lines(), testing::ElementsAre(testing::HasSubstr("no text")));
   });
 }
 

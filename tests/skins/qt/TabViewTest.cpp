@@ -133,6 +133,12 @@ TEST_F(TabView, KeepsThePageWhenTheDelegateThrowsAtAClick) {
   EXPECT_THAT(log.lines(), ElementsAre(testing::HasSubstr("the delegate failed")));
 }
 
+TEST_F(TabView, LetsCodeThatSelectsHaveTheExceptionAndKeepsThePage) {
+  fails_ = true;
+  EXPECT_THROW(view_->selectItemAtIndex(1), std::runtime_error);
+  expectSelected(0);
+}
+
 TEST_F(TabView, NeedsNoDelegate) {
   view_->setDelegate(nullptr);
   click(1);

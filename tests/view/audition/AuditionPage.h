@@ -12,7 +12,7 @@
 
 namespace audition_test {
 
-/// A bound view over fakes with the audition page shown; what binding caused is over.
+/// A bound view over fakes that shows the audition page; what binding caused has arrived.
 class AuditionPage {
  public:
   explicit AuditionPage(UInt32 channels = 2) : unit(record.calls) {

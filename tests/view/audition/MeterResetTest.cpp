@@ -127,7 +127,7 @@ TEST(MeterReset, TakesBackTheHeldValuesOfBothSets) {
   page.view->view().setAU(&page.unit);
   page.record.calls.clear();
   page.poll();
-  // The lamps were darkened and the held values are gone, so everything is written anew.
+  // The lamps were darkened and the held values are gone, so everything is written again.
   EXPECT_THAT(page.writes(), SizeIs(2 + 8 * 3 + 8 * 2));
   page.view.reset();
 }

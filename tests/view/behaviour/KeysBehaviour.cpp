@@ -63,7 +63,7 @@ TEST(Keys, LettersChooseWhatIsHeardOnTheTestPage) {
   EXPECT_EQ(stage->state("listeningTestController.bButton"), 0);
   EXPECT_EQ(stage->state("listeningTestController.sourceButton"), 1);
   EXPECT_EQ(stage->unit().monitorSource, 1U);
-  // Pressed again it leaves on what is on.
+  // Pressed again, it leaves the button on.
   stage->pressKey(kKeyS);
   EXPECT_EQ(stage->state("listeningTestController.sourceButton"), 1);
 }

@@ -263,7 +263,7 @@ TEST(LearningMode, DiscardsEverythingButTheRunningTestWhenItIsSwitchedOff) {
   EXPECT_EQ(stage->text(kResults), kAborted);
 }
 
-/// A folder that goes with the test.
+/// A folder that is removed with the test.
 class ResultsFile : public testing::Test {
  protected:
   ResultsFile()

@@ -28,9 +28,9 @@ inline constexpr std::chrono::milliseconds kSettled{120};
 /// would. Behaviour is written once against this interface; every skin brings a stage of its own.
 ///
 /// Controls are named by the outlet that they fill: "auditionController.monitorControl",
-/// "view.encoderPopup". An unknown name is an error of the test and throws.
+/// "view.encoderPopup". An unknown name throws.
 ///
-/// The view is in a window, audition page shown, and everything that binding caused has arrived.
+/// The view is in a window and shows the audition page; everything that binding caused has arrived.
 class Stage {
  public:
   virtual ~Stage() = default;
@@ -55,7 +55,7 @@ class Stage {
   virtual void confirmResults() = 0;
   /// Answers the alert that is open.
   virtual void answerAlert(bool stop) = 0;
-  /// What the next save panel answers; nothing stands for Cancel.
+  /// The answer of the next save panel; no value means Cancel.
   virtual void willSaveTo(std::optional<std::filesystem::path> file) = 0;
 
   // What a host does.
@@ -100,7 +100,7 @@ class Stage {
 /// A unit before it is bound: channel count, first values and failures to set up.
 using PrepareUnit = std::function<void(fakes::FakeConverter&)>;
 
-/// Sets the stage for the skin under test, English texts and numbers.
+/// Sets the stage for the skin under test, with English texts and numbers.
 std::unique_ptr<Stage> setStage(const PrepareUnit& prepare = {});
 
 }  // namespace behaviour

@@ -1,4 +1,5 @@
 #include <limits>
+#include <stdexcept>
 
 #include "view/fakes/ViewTest.h"
 
@@ -65,6 +66,15 @@ TEST_F(CustomEncoderSheet, DoesNotOpenWhenTheSettingCannotBeRead) {
   unit.hostSetsParameter(velk::kConverterParam_RateQuality, 3);
   settle();
   EXPECT_EQ(view().getEncoderName(), "AAC VBRC 32 Kbps");
+}
+
+TEST_F(CustomEncoderSheet, ThatCannotBeShownLeavesTheMenuToFollowTheConverter) {
+  bindWith({0, 1, 12});
+  bound->toolkit.sheets.cannotOpen = true;
+  EXPECT_THROW(view().setCustomEncoder(nullptr), std::runtime_error);
+  unit.hostSetsSetting({0, 2, 77});
+  settle();
+  EXPECT_EQ(view().getEncoderName(), "AAC VBR Quality: 77");
 }
 
 TEST_F(CustomEncoderSheet, RemovesHEv2BeforeItShowsTheSetting) {

@@ -29,7 +29,7 @@ std::string name(float value, const std::vector<std::string>& names) {
   return "-";
 }
 
-/// What the menu has to hold, told as plainly as can be.
+/// A plain model of what the menu must hold.
 class Model {
  public:
   struct Item {
@@ -75,7 +75,7 @@ class Model {
     const std::string start = name(setting.format, {"AAC", "AAC HE", "AAC HEv2"}) + " " +
                               name(setting.strategy, {"ABR", "VBRC", "VBR"}) + " ";
     if (setting.strategy == 2.0F) {
-      // A rate that no item stood for may be left when the strategy becomes VBR.
+      // A rate without an item may remain when the strategy becomes VBR.
       return start + "Quality: " +
              (setting.rateQuality < 0 ? "-"
                                       : std::to_string(static_cast<int>(setting.rateQuality)));

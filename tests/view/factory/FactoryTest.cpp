@@ -71,27 +71,63 @@ TEST_F(Factory, CanLoadAgainAfterAFault) {
   EXPECT_NE(factory->uiViewForAudioUnit(&unit, {}), nullptr);
 }
 
-/// Fails after the objects have been made, with their outlets empty.
-class HalfwayLoader final : public ui::InterfaceLoader {
+/// Throws once the objects have been made.
+template <class Thrown>
+class ThrowingLoader final : public ui::InterfaceLoader {
  public:
-  HalfwayLoader(fakes::CallLog& log, fakes::FakeToolkit& toolkit) : log_(log), toolkit_(toolkit) {}
+  ThrowingLoader(fakes::CallLog& log, fakes::FakeToolkit& toolkit, Thrown thrown)
+      : log_(log), toolkit_(toolkit), thrown_(std::move(thrown)) {}
   std::unique_ptr<ui::NativeView> loadNibNamed(
       std::string_view /*name*/, const ui::MakeInterfaceObjects& makeObjects) override {
     auto view = std::make_unique<fakes::FakeNativeView>(log_, toolkit_);
     view->setObjects(makeObjects(*view, toolkit_.services));
-    throw ui::InterfaceError("the outlet view.tabView stays empty");
+    throw Thrown(thrown_);
   }
 
  private:
   fakes::CallLog& log_;
   fakes::FakeToolkit& toolkit_;
+  Thrown thrown_;
 };
 
-TEST_F(Factory, DisposesOfAViewWhoseOutletsWereNeverFilled) {
-  velk::Velk_AUAACConverterFactory halfway(std::make_unique<HalfwayLoader>(record.calls, toolkit));
-  EXPECT_EQ(halfway.uiViewForAudioUnit(&unit, {}), nullptr);
+class FactoryWhoseLoaderThrows : public Factory {
+ protected:
+  template <class Thrown>
+  std::unique_ptr<ui::NativeView> viewAfter(Thrown thrown) {
+    velk::Velk_AUAACConverterFactory throwing(
+        std::make_unique<ThrowingLoader<Thrown>>(record.calls, toolkit, std::move(thrown)));
+    return throwing.uiViewForAudioUnit(&unit, {});
+  }
+};
+
+TEST_F(FactoryWhoseLoaderThrows, DisposesOfAViewWhoseOutletsWereNeverFilled) {
+  EXPECT_EQ(viewAfter(ui::InterfaceError("file.ui: the outlet view.tabView stays empty")), nullptr);
+  EXPECT_THAT(record.log.lines(), ElementsAre("Unable to load nib for view.",
+                                              "file.ui: the outlet view.tabView stays empty"));
+}
+
+TEST_F(FactoryWhoseLoaderThrows, NamesTheFileForAnExceptionThatDoesNot) {
+  EXPECT_EQ(viewAfter(std::runtime_error("out of handles")), nullptr);
+  EXPECT_THAT(record.log.lines(), ElementsAre("Unable to load nib for view.",
+                                              "Velk_NordaAACConverter: out of handles"));
+}
+
+TEST_F(FactoryWhoseLoaderThrows, GivesNullAndNamesTheFileWhateverIsThrown) {
+  EXPECT_EQ(viewAfter(7), nullptr);
   EXPECT_THAT(record.log.lines(),
-              ElementsAre("Unable to load nib for view.", "the outlet view.tabView stays empty"));
+              ElementsAre("Unable to load nib for view.",
+                          "Velk_NordaAACConverter: exception of an unknown type"));
+  EXPECT_THAT(record.calls.starting("unit."), IsEmpty());
+}
+
+TEST_F(Factory, ThrowsNothingAtTheHostWhenTheLogItselfThrows) {
+  loader->fault = "broken";
+  const ui::LogSink earlier =
+      ui::setLogSink([](std::string_view) { throw std::runtime_error("the host's log"); });
+  EXPECT_EQ(factory->uiViewForAudioUnit(&unit, {}), nullptr);
+  loader->fault.reset();
+  EXPECT_EQ(factory->uiViewForAudioUnit(nullptr, {}), nullptr);
+  ui::setLogSink(earlier);
 }
 
 TEST_F(Factory, GivesNullAndLogsWhenAParameterCannotBeReadWhileBinding) {

@@ -17,12 +17,12 @@
 
 namespace fakes {
 
-/// A view that the real factory made over the fake toolkit, bound to a unit, in a window. The unit
-/// has to outlive it.
+/// A view that the real factory made over the fake toolkit, bound to a unit and in a window. The
+/// unit must outlive it.
 class BoundView {
  public:
   BoundView(Record& record, FakeConverter& unit);
-  /// Texts and numbers of another language.
+  /// With texts and numbers of another language.
   BoundView(Record& record, FakeConverter& unit, const std::filesystem::path& resources,
             const std::string& language, const std::string& locale);
 

@@ -23,7 +23,7 @@ class CallLog {
   const std::vector<std::string>& lines() const { return lines_; }
   void clear() { lines_.clear(); }
 
-  /// The lines that begin with one of the prefixes, in order.
+  /// The lines that start with one of the prefixes, in order.
   template <class... Prefixes>
   std::vector<std::string> starting(const Prefixes&... prefixes) const {
     std::vector<std::string> found;

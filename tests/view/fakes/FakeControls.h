@@ -13,7 +13,7 @@
 /// what a user does is a `user…` operation, which is not recorded and sends the action.
 namespace fakes {
 
-/// What all controls have.
+/// What all controls share.
 template <class Base>
 class FakeControl : public Base {
  public:

@@ -14,9 +14,9 @@ namespace fakes {
 
 enum class UnitCall { GetParameter, SetParameter, GetProperty, SetProperty };
 
-/// A converter unit without audio: it honours the contract, records every call, fails where it is
-/// told to, and announces what a real unit announces. Its state is free for a test to set; setting
-/// it so announces nothing.
+/// A converter unit without audio: it honours the contract, records every call, fails when told
+/// to, and announces what a real unit announces. A test may set its state directly, which announces
+/// nothing.
 ///
 /// A write of format or strategy announces the rate-or-quality parameter too, with no sender,
 /// because its meaning may have changed.
@@ -40,7 +40,7 @@ class FakeConverter final : public audio_unit::Unit {
   velk::PeakStatistics statistics;
   UInt32 channels = 2;
   float maximumFormat = 2.0F;
-  /// The settings of the factory presets; nothing stands for a null element.
+  /// The settings of the factory presets; no value stands for a null element.
   std::vector<std::optional<Setting>> presets;
   /// False: the read of the preset list succeeds and yields no array.
   bool givesPresetList = true;
@@ -61,7 +61,7 @@ class FakeConverter final : public audio_unit::Unit {
   /// Announces a change without making one, with no sender.
   void announce(AudioUnitParameterID id);
   void announceChangeOf(AudioUnitPropertyID id) { announceProperty(id); }
-  /// Tells listeners of a gesture on the parameter.
+  /// Announces a gesture on the parameter.
   void hostMakesGesture(AudioUnitParameterID id);
 
   // audio_unit::Unit
@@ -90,7 +90,7 @@ class FakeConverter final : public audio_unit::Unit {
   CallLog& log_;
   std::map<std::pair<UnitCall, UInt32>, Failure> failures_;
   bool fromHost_ = false;
-  /// The value that goes into an announcement is being read.
+  /// Set while the value for an announcement is read.
   bool announcing_ = false;
   std::vector<AUPreset> presetRecords_;
   CFStringRef presetName_;

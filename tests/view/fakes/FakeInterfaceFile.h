@@ -6,7 +6,7 @@
 namespace fakes {
 
 /// Does what the interface file says beyond "there is a control for every outlet": menus, tags,
-/// which button is an on/off button, which control sends which action, and the state at the start.
+/// which button is an on/off button, which control sends which action, and the initial state.
 /// Throws `ui::InterfaceError` for an action or a control that does not exist.
 void layOutInterface(FakeNativeView& view, CallLog& log);
 

@@ -19,7 +19,7 @@ class FakeInterfaceLoader final : public ui::InterfaceLoader {
   FakeInterfaceLoader(CallLog& log, FakeToolkit& toolkit);
   ~FakeInterfaceLoader() override;
 
-  /// The next loads fail with this message.
+  /// While set, loading fails with this message.
   std::optional<std::string> fault;
 
   std::unique_ptr<ui::NativeView> loadNibNamed(

@@ -1,5 +1,6 @@
 #include "view/fakes/FakeNativeView.h"
 
+#include <stdexcept>
 #include <utility>
 
 namespace fakes {
@@ -53,6 +54,9 @@ void FakeNativeView::setFrameSizeObserver(std::function<void(ui::Size)> observer
 
 void FakeNativeView::applyFrameSize(ui::Size size) {
   log_.add("native.applyFrameSize ", size.width, " x ", size.height);
+  if (cannotResize) {
+    throw std::runtime_error("the view cannot be resized");
+  }
   const bool changed = size != size_;
   size_ = size;
   if (changed && observer_) {

@@ -19,7 +19,7 @@ class FakeNativeView final : public ui::NativeView {
   FakeNativeView(CallLog& log, FakeToolkit& toolkit);
   ~FakeNativeView() override;
 
-  /// What a host does: puts the view under a parent, in a window or not.
+  /// Puts the view under a parent as a host does, in a window or not.
   void moveToSuperview(bool inWindow);
   void removeFromSuperview();
   /// Presses the key at that position.
@@ -32,6 +32,9 @@ class FakeNativeView final : public ui::NativeView {
     return dynamic_cast<Control&>(*controls_.at(std::string(name)));
   }
   bool has(std::string_view name) const { return controls_.contains(std::string(name)); }
+
+  /// Whether `applyFrameSize` throws.
+  bool cannotResize = false;
 
   ui::InterfaceObjects& objects() { return *objects_; }
   void setObjects(std::unique_ptr<ui::InterfaceObjects> objects);
@@ -52,7 +55,7 @@ class FakeNativeView final : public ui::NativeView {
   bool hasWindow_ = false;
   std::function<void(ui::Size)> observer_;
   std::map<std::string, std::unique_ptr<ui::Object>> controls_;
-  /// After the controls: the objects still use them when they go.
+  /// After the controls, which the objects still use while they are destroyed.
   std::unique_ptr<ui::InterfaceObjects> objects_;
 };
 

@@ -14,7 +14,7 @@ class FakeMenuItem final : public ui::MenuItem {
   FakeMenuItem(CallLog& log, std::string menu, std::string title, int tag = 0);
 
   bool isSeparator() const { return title_.empty(); }
-  /// Whether the item has an action of its own; if so sends it.
+  /// Sends the item's own action; false if it has none.
   bool sendOwnAction();
 
   std::string title() const override { return title_; }

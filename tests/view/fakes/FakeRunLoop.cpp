@@ -121,7 +121,7 @@ void FakeRunLoop::advance(std::chrono::milliseconds time) {
     if (next > end) {
       break;
     }
-    // Events that became due in this very instant have been delivered: the clock has to move on.
+    // Events due at this instant have been delivered: the clock must move on.
     now_ = std::max(next, now_);
     fireTimersDue();
     const TimePoint nextEvent = turn(never);

@@ -20,9 +20,9 @@ class FakeRunLoop final : public ui::RunLoop {
   explicit FakeRunLoop(CallLog& log);
   ~FakeRunLoop() override;
 
-  /// Turns the loop and fires what falls due, in order of time.
+  /// Lets time pass; whatever falls due fires in order.
   void advance(std::chrono::milliseconds time);
-  /// Timers fire only in the modes that they were given. The default mode at first.
+  /// At first the default mode. Timers fire only in the modes that they were added to.
   void setMode(ui::RunLoopMode mode) { mode_ = mode; }
   TimePoint now() const { return now_; }
   int runningTimers() const;
@@ -37,7 +37,7 @@ class FakeRunLoop final : public ui::RunLoop {
   class FakeTimer;
   class FakeDeferred;
 
-  /// Does the work that waits and delivers unit events; when the next event is due.
+  /// Does waiting work and delivers unit events. Returns when the next event is due.
   TimePoint turn(TimePoint latest);
   void fireTimersDue();
 

@@ -31,7 +31,7 @@ void FakeSheets::answerAlert(int code) {
 }
 
 void FakeSheets::cancelAll() {
-  for (const auto& [sheet, didEnd] : std::exchange(begun_, {})) {
+  for (const auto& [sheet, didEnd] : std::exchange(open_, {})) {
     sheet->visible = false;
   }
   alertEnd_ = {};
@@ -41,19 +41,20 @@ void FakeSheets::beginSheet(ui::Sheet& sheet, ui::View& control,
                             std::function<void(int code)> didEnd) {
   auto& fake = dynamic_cast<FakeSheet&>(sheet);
   log_.add("sheets.beginSheet ", fake.name(), " over ", nameOf(control));
+  requireOpening();
   fake.visible = true;
-  begun_[&fake] = std::move(didEnd);
+  open_[&fake] = std::move(didEnd);
 }
 
 void FakeSheets::endSheet(ui::Sheet& sheet, int code) {
   auto& fake = dynamic_cast<FakeSheet&>(sheet);
   log_.add("sheets.endSheet ", fake.name(), " ", code);
-  const auto found = begun_.find(&fake);
-  if (found == begun_.end()) {
+  const auto found = open_.find(&fake);
+  if (found == open_.end()) {
     return;
   }
   const std::function<void(int)> didEnd = std::move(found->second);
-  begun_.erase(found);
+  open_.erase(found);
   if (didEnd) {
     didEnd(code);
   }
@@ -68,8 +69,15 @@ void FakeSheets::orderOut(ui::Sheet& sheet) {
 void FakeSheets::beginAlertSheet(const ui::AlertTexts& texts, ui::View& control,
                                  std::function<void(ui::Window& alert, int code)> didEnd) {
   log_.add("sheets.beginAlertSheet over ", nameOf(control));
+  requireOpening();
   alertTexts_ = texts;
   alertEnd_ = std::move(didEnd);
+}
+
+void FakeSheets::requireOpening() const {
+  if (cannotOpen) {
+    throw std::runtime_error("the window cannot be opened");
+  }
 }
 
 std::optional<std::filesystem::path> FakeSheets::runSavePanel(const ui::SavePanelTexts& texts,

@@ -35,9 +35,11 @@ class FakeSheets final : public ui::Sheets {
   const ui::AlertTexts& alertTexts() const { return alertTexts_; }
   void answerAlert(int code);
 
-  /// What every save panel from now on answers; nothing stands for Cancel.
+  /// Whether `beginSheet` and `beginAlertSheet` throw.
+  bool cannotOpen = false;
+  /// The answer of every save panel from now on; no value means Cancel.
   std::optional<std::filesystem::path> saveAnswer;
-  /// Called while a save panel is shown, if set.
+  /// If set, called while a save panel is shown.
   std::function<void()> whileSavePanelRuns;
   const std::vector<ui::SavePanelTexts>& savePanels() const { return savePanels_; }
 
@@ -54,8 +56,10 @@ class FakeSheets final : public ui::Sheets {
                                                     ui::View& control) override;
 
  private:
+  void requireOpening() const;
+
   CallLog& log_;
-  std::map<FakeSheet*, std::function<void(int code)>> begun_;
+  std::map<FakeSheet*, std::function<void(int code)>> open_;
   ui::AlertTexts alertTexts_;
   std::function<void(ui::Window& alert, int code)> alertEnd_;
   std::vector<ui::SavePanelTexts> savePanels_;

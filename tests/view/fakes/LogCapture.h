@@ -10,7 +10,7 @@
 
 namespace fakes {
 
-/// Takes the system log's lines as long as it lives; each also goes to the call log as "log: …".
+/// Captures the system log while it lives; each line is also added to the call log as "log: …".
 class LogCapture {
  public:
   explicit LogCapture(CallLog& calls) {

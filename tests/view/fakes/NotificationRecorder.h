@@ -11,8 +11,8 @@
 
 namespace fakes {
 
-/// Observes all of the view's notifications from every object as long as it lives. Each also goes
-/// to the call log as "posted …".
+/// Observes all of the view's notifications from every object while it lives. Each is also added to
+/// the call log as "posted …".
 class NotificationRecorder {
  public:
   explicit NotificationRecorder(CallLog& calls) {

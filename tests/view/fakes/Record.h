@@ -6,8 +6,7 @@
 
 namespace fakes {
 
-/// One log for all that happens to the views of a test, with the capture of the system log and of
-/// notifications.
+/// One log of all that happens to the views of a test, the system log and notifications included.
 struct Record {
   CallLog calls;
   LogCapture log{calls};

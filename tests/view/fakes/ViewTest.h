@@ -22,7 +22,7 @@ class ViewTest : public testing::Test {
  protected:
   ViewTest() : unit(record.calls) {}
 
-  /// Binds a view; what binding caused is over and forgotten.
+  /// Binds a view, lets everything that this causes arrive, and forgets it.
   void bind() {
     bound = std::make_unique<BoundView>(record, unit);
     settle();
@@ -39,7 +39,7 @@ class ViewTest : public testing::Test {
     record.log.clear();
     record.notifications.clear();
   }
-  /// What was written to the unit by anybody but the host.
+  /// Writes to the unit by anybody but the host.
   std::vector<std::string> writes() const { return record.calls.starting("unit.set"); }
 
   Record record;
@@ -47,7 +47,7 @@ class ViewTest : public testing::Test {
   std::unique_ptr<BoundView> bound;
 };
 
-/// Takes assertion failures down instead of throwing them, as long as it lives.
+/// Records assertion failures instead of throwing them while it lives.
 class QuietAssertions final : public ui::AssertionHandler {
  public:
   QuietAssertions() { ui::AssertionHandler::setCurrentHandler(this); }

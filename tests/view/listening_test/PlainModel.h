@@ -7,11 +7,11 @@
 
 namespace listening_test {
 
-/// What a view shows and a unit holds, as far as a listening test is concerned; one value a line.
+/// What a view shows and a unit holds, as far as a listening test is concerned; one value per line.
 using Sight = std::vector<std::string>;
 
-/// The listening test told a second time, without controls, notifications or a unit: each operation
-/// is something that a user, a host or the unit does.
+/// A second, plain implementation of the listening test, without controls, notifications or a unit:
+/// each operation is something that a user, a host or the unit does.
 class PlainModel {
  public:
   /// The newest draw: whether the next test cycle makes A the source.
@@ -45,7 +45,7 @@ class PlainModel {
   void hostSetsTest(bool active);
   void unitRefusesNextMonitorWrite() { refusesMonitor_ = true; }
   void unitRefusesNextTestWrite() { refusesTest_ = true; }
-  /// What the unit announced arrives.
+  /// The unit's announcements arrive.
   void settles();
 
   int tab() const { return tab_; }

@@ -5,7 +5,7 @@
 
 namespace listening_test {
 
-/// The correct answers that a test of that many needs, told a second time.
+/// A second table of the correct answers that a test of that many trials needs.
 inline std::uint32_t requiredAnswers(std::uint32_t trials) {
   constexpr std::array<std::uint32_t, 21> table = {
       14, 14, 14, 14, 14, 14, 14, 14, 14, 14,     // 0 to 9

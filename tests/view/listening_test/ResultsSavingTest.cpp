@@ -152,7 +152,7 @@ TEST_F(ResultsSaving, ProposesANameInTheUsersLanguage) {
   EXPECT_EQ(page.sheets().savePanels()[0].proposedName, "Résultats-test-écoute-1");
 }
 
-/// The letters that the months' names and the dates' words need.
+/// The letters that names of months and words of dates need.
 std::string inMacRoman(const std::string& utf8) {
   std::string bytes;
   for (std::size_t i = 0; i < utf8.size(); ++i) {

@@ -27,13 +27,13 @@ std::string failed(int required) {
 }
 
 std::string score(int correct, int trials) {
-  // A share just between two percentages becomes the even one.
+  // A share halfway between two percentages rounds to the even one.
   const int percent = static_cast<int>(std::nearbyint(100.0 * correct / trials));
   return std::to_string(correct) + "/" + std::to_string(trials) + " (" + std::to_string(percent) +
          "% Correct)";
 }
 
-/// A test of that many answers, beyond what a test outside learning mode can have.
+/// A test of that many answers, which may be more than is possible outside learning mode.
 void learn(TestPage& page, int trials, int correct) {
   page.click("learnModeButton");
   page.answerTimes(correct, true);

@@ -18,7 +18,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 namespace fs = std::filesystem;
 
-/// Writes beyond a few bytes fail as on a full disk while it lives.
+/// While it lives, writes beyond a few bytes fail as on a full disk.
 class FullDisk {
  public:
   FullDisk() {
@@ -40,7 +40,7 @@ class FullDisk {
   void (*earlierHandler_)(int);
 };
 
-/// The superuser may write everywhere; he becomes somebody else while this lives.
+/// The superuser may write anywhere, so this makes the process another user while it lives.
 class OrdinaryUser {
  public:
   OrdinaryUser() : changed_(::geteuid() == 0 && ::seteuid(kNobody) == 0) {}
@@ -100,7 +100,7 @@ TEST_F(ResultsSaving, WritesNothingToADeviceThatIsFull) {
   EXPECT_THAT(page.record.log.lines(), IsEmpty());
 }
 
-/// Resources in which a bit rate's encoder name holds a text.
+/// Resources that name every encoder with a bit rate `encoder`.
 fs::path resourcesNaming(const fs::path& folder, const std::string& encoder) {
   fs::create_directories(folder / "resources" / "en.lproj");
   std::ofstream(folder / "resources" / "en.lproj" / "AUDravoAACStrings.strings")

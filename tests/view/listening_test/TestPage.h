@@ -14,8 +14,8 @@
 
 namespace listening_test {
 
-/// A bound view over fakes with the listening-test page shown and a test set up in which A is the
-/// source. Every further draw is made known before the event that causes it.
+/// A bound view over fakes that shows the listening-test page, with a test set up in which A is the
+/// source. Every further draw is fixed before the event that causes it.
 class TestPage {
  public:
   TestPage() : unit(record.calls), view(std::make_unique<fakes::BoundView>(record, unit)) {

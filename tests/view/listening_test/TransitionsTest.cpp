@@ -18,7 +18,7 @@ constexpr std::uint16_t kKeyB = 11;
 constexpr std::uint16_t kKey1 = 18;
 constexpr std::uint16_t kKey2 = 19;
 
-/// All that a listening test is, as far as it shows.
+/// The visible state of a listening test.
 struct State {
   std::string label;
   bool runs = false;
@@ -47,7 +47,7 @@ struct State {
     besideB = verdict;
     return std::move(*this);
   }
-  /// In another cycle than before.
+  /// In a different cycle than before.
   State drawnAnew() && {
     drawn = true;
     return std::move(*this);
@@ -94,7 +94,7 @@ std::string besideOf(TestPage& page, const char* outlet) {
   return field.isHidden() ? "" : field.text();
 }
 
-/// What the event makes of the page. The draw that it may make is known: B is the source.
+/// The page after the event. If the event draws, B becomes the source.
 State stateAfter(TestPage& page, const Event& event) {
   nextDrawMakesASource(false);
   page.record.calls.clear();
@@ -159,7 +159,7 @@ void stopFromAlert(TestPage& page) {
   EXPECT_EQ(page.tabs().indexOfSelectedItem(), 0);
 }
 
-/// What leads to the states in which the transitions begin.
+/// What leads to the states in which the transitions start.
 const Event kReady = [](TestPage&) {};
 const Event kTesting = answers(2, 1);
 const Event kToggleLearning = click("learnModeButton");

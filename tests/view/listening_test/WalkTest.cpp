@@ -26,7 +26,7 @@ std::string shown(bool value) {
   return value ? "yes" : "no";
 }
 
-/// The seed of VELK_WALK_SEED, to repeat a walk, or one by chance.
+/// The seed in VELK_WALK_SEED, to repeat a walk, or a random one.
 std::mt19937::result_type chosenSeed() {
   const char* given = std::getenv("VELK_WALK_SEED");
   return given != nullptr ? static_cast<std::mt19937::result_type>(std::strtoul(given, nullptr, 10))
@@ -45,7 +45,7 @@ class Walk {
   Walk(const Walk&) = delete;
   Walk& operator=(const Walk&) = delete;
 
-  /// One event, and mostly the arrival of what it made the unit announce. The event's name.
+  /// Plays one event, mostly with what it made the unit announce. Returns the event's name.
   std::string step() {
     page_.record.calls.clear();
     model_.nextAIsSource = oneIn(2);
@@ -178,7 +178,7 @@ void Walk::listEvents() {
                clickTab(0),
                clickTab(1)};
   testPage_.insert(testPage_.end(), std::begin(keys), std::end(keys));
-  // Often enough that tests come to their own end.
+  // Often enough for tests to end by themselves.
   testPage_.insert(testPage_.end(), 14, answer(true));
   testPage_.insert(testPage_.end(), 12, answer(false));
   auditionPage_ = {selectSegment(0), selectSegment(1), clickTab(0), clickTab(1), clickTab(1)};
@@ -210,7 +210,7 @@ void Walk::confirmResults() {
     ++filesWritten_;
     std::ifstream stream(file_, std::ios::binary);
     const std::string content{std::istreambuf_iterator<char>(stream), {}};
-    // The head, with the date in it, is another test's.
+    // The head with the date is tested elsewhere.
     if (!content.ends_with("\n" + *expected)) {
       mistakeInFile_ = content;
     }
@@ -269,7 +269,7 @@ TEST(ListeningTest, AgreesWithAPlainModelOverARandomWalk) {
       passes += line.find("95% confidence") != std::string::npos ? 1 : 0;
     }
   }
-  // The walk has to have been where things happen.
+  // The walk must have been where things happen.
   for (const auto& [event, count] : events) {
     EXPECT_GT(count, 10) << event;
   }

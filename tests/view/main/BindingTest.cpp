@@ -99,7 +99,7 @@ TEST_F(Binding, ATestThatRunsElsewhereLeavesTheMenuEnabled) {
 class Rebinding : public fakes::ViewTest {
  protected:
   Rebinding() : other(record.calls) {}
-  /// The view has to go before the units.
+  /// Destroyed before the units.
   ~Rebinding() override { bound.reset(); }
 
   fakes::FakeConverter other;

@@ -1,4 +1,5 @@
 #include <limits>
+#include <stdexcept>
 
 #include "view/fakes/ViewTest.h"
 
@@ -66,6 +67,16 @@ TEST_F(Tabs, OneAlertIsOpenAtATime) {
   sheets().answerAlert(ui::kAlertDefaultReturn);
   tabs().userClicks(0);
   EXPECT_EQ(record.calls.count("sheets.beginAlertSheet"), 2U);
+}
+
+TEST_F(Tabs, AnAlertThatCouldNotBeShownIsShownTheNextTime) {
+  startTest();
+  sheets().cannotOpen = true;
+  EXPECT_THROW(tabs().userClicks(0), std::runtime_error);
+  EXPECT_EQ(tabs().indexOfSelectedItem(), 1);
+  sheets().cannotOpen = false;
+  tabs().userClicks(0);
+  EXPECT_TRUE(sheets().isAlertOpen());
 }
 
 TEST_F(Tabs, EveryAnswerButStopLeavesTheTestAlone) {
@@ -163,6 +174,24 @@ TEST_F(ViewSize, TheOwnHeightKeepsTheWidth) {
   bound->native->setFrameSize({600, 255});
   view().changeHeight(195);
   EXPECT_EQ(bound->native->frameSize(), (ui::Size{600, 195}));
+}
+
+TEST_F(ViewSize, AChangeThatThrowsDoesNotOpenTheViewToOtherSizes) {
+  fakes::FakeNativeView& native = *bound->native;
+  native.setFrameSizeObserver([](ui::Size) { throw std::runtime_error("the host's observer"); });
+  EXPECT_THROW(view().changeHeight(369), std::runtime_error);
+  native.setFrameSizeObserver(nullptr);
+  native.setFrameSize({700, 100});
+  EXPECT_EQ(native.frameSize(), (ui::Size{560, 369}));
+}
+
+TEST_F(ViewSize, AViewThatCannotBeResizedStillRefusesSizesFromOutside) {
+  fakes::FakeNativeView& native = *bound->native;
+  native.cannotResize = true;
+  EXPECT_THROW(view().changeHeight(369), std::runtime_error);
+  native.cannotResize = false;
+  native.setFrameSize({700, 100});
+  EXPECT_EQ(native.frameSize(), (ui::Size{560, 195}));
 }
 
 TEST_F(ViewSize, ARequestThatIsNoNumberIsIgnored) {

@@ -70,6 +70,13 @@ TEST_F(Teardown, HappensInTheDestructorFailingARemoval) {
   EXPECT_THAT(record.calls.starting("posted", "unit."), IsEmpty());
 }
 
+TEST_F(Teardown, ThatThrowsInTheDestructorIsLoggedAndGoesNoFurther) {
+  bound->native->cannotResize = true;
+  bound->native.reset();
+  EXPECT_THAT(record.log.lines(), ElementsAre(testing::HasSubstr("cannot be resized")));
+  EXPECT_EQ(record.calls.lines().back(), "view.tabView.setDelegate none");
+}
+
 TEST_F(Teardown, IsNoMoveToAnotherSuperview) {
   bound->native->moveToSuperview(true);
   bound->native->moveToSuperview(false);

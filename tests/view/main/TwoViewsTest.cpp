@@ -59,7 +59,7 @@ TEST_F(TwoViews, ACustomSettingOfOneEntersTheHistoryOfTheOther) {
   menu().userPicks(menu().numberOfItems() - 1);
   bound->control<fakes::FakePopUpButton>("settingsController.bitratePopup").userPicks(4);
   settle();
-  // The sheet of the one keeps only its own menu still.
+  // The sheet of one view holds back only that view's menu.
   EXPECT_EQ(second->view().getEncoderName(), "AAC VBRC 40 Kbps");
   EXPECT_EQ(menu().numberOfItems(), 6);
   bound->control<fakes::FakeButton>("settingsController.OKButton").userClicks();

@@ -8,6 +8,7 @@
 #include "skins/appkit/FoundationServices.h"
 #include "skins/appkit/Strings.h"
 #include "skins/appkit/bundle/InterfaceClasses.h"
+#include "ui/Log.h"
 #include "view/factory/Velk_AUAACConverterFactory.h"
 
 static_assert(std::is_same_v<AudioUnit, audio_unit::Unit*>);
@@ -22,17 +23,27 @@ using ui::appkit::AppKitView;
 - (instancetype)init {
   self = [super init];
   if (self != nil) {
-    ui::appkit::useFoundationServices();
-    _factory = new velk::Velk_AUAACConverterFactory(
-        std::make_unique<AppKitInterfaceLoader>(AppKitInterfaceLoader::Files{
-            [NSBundle bundleForClass:[self class]],
-            self,
-            @"uiFreshlyLoadedView",
-            {{"view", [Velk_AUAACConverterCustomView class]},
-             {"auditionController", [Velk_AACEncodingViewAuditionController class]},
-             {"listeningTestController", [Velk_AACEncodingViewListeningTestController class]},
-             {"settingsController", [Velk_AACEncodingViewSettingsController class]},
-             {"keyController", [Velk_AACEncodingViewKeyController class]}}}));
+    NSBundle* const bundle = [NSBundle bundleForClass:[self class]];
+    const id owner = self;
+    AUCocoaUIBase* factory = nullptr;
+    ui::guarded([&] {
+      ui::appkit::useFoundationServices();
+      factory = new velk::Velk_AUAACConverterFactory(
+          std::make_unique<AppKitInterfaceLoader>(AppKitInterfaceLoader::Files{
+              bundle,
+              owner,
+              @"uiFreshlyLoadedView",
+              {{"view", [Velk_AUAACConverterCustomView class]},
+               {"auditionController", [Velk_AACEncodingViewAuditionController class]},
+               {"listeningTestController", [Velk_AACEncodingViewListeningTestController class]},
+               {"settingsController", [Velk_AACEncodingViewSettingsController class]},
+               {"keyController", [Velk_AACEncodingViewKeyController class]}}}));
+    });
+    _factory = factory;
+    if (_factory == nullptr) {
+      [self release];
+      return nil;
+    }
   }
   return self;
 }
@@ -51,8 +62,14 @@ using ui::appkit::AppKitView;
 }
 
 - (NSView*)uiViewForAudioUnit:(AudioUnit)unit withSize:(NSSize)size {
-  auto view = _factory->uiViewForAudioUnit(unit, ui::appkit::sizeOf(size));
-  return view ? AppKitView::handOver(std::move(view)) : nil;
+  AUCocoaUIBase& factory = *_factory;
+  NSView* view = nil;
+  ui::guarded([&] {
+    if (auto native = factory.uiViewForAudioUnit(unit, ui::appkit::sizeOf(size))) {
+      view = AppKitView::handOver(std::move(native));
+    }
+  });
+  return view;
 }
 
 @end
