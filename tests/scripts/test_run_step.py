@@ -49,8 +49,9 @@ class AStep(Sandbox):
         self.assertEqual(len(lines), 2)
 
     def test_says_nothing_when_there_is_nothing_to_do(self):
-        self.assertEqual(self.step("ninja: no work to do.\n").stdout, "")
-        self.assertEqual(self.step("ninja: no work to do.\n", terminal=True).stdout.strip("\r\033[K"), "")
+        idle = "[0/2] Re-checking globbed directories...\nninja: no work to do.\n"
+        self.assertEqual(self.step(idle).stdout, "")
+        self.assertEqual(self.step(idle, terminal=True).stdout, "\r\033[K")
 
     def test_fails_with_the_commands_status_and_its_whole_output(self):
         for terminal in (False, True):
