@@ -30,7 +30,6 @@ class Run(Sandbox):
         self.fake("program", 'echo "in $PWD"')
         self.fake("demo", 'echo sound >"$1"')
         self.environment.update(PROGRAM=str(self.commands / "program"), DEMO=str(self.commands / "demo"))
-        # Calls are noted under the name that a command was made with.
         self.demo = str(self.root / "build/demo-mix.wav")
 
     def run_project(self, *arguments, **options):
