@@ -45,7 +45,7 @@ class TheStanza(Sandbox):
     def test_is_made_from_one_line_sources_too(self):
         (self.root / "apt/sources.list").write_text(
             "# deb http://old.example/debian trixie main\n"
-            "deb-src http://archive.example/debian trixie main\n"
+            "deb-src http://sources.example/debian trixie main\n"
             "deb http://archive.example/debian-security trixie-security main\n"
             "deb http://archive.example/debian trixie main\n")
         self.assertEqual(self.stanza().stdout, STANZA)
