@@ -66,10 +66,10 @@ esac""")
         older = [names[0] for names in wanted("test")]
         newer = [names[-1] for names in wanted("test")]
         self.assertNotEqual(older, newer)
-        for names in (older, newer):
-            self.offer(*names)
+        for offered, chosen in ((older, older), (newer, newer), (older + newer, older), ([], older)):
+            self.offer(*offered)
             self.assertEqual(self.install("test").returncode, 0)
-            self.assertEqual(self.installs()[-1], names)
+            self.assertEqual(self.installs()[-1], chosen)
 
     def test_count_under_any_of_their_names(self):
         names = next(names for names in wanted("test") if len(names) == 2)
