@@ -1,8 +1,28 @@
 # AppKit: the system's own on macOS, GNUstep's elsewhere. Reference counts are kept by hand.
-if(NOT APPLE)
-  # GNUstep is built for GNU's runtime, which no other compiler's code can be trusted with.
-  find_program(CMAKE_OBJC_COMPILER NAMES gcc-12 gcc REQUIRED)
-  find_program(CMAKE_OBJCXX_COMPILER NAMES g++-12 g++ REQUIRED)
+
+# GNUstep is built for GNU's runtime, which no other compiler's code can be trusted with. GNU's compiler may be
+# there without its part for Objective-C++, which it then names without a path.
+function(velk_find_objective_cxx)
+  foreach(name IN ITEMS ${CMAKE_CXX_COMPILER} g++ g++-14 g++-13 g++-12)
+    find_program(compiler ${name} NO_CACHE)
+    if(compiler)
+      execute_process(COMMAND ${compiler} -print-prog-name=cc1objplus
+        OUTPUT_VARIABLE part OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET)
+      if(IS_ABSOLUTE "${part}")
+        file(REAL_PATH ${compiler} compiler)
+        string(REGEX REPLACE "g\\+\\+(-[0-9]+)?$" "gcc\\1" c_compiler ${compiler})
+        set(CMAKE_OBJC_COMPILER ${c_compiler} CACHE FILEPATH "Compiler of Objective-C")
+        set(CMAKE_OBJCXX_COMPILER ${compiler} CACHE FILEPATH "Compiler of Objective-C++")
+        return()
+      endif()
+    endif()
+    unset(compiler)
+  endforeach()
+  message(FATAL_ERROR "VELK_WITH_APPKIT needs GNU's compiler of Objective-C++: scripts/install-packages test")
+endfunction()
+
+if(NOT APPLE AND NOT CMAKE_OBJCXX_COMPILER)
+  velk_find_objective_cxx()
 endif()
 enable_language(OBJC OBJCXX)
 set(CMAKE_OBJCXX_STANDARD 20)

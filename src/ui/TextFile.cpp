@@ -139,7 +139,7 @@ bool replaceFile(const std::filesystem::path& file, std::string_view bytes) {
   if (!target || !target->has_filename()) {
     return false;
   }
-  struct stat existing {};
+  struct stat existing = {};
   const bool exists = ::stat(target->c_str(), &existing) == 0;
   if (exists && (!S_ISREG(existing.st_mode) ||
                  ::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0)) {

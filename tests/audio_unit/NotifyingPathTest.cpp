@@ -39,7 +39,7 @@ class NotifyingPath : public ListenerFixture {
 TEST_F(NotifyingPath, IsWatchedByTrapsThatWork) {
   std::mutex mutex;
   const CallTraps traps;
-  { const std::lock_guard lock(mutex); }
+  std::unique_lock(mutex).unlock();
   TestListener another(loop, journal);
   another.dispose();
   EXPECT_GT(traps.counts().allocations, 0) << "a new listener is allocated in the library";

@@ -21,7 +21,7 @@ using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
 mode_t permissions(const fs::path& file) {
-  struct stat status {};
+  struct stat status = {};
   EXPECT_EQ(::stat(file.c_str(), &status), 0);
   return status.st_mode & 07777;
 }

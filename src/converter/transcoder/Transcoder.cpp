@@ -84,6 +84,12 @@ void Transcoder::beginFade(const SettingChange& change) {
   fade_.emplace(Fade{change.position + static_cast<Position>(curve_.size()), std::move(to)});
 }
 
+void Transcoder::endFade() {
+  takeFailures();
+  pair_ = std::move(fade_->to);
+  fade_.reset();
+}
+
 void Transcoder::takeFailures() {
   if (pair_) failures_ += pair_->takeFailures();
   if (fade_) failures_ += fade_->to->takeFailures();
@@ -91,11 +97,7 @@ void Transcoder::takeFailures() {
 
 /// Renders up to the next start or end of a fade, or to `end`; returns the number of samples.
 UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encoded) {
-  if (fade_ && fade_->end <= position) {
-    takeFailures();
-    pair_ = std::move(fade_->to);
-    fade_.reset();
-  }
+  if (fade_ && fade_->end <= position) endFade();
   if (!fade_ && !changes_.empty() && changes_.front().position <= position) {
     beginFade(changes_.front());
     changes_.pop_front();

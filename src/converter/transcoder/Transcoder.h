@@ -31,6 +31,7 @@ class Transcoder final : public BlockTranscoder {
   std::unique_ptr<CodecPair> openPair(const Setting& setting, Position start);
   void takeFailures();
   void beginFade(const SettingChange& change);
+  void endFade();
   UInt32 renderStep(Position position, Position end, AudioBlock& encoded);
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
 

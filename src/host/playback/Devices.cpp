@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <stdexcept>
 #include <utility>
 
 #include "host/messages/Failure.h"
 #include "host/messages/QuietStandardError.h"
+#include "host/playback/RtAudioVersions.h"
 
 namespace host {
 namespace {
@@ -28,12 +30,9 @@ void appendDevices(RtAudio::Api system, std::vector<Device>& devices) {
   // A system that this build lacks makes another one step in.
   if (audio.getCurrentApi() != system) return;
   audio.showWarnings(false);
-  const auto count = audio.getDeviceCount();
-  for (unsigned index = 0; index < count; ++index) {
-    const auto info = audio.getDeviceInfo(index);
-    if (!info.probed || info.outputChannels == 0) continue;
+  for (const auto& [number, info] : rtaudio::playingDevices(audio)) {
     devices.push_back({RtAudio::getApiDisplayName(system) + ": " + info.name,
-                       static_cast<int>(system), index, info.isDefaultOutput, info.sampleRates,
+                       static_cast<int>(system), number, info.isDefaultOutput, info.sampleRates,
                        info.outputChannels, info.preferredSampleRate});
   }
 }
@@ -46,7 +45,7 @@ std::vector<Device> outputDevices() {
   for (const auto system : systems) {
     try {
       appendDevices(system, devices);
-    } catch (const RtAudioError&) {
+    } catch (const std::runtime_error&) {
       // A system that does not answer has no devices.
       continue;
     }

@@ -5,10 +5,12 @@
 #include <atomic>
 #include <chrono>
 #include <mutex>
+#include <stdexcept>
 
 #include "host/messages/Failure.h"
 #include "host/messages/QuietStandardError.h"
 #include "host/playback/Devices.h"
+#include "host/playback/RtAudioVersions.h"
 
 namespace host {
 namespace {
@@ -29,7 +31,7 @@ class RtAudioOutput : public Output {
   std::uint32_t latency() const override { return latency_; }
   Message failure() override;
 
-  void hearOfError(RtAudioError::Type type, const std::string& text);
+  void hearOfError(bool warns, const std::string& text);
 
  private:
   void start(const Device& device);
@@ -72,31 +74,35 @@ RtAudioOutput::RtAudioOutput(const Device& device, AudioFormat format, BlockRend
   openOutput = this;
   try {
     start(device);
-  } catch (const RtAudioError& error) {
+  } catch (const std::runtime_error& error) {
     openOutput = nullptr;
-    throw cannotPlay(device, error.getMessage());
+    throw cannotPlay(device, Message(error.what()));
   }
 }
 
 void RtAudioOutput::start(const Device& device) {
   RtAudio::StreamParameters parameters;
-  parameters.deviceId = device.index;
+  parameters.deviceId = rtaudio::numberToOpen(audio_, device.index, [&](const auto& info) {
+    return device.name == RtAudio::getApiDisplayName(audio_.getCurrentApi()) + ": " + info.name;
+  });
   parameters.nChannels = deviceChannels_;
   RtAudio::StreamOptions options;
   options.flags = RTAUDIO_NONINTERLEAVED | RTAUDIO_SCHEDULE_REALTIME;
   options.streamName = "aac-audition";
   auto frames = preferredBlock;
-  audio_.openStream(
+  rtaudio::openStream(
+      audio_,
+      [](auto type, const std::string& text) {
+        auto* const output = openOutput.load();
+        if (output != nullptr) output->hearOfError(rtaudio::isWarning(type), text);
+      },
       &parameters, nullptr, RTAUDIO_FLOAT32, format_.sampleRate, &frames,
       [](void* output, void* /*input*/, unsigned count, double /*time*/,
          RtAudioStreamStatus /*status*/, void* self) {
         return static_cast<RtAudioOutput*>(self)->render(static_cast<float*>(output), count);
       },
-      this, &options,
-      [](RtAudioError::Type type, const std::string& text) {
-        if (auto* const output = openOutput.load()) output->hearOfError(type, text);
-      });
-  audio_.startStream();
+      this, &options);
+  rtaudio::startStream(audio_);
   latency_ = static_cast<std::uint32_t>(std::max(audio_.getStreamLatency(), 0L));
 }
 
@@ -104,7 +110,7 @@ RtAudioOutput::~RtAudioOutput() {
   const QuietStandardError quiet;
   try {
     if (audio_.isStreamOpen()) audio_.closeStream();
-  } catch (const RtAudioError&) {
+  } catch (const std::runtime_error&) {
     // The device has gone already.
     failed_ = true;
   }
@@ -124,8 +130,7 @@ int RtAudioOutput::render(float* samples, unsigned frames) noexcept {
   return 0;
 }
 
-void RtAudioOutput::hearOfError(RtAudioError::Type type, const std::string& text) {
-  const bool warns = type == RtAudioError::WARNING || type == RtAudioError::DEBUG_WARNING;
+void RtAudioOutput::hearOfError(bool warns, const std::string& text) {
   if (warns && ++warnings_ < manyWarnings) return;
   const std::lock_guard lock(mutex_);
   if (error_.empty()) error_ = text;

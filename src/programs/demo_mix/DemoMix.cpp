@@ -74,7 +74,9 @@ double fading(std::size_t frame, std::size_t frames) {
   return left < fade ? static_cast<double>(left) / static_cast<double>(fade) : 1;
 }
 
-double mixed(const Parts& parts, std::vector<double> Stereo::*side, std::size_t i) {
+using Side = std::vector<double> Stereo::*;
+
+double mixed(const Parts& parts, Side side, std::size_t i) {
   const double duck = ducking(static_cast<double>(i) / kSampleRate);
   return kKickLevel * (parts.kick.*side)[i] + duck * kBassLevel * (parts.bass.*side)[i] +
          duck * kChordLevel * (parts.chords.*side)[i] + kArpeggioLevel * (parts.arpeggio.*side)[i] +

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <initializer_list>
 
 namespace host::measure {
 namespace {
@@ -12,12 +13,12 @@ static_assert(std::atomic<int>::is_always_lock_free);
 }  // namespace
 
 void catchInterruptions() {
-  struct sigaction action {};
+  struct sigaction action = {};
   sigemptyset(&action.sa_mask);
   action.sa_flags = SA_RESTART;
   action.sa_handler = [](int signal) { caught = signal; };
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-    struct sigaction before {};
+    struct sigaction before = {};
     ::sigaction(signal, nullptr, &before);
     // What a parent has set aside, as nohup does, stays so.
     if (before.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);

@@ -58,7 +58,7 @@ AudioThreadTraps::Counts AudioThreadTraps::counts() const {
 }
 
 bool trapSystemCalls() {
-  struct sigaction action {};
+  struct sigaction action = {};
   action.sa_sigaction = countSystemCall;
   action.sa_flags = SA_SIGINFO;
   if (sigaction(SIGSYS, &action, nullptr) != 0) return false;

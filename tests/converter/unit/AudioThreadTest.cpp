@@ -136,8 +136,8 @@ TEST_F(AudioThread, TrapsCatchWhatTheyAreFor) {
   if (tried.try_lock()) tried.unlock();
   EXPECT_EQ(traps.counts().locks, 2);
   std::shared_mutex shared;
-  { const std::shared_lock lock(shared); }
-  { const std::unique_lock lock(shared); }
+  std::shared_lock(shared).unlock();
+  std::unique_lock(shared).unlock();
   EXPECT_EQ(traps.counts().locks, 4);
   sem_t semaphore;
   sem_init(&semaphore, 0, 0);

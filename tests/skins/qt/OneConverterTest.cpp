@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QSlider>
 #include <QStackedWidget>
+#include <initializer_list>
 #include <map>
 #include <memory>
 

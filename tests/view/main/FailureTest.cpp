@@ -31,12 +31,11 @@ class EveryRefusedCall : public fakes::ViewTest, public testing::WithParamInterf
   void pick(const std::string& popUp, int index) {
     control<fakes::FakePopUpButton>(popUp).userPicks(index);
   }
+  void changeTheSetting() { unit.hostSetsSetting({0, 0, 3}); }
 
   std::vector<std::function<void()>> operations() {
     return {
-        [&] {
-          unit.hostSetsSetting({0, 0, 3});
-        },
+        [&] { changeTheSetting(); },
         [&] { unit.hostSetsProperty(velk::kConverterProperty_MonitorSource, 1); },
         [&] { unit.hostSetsProperty(velk::kConverterProperty_ListeningTestActive, 0); },
         [&] { menu().userPicks(1); },
