@@ -335,7 +335,15 @@ TEST_F(Measure, HelpsOnRequest) {
   EXPECT_EQ(outcome.status, 0);
   EXPECT_THAT(outcome.out, HasSubstr("--find-trim"));
   EXPECT_EQ(outcome.err, "");
-  EXPECT_THAT(run({"--version"}).out, HasSubstr("aac-measure"));
+}
+
+TEST_F(Measure, SaysItsVersionAndWhatItsCodecsAllow) {
+  const auto outcome = run({"--version"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(outcome.out, StartsWith(std::string("aac-measure ") + host::kVersion + "\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\nDecoder: libavcodec "));
+  EXPECT_THAT(outcome.out, AnyOf(HasSubstr("\nFor your own use only"),
+                                 HasSubstr("\nA binary may be passed on under")));
 }
 
 }  // namespace
