@@ -11,11 +11,14 @@
 
 #include "Measured.h"
 #include "Sound.h"
+#include "host/messages/Version.h"
 #include "ui/TemporaryFolder.h"
 
+using testing::AnyOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
+using testing::StartsWith;
 
 namespace {
 
