@@ -1,30 +1,26 @@
-# What cmake --install puts where: the programs, and in a folder of their own below lib the libraries
-# that they and the view share and the view's bundle. Nothing depends on where the whole lies.
-include(GNUInstallDirs)
-set(velk_private_libraries lib/aac-audition)
+# The programs and what goes along with them: manual pages, completions, and what a desktop wants to know.
+set(resources ${PROJECT_SOURCE_DIR}/resources)
 
-install(TARGETS velk_ui velk_audio_unit LIBRARY DESTINATION ${velk_private_libraries})
-set_target_properties(aac-measure PROPERTIES
-  INSTALL_RPATH "$ORIGIN/../${velk_private_libraries}")
-set_target_properties(velk_ui velk_audio_unit PROPERTIES INSTALL_RPATH "$ORIGIN")
+# velk_install_program(<target>)
+function(velk_install_program program)
+  velk_install_rpath(${program} ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+  configure_file(${resources}/man/${program}.1.in ${PROJECT_BINARY_DIR}/man/${program}.1 @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/man/${program}.1
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT runtime)
+  install(FILES ${resources}/completions/${program}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT runtime)
+endfunction()
 
-if(TARGET aac-audition AND TARGET Velk_NordaAACConverter)
-  set(bundle Velk_NordaAACConverter.bundle)
-  set_target_properties(aac-audition PROPERTIES
-    INSTALL_RPATH "$ORIGIN/../${velk_private_libraries}")
-  set_target_properties(Velk_NordaAACConverter PROPERTIES INSTALL_RPATH "$ORIGIN/..")
-  install(TARGETS aac-audition)
-  install(TARGETS Velk_NordaAACConverter LIBRARY DESTINATION ${velk_private_libraries}/${bundle})
-  install(DIRECTORY ${CMAKE_BINARY_DIR}/bundle/${bundle}/Resources
-    DESTINATION ${velk_private_libraries}/${bundle})
-  set(resources ${CMAKE_SOURCE_DIR}/resources)
+velk_install_program(aac-measure)
+if(TARGET aac-audition)
+  velk_install_program(aac-audition)
   install(FILES ${resources}/desktop/aac-audition.desktop
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-  install(FILES ${resources}/metainfo/aac-audition.metainfo.xml
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT runtime)
   install(FILES ${resources}/icons/aac-audition.svg
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-  install(FILES ${resources}/man/aac-audition.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-  install(FILES ${resources}/completions/aac-audition
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT runtime)
+  configure_file(${resources}/metainfo/aac-audition.metainfo.xml.in
+    ${PROJECT_BINARY_DIR}/metainfo/aac-audition.metainfo.xml @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/metainfo/aac-audition.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT runtime)
 endif()

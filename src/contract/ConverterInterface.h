@@ -6,9 +6,10 @@
 
 #include "audio_unit/Framework.h"
 
-/// What a converter unit offers and the view relies on. All identifiers are used on the global
-/// scope, element 0. Every parameter value travels as a 32-bit float that holds a whole number;
-/// codes and indices are taken by truncation toward zero.
+/// What a converter unit offers and the view relies on, on the global scope, element 0. Of the
+/// framework's own properties the view asks for the stream format on the output scope and for a
+/// parameter's info with the parameter as the element. Every parameter value travels as a 32-bit
+/// float that holds a whole number; codes and indices are taken by truncation toward zero.
 namespace velk {
 
 /// AAC object type of the encoder: 0 AAC, 1 AAC HE, 2 AAC HEv2 (only where the parameter's maximum

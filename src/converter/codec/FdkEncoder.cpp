@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "converter/codec/CodecLibraries.h"
 #include "converter/codec/Encoder.h"
 #include "converter/codec/Pcm16.h"
 
@@ -165,6 +166,15 @@ std::unique_ptr<Encoder> openEncoder(const Setting& setting, const UnitFormat& u
 
 EncoderAbilities encoderAbilities() {
   return {.highEfficiency = true, .constrainedVbr = true};
+}
+
+CodecLibrary encoderLibrary() {
+  std::array<LIB_INFO, FDK_MODULE_LAST> modules{};
+  FDKinitLibInfo(modules.data());
+  aacEncGetLibInfo(modules.data());
+  const auto encoder = std::ranges::find(modules, FDK_AACENC, &LIB_INFO::module_id);
+  return {"FDK AAC encoder", encoder != modules.end() ? encoder->versionStr : "?",
+          "FDK AAC licence"};
 }
 
 }  // namespace converter

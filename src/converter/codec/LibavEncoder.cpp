@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "converter/codec/CodecLibraries.h"
 #include "converter/codec/Encoder.h"
 #include "converter/codec/LibavHandles.h"
 #include "converter/codec/Pcm16.h"
@@ -84,6 +85,10 @@ std::unique_ptr<Encoder> openEncoder(const Setting& setting, const UnitFormat& u
 
 EncoderAbilities encoderAbilities() {
   return {};
+}
+
+CodecLibrary encoderLibrary() {
+  return decoderLibrary();
 }
 
 }  // namespace converter

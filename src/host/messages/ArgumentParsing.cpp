@@ -7,8 +7,10 @@
 
 namespace host {
 
-std::optional<HelpText> parseArguments(CLI::App& app, int argc, const char* const* argv) {
-  app.set_version_flag("--version", app.get_name() + " " + kVersion, "Print the version and exit");
+std::optional<HelpText> parseArguments(CLI::App& app, int argc, const char* const* argv,
+                                       const std::string& builtWith) {
+  app.set_version_flag("--version", app.get_name() + " " + kVersion + "\n" + builtWith,
+                       "Print the version and the codecs' licences and exit");
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

@@ -2,7 +2,7 @@
 
 namespace host {
 
-/// Of both programs.
-inline constexpr const char* kVersion = "0.1.0";
+/// The version of both programs: the project's, which the top CMakeLists.txt gives.
+extern const char* const kVersion;
 
 }  // namespace host

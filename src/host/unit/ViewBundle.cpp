@@ -83,11 +83,11 @@ std::unique_ptr<ui::NativeView> ViewBundle::viewForUnit(AudioUnit unit) {
 }
 
 std::filesystem::path viewBundlePath() {
-  const std::filesystem::path name = "Velk_NordaAACConverter.bundle";
   const auto top = std::filesystem::read_symlink("/proc/self/exe").parent_path().parent_path();
-  const auto installed = top / "lib" / "aac-audition" / name;
+  const auto installed = top / VELK_INSTALLED_BUNDLE;
   std::error_code error;
-  return std::filesystem::exists(installed, error) ? installed : top / "bundle" / name;
+  return std::filesystem::exists(installed, error) ? installed
+                                                   : top / "bundle" / installed.filename();
 }
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/messages/Failure.h"
+#include "host/unit/CodecTerms.h"
 
 namespace host {
 namespace {
@@ -130,7 +131,7 @@ std::variant<AuditionOptions, HelpText> parseAuditionArguments(int argc, const c
   app.add_option("--channels", channels,
                  "The channels to play of a file that has more than two, numbered from 1")
       ->type_name("L,R");
-  if (const auto text = parseArguments(app, argc, argv)) return *text;
+  if (const auto text = parseArguments(app, argc, argv, codecTerms())) return *text;
   if (monitor) options.monitorsSource = monitorsSource(*monitor);
   if (preset) options.preset = presetIndex(*preset);
   if (channels) options.channels = parsedChannelChoice(*channels);

@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "host/messages/Failure.h"
+#include "host/unit/CodecTerms.h"
 
 namespace host::measure {
 namespace {
@@ -101,7 +102,7 @@ std::variant<Options, HelpText> parsedArguments(int argc, const char* const* arg
       ->type_name("FOLDER");
   app.add_option("--png", options.pictures, "Draw the waveforms with their overs to this folder")
       ->type_name("FOLDER");
-  if (const auto text = parseArguments(app, argc, argv)) return *text;
+  if (const auto text = parseArguments(app, argc, argv, codecTerms())) return *text;
   if (channels) options.channels = parsedChannelChoice(*channels);
   if (all) options.encoders = everyPreset();
   for (const auto& preset : presets) addUnlessThere(options.encoders, presetChoice(preset));

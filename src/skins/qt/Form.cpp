@@ -146,6 +146,10 @@ std::unique_ptr<QtView> extractView(QWidget& top) {
     sheet->becomeWindowOf(*view);
   }
   pages->removeWidget(view);
+  // The pages hide what they let go, and Qt keeps to that as if the host had asked for it. A view
+  // shows with the window that it is put into, like any new widget. (Showing it here would lay it
+  // out once too often.)
+  view->setAttribute(Qt::WA_WState_ExplicitShowHide, false);
   view->setParent(nullptr);
   return std::unique_ptr<QtView>(view);
 }

@@ -189,7 +189,7 @@ TEST_F(Installed, RunsFromAnywhere) {
 }
 
 TEST_F(Installed, FindsTheBundleInItsOwnPlaceOnly) {
-  std::filesystem::remove_all(prefix_ / "lib/aac-audition/Velk_NordaAACConverter.bundle");
+  std::filesystem::remove_all(prefix_ / "lib/velk-aac-view/Velk_NordaAACConverter.bundle");
   const auto outcome = run("aac-audition", {"--headless", "mix.wav"});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_THAT(outcome.err, HasSubstr("its bundle is missing"));

@@ -11,11 +11,14 @@
 
 #include "Measured.h"
 #include "Sound.h"
+#include "host/messages/Version.h"
 #include "ui/TemporaryFolder.h"
 
+using testing::AnyOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::SizeIs;
+using testing::StartsWith;
 
 namespace {
 
@@ -335,7 +338,15 @@ TEST_F(Measure, HelpsOnRequest) {
   EXPECT_EQ(outcome.status, 0);
   EXPECT_THAT(outcome.out, HasSubstr("--find-trim"));
   EXPECT_EQ(outcome.err, "");
-  EXPECT_THAT(run({"--version"}).out, HasSubstr("aac-measure"));
+}
+
+TEST_F(Measure, SaysItsVersionAndWhatItsCodecsAllow) {
+  const auto outcome = run({"--version"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_THAT(outcome.out, StartsWith(std::string("aac-measure ") + host::kVersion + "\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\nDecoder: libavcodec "));
+  EXPECT_THAT(outcome.out, AnyOf(HasSubstr("\nFor your own use only"),
+                                 HasSubstr("\nA binary may be passed on under")));
 }
 
 }  // namespace

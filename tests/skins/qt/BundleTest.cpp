@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QString>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <filesystem>
 #include <memory>
@@ -55,6 +57,53 @@ TEST(Bundle, FindsItsResourcesBesideItself) {
   EXPECT_EQ(view->frameSize(), (ui::Size{560, 195}));
   widget->setParent(&window);
   static_cast<void>(view.release());
+}
+
+/// A host that has a view from the bundle and does with it what its test is about.
+class ViewOfTheBundle : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_NE(bundle(), nullptr) << dlerror();
+    const auto factory = instantiate("Velk_AUAACConverterFactory");
+    ASSERT_NE(factory, nullptr);
+    auto view = factory->uiViewForAudioUnit(&unit_, {0, 0});
+    widget_.reset(dynamic_cast<QWidget*>(view.get()));
+    ASSERT_NE(widget_, nullptr);
+    static_cast<void>(view.release());
+  }
+  /// Hands the view over to a parent.
+  QWidget* given() { return widget_.release(); }
+
+  fakes::CallLog calls_;
+  fakes::FakeConverter unit_{calls_};
+  QWidget window_;
+  std::unique_ptr<QWidget> widget_;
+};
+
+TEST_F(ViewOfTheBundle, ShowsWithTheWindowThatItIsPutInto) {
+  QWidget* const view = given();
+  view->setParent(&window_);
+  EXPECT_FALSE(view->isVisible());
+  window_.show();
+  EXPECT_TRUE(view->isVisible());
+  EXPECT_EQ(view->size(), QSize(560, 195));
+}
+
+TEST_F(ViewOfTheBundle, ShowsWhereALayoutOfAVisibleWindowTakesIt) {
+  auto* const layout = new QVBoxLayout(&window_);
+  window_.show();
+  QWidget* const view = given();
+  layout->addWidget(view);
+  QApplication::processEvents();
+  EXPECT_TRUE(view->isVisible());
+}
+
+TEST_F(ViewOfTheBundle, StaysHiddenWhereItsHostHidesIt) {
+  QWidget* const view = given();
+  view->setParent(&window_);
+  view->hide();
+  window_.show();
+  EXPECT_FALSE(view->isVisible());
 }
 
 TEST(Bundle, HoldsItsResources) {

@@ -1,0 +1,7 @@
+#include "host/messages/Version.h"
+
+namespace host {
+
+const char* const kVersion = VELK_VERSION;
+
+}  // namespace host
