@@ -5,6 +5,8 @@ from dataclasses import dataclass, field
 
 VIEW = ("view/main", "view/factory", "view/encoder_menu", "view/audition", "view/listening_test", "view/keys")
 CONVERTER = ("converter/unit", "converter/stream", "converter/meters", "converter/transcoder", "converter/codec")
+# What those see of the converter who are not part of it.
+UNIT = ("converter/unit", "converter/codec")
 HOST = ("host/messages", "host/files", "host/unit", "host/playback", "host/analysis")
 
 # Folder -> what its files may include besides the standard library and the headers of its own target:
@@ -28,15 +30,15 @@ MAY_INCLUDE = {
     "converter/unit": (*(f"{room}/*" for room in CONVERTER), "contract", "audio_unit"),
     "host/messages": ("system",),
     "host/files": ("host/messages", "sndfile", "soxr", "system"),
-    "host/unit": ("host/files", "host/messages", *CONVERTER, "ui", "contract", "audio_unit", "json", "system"),
-    "host/playback": ("host/unit", "host/files", "host/messages", "converter/unit", "contract", "audio_unit",
+    "host/unit": ("host/files", "host/messages", *UNIT, "ui", "contract", "audio_unit", "json", "system"),
+    "host/playback": ("host/unit", "host/files", "host/messages", *UNIT, "contract", "audio_unit",
                       "rtaudio", "sndfile", "soxr", "system"),
-    "host/analysis": ("host/unit", "host/files", "host/messages", "converter/unit", "converter/meters",
+    "host/analysis": ("host/unit", "host/files", "host/messages", *UNIT, "converter/meters",
                       "contract", "audio_unit", "system"),
-    "programs/audition": (*HOST, *CONVERTER, "ui", "contract", "audio_unit", "qt", "cli", "system"),
-    "programs/measure": (*HOST, *CONVERTER, "converter/unit/Presets.h", "ui", "contract", "audio_unit",
+    "programs/audition": (*HOST, *UNIT, "ui", "contract", "audio_unit", "qt", "cli", "system"),
+    "programs/measure": (*HOST, *UNIT, "converter/unit/Presets.h", "ui", "contract", "audio_unit",
                          "cairo", "cli", "json", "libav", "libavformat", "system"),
-    "programs/demo_mix": (*HOST, *CONVERTER, "ui", "contract", "audio_unit", "sndfile", "system"),
+    "programs/demo_mix": (*HOST, *UNIT, "ui", "contract", "audio_unit", "sndfile", "system"),
 }
 # What only these files of a room may include.
 MAY_INCLUDE_ALONE = {
