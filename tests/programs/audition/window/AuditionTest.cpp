@@ -151,7 +151,7 @@ TEST_F(Auditioning, KeepsUnitAndViewForAFileOfTheSameFormat) {
 TEST_F(Auditioning, KeepsSettingAndMonitorForAFileOfAnotherFormat) {
   start();
   open("stereo.wav");
-  host::auditionlyEncoderSetting(&unit(), {0, 0, 12});
+  host::applyEncoderSetting(&unit(), {0, 0, 12});
   setProperty(velk::kConverterProperty_MonitorSource, 1);
   open("mono.wav");
   EXPECT_EQ(audition_->session()->format(), (host::AudioFormat{48000, 1}));

@@ -141,7 +141,7 @@ TEST_F(Overview, AnalysesAgainWhenTheEncoderChanges) {
   audition_->setAnalysing(true);
   open("loud.wav");
   waitForAnalysis();
-  host::auditionlyEncoderSetting(&audition_->session()->unit(), {0, 0, 5});
+  host::applyEncoderSetting(&audition_->session()->unit(), {0, 0, 5});
   audition_->refresh();
   EXPECT_TRUE(audition_->isAnalysing());
   EXPECT_EQ(encodedMarks(), 0);
@@ -281,7 +281,7 @@ TEST_F(Overview, OffersTheFilesThatWereOpenedLast) {
 TEST_F(Overview, GoesOnWhereTheUserLeftOff) {
   EXPECT_EQ(audition_->sessionToSave(), std::nullopt);
   open("loud.wav");
-  host::auditionlyEncoderSetting(&audition_->session()->unit(), {0, 0, 5});
+  host::applyEncoderSetting(&audition_->session()->unit(), {0, 0, 5});
   Q_EMIT waveform().loopChosen(20000, 40000);
   action("&Loop")->trigger();
   Q_EMIT waveform().positionChosen(30001);

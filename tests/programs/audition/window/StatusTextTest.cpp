@@ -19,7 +19,7 @@ class Status : public testing::Test {
     const UInt32 offline = 1;
     unit_->setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &offline,
                        sizeof offline);
-    host::auditionlyEncoderSetting(unit_.get(), {0, 0, 10});
+    host::applyEncoderSetting(unit_.get(), {0, 0, 10});
   }
   std::string text() { return host::audition::encoderText(*unit_, 48000).toStdString(); }
   void setTest(UInt32 runs) {
@@ -49,7 +49,7 @@ TEST_F(Status, NamesTheRealBitRateOnceSomethingWasEncoded) {
 }
 
 TEST_F(Status, NamesTheSettingThatIsUsedWhereItIsNotTheOneAskedFor) {
-  host::auditionlyEncoderSetting(unit_.get(), {0, 2, 127});
+  host::applyEncoderSetting(unit_.get(), {0, 2, 127});
   EXPECT_THAT(text(), HasSubstr("AAC VBR mode 5"));
 }
 
