@@ -8,6 +8,7 @@
 #include "contract/ConverterInterface.h"
 #include "converter/codec/Decoder.h"
 #include "converter/codec/Encoder.h"
+#include "converter/unit/ConverterUnit.h"
 
 namespace {
 

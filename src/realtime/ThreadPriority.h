@@ -1,6 +1,6 @@
 #pragma once
 
-namespace converter {
+namespace realtime {
 
 /// What the system let a thread have.
 enum class ThreadPriority { realTime, raised, ordinary };
@@ -13,4 +13,4 @@ ThreadPriority raiseThreadPriority();
 /// Puts the calling thread back among the ordinary ones.
 void dropThreadPriority();
 
-}  // namespace converter
+}  // namespace realtime
