@@ -7,7 +7,7 @@
 #include "Figure.h"
 #include "RandomOperator.h"
 #include "Rig.h"
-#include "converter/stream/ThreadPriority.h"
+#include "realtime/ThreadPriority.h"
 
 namespace figures {
 namespace {
@@ -26,7 +26,7 @@ void renderInRealTime(Rig& rig, const Signal& input, Took took) {
   Signal output = silence(2, kBlock);
   float* const out[] = {output[0].data(), output[1].data()};
   std::thread audio([&] {
-    converter::raiseThreadPriority();
+    realtime::raiseThreadPriority();
     auto due = std::chrono::steady_clock::now();
     for (std::size_t block = 0; block < kSeconds * std::size_t{48000} / kBlock; ++block) {
       const std::size_t at = block * kBlock % (input[0].size() - kBlock);

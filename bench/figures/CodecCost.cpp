@@ -18,7 +18,7 @@ constexpr std::size_t kBlock = 512;
 
 struct Case {
   const char* name;
-  converter::ParameterValues values;
+  velk::EncoderSetting values;
   double goal;
 };
 constexpr std::array kCases = {
@@ -28,7 +28,7 @@ constexpr std::array kCases = {
 };
 
 /// Encoder and decoder with nothing around them.
-double bareSeconds(const converter::ParameterValues& values, const Signal& music) {
+double bareSeconds(const velk::EncoderSetting& values, const Signal& music) {
   const converter::UnitFormat unit{.sampleRate = kRate, .channels = 2, .maximumFrames = kBlock};
   const auto setting = nearestSetting(values, unit, converter::encoderAbilities());
   const auto encoder = openEncoder(setting, unit);
@@ -43,7 +43,7 @@ double bareSeconds(const converter::ParameterValues& values, const Signal& music
   return processorSeconds() - start;
 }
 
-double unitSeconds(const converter::ParameterValues& values, const Signal& music) {
+double unitSeconds(const velk::EncoderSetting& values, const Signal& music) {
   Rig rig({.sampleRate = kRate, .channels = 2, .maximumFrames = kBlock});
   rig.setSetting(values.format, values.strategy, values.rateOrQuality);
   Signal output = silence(2, kBlock);

@@ -77,10 +77,7 @@ class Folder {
 /// Processor time of the bare encoder and decoder on samples in memory.
 double bareSeconds(const EncoderChoice& choice, const Signal& signal) {
   const converter::UnitFormat unit{.sampleRate = kRate, .channels = 2, .maximumFrames = 4096};
-  const auto value = [](std::uint32_t code) { return static_cast<float>(code); };
-  const auto setting = nearestSetting({value(choice.setting.format), value(choice.setting.strategy),
-                                       value(choice.setting.rateOrQuality)},
-                                      unit, converter::encoderAbilities());
+  const auto setting = nearestSetting(choice.setting, unit, converter::encoderAbilities());
   const double start = processorSeconds();
   const auto encoder = openEncoder(setting, unit);
   const std::size_t length = encoder->timing().frameLength;

@@ -32,7 +32,7 @@ Endurance renderForLong(double seconds, unsigned seed) {
     }
     endurance.seconds += static_cast<double>(input[0].size()) / kRate;
   }
-  endurance.codecFailures = rig.property<UInt64>(converter::kConverterProperty_CodecFailures);
+  endurance.codecFailures = rig.property(converter::kConverterProperty_CodecFailures);
   endurance.missedFrames = rig.missedFrames();
   return endurance;
 }

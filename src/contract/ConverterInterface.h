@@ -4,12 +4,13 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "audio_unit/Framework.h"
+#include "audio_unit/TypedProperty.h"
+#include "contract/EncoderSetting.h"
 
 /// What a converter unit offers and the view relies on, on the global scope, element 0. Of the
 /// framework's own properties the view asks for the stream format on the output scope and for a
-/// parameter's info with the parameter as the element. Every parameter value travels as a 32-bit
-/// float that holds a whole number; codes and indices are taken by truncation toward zero.
+/// parameter's info with the parameter as the element. `EncoderSetting` says what the values of the
+/// three parameters mean.
 namespace velk {
 
 /// AAC object type of the encoder: 0 AAC, 1 AAC HE, 2 AAC HEv2 (only where the parameter's maximum
@@ -19,28 +20,6 @@ inline constexpr AudioUnitParameterID kConverterParam_Format = 0;
 inline constexpr AudioUnitParameterID kConverterParam_Strategy = 1;
 /// Strategy 0 or 1: index into `bitRates`. Strategy 2: the encoder's quality value as it is.
 inline constexpr AudioUnitParameterID kConverterParam_RateQuality = 2;
-
-/// UInt32, read, write, announced: 0 sends the encoded-then-decoded signal to the output, any other
-/// value the untouched source.
-inline constexpr AudioUnitPropertyID kConverterProperty_MonitorSource = 5301;
-/// `PeakStatistics`, read: peaks and clip counts since the last reset. Not announced: poll it.
-inline constexpr AudioUnitPropertyID kConverterProperty_PeakStats = 5302;
-/// UInt32, write, announced: any value clears all peaks and counts.
-inline constexpr AudioUnitPropertyID kConverterProperty_ResetPeakStats = 5303;
-/// UInt32, read, write, announced: non-zero while a listening test runs.
-inline constexpr AudioUnitPropertyID kConverterProperty_ListeningTestActive = 5304;
-
-/// Values of `kConverterParam_Strategy` and `kConverterParam_Format`.
-inline constexpr float kFormat_AAC = 0.0F;
-inline constexpr float kFormat_HE = 1.0F;
-inline constexpr float kFormat_HEv2 = 2.0F;
-inline constexpr float kStrategy_ABR = 0.0F;
-inline constexpr float kStrategy_VBRC = 1.0F;
-inline constexpr float kStrategy_VBR = 2.0F;
-
-/// kbit/s by rate index.
-inline constexpr std::array<std::uint32_t, 17> bitRates = {16, 20,  24,  32,  40,  48,  56,  64, 80,
-                                                           96, 128, 160, 192, 224, 256, 288, 320};
 
 /// Peaks and counts of one channel of one signal since the last reset.
 struct TruePeakStats {
@@ -67,5 +46,15 @@ using PeakStatistics = std::array<TruePeakStats, 4>;
 
 static_assert(sizeof(TruePeakStats) == 24 && offsetof(TruePeakStats, mSampleClipCount) == 8);
 static_assert(sizeof(PeakStatistics) == 96);
+
+/// Read, write, announced: 0 sends the encoded-then-decoded signal to the output, any other value
+/// the untouched source.
+inline constexpr audio_unit::Property<UInt32> kConverterProperty_MonitorSource{5301};
+/// Read: peaks and clip counts since the last reset. Not announced: poll it.
+inline constexpr audio_unit::Property<PeakStatistics> kConverterProperty_PeakStats{5302};
+/// Write, announced: any value clears all peaks and counts.
+inline constexpr audio_unit::Property<UInt32> kConverterProperty_ResetPeakStats{5303};
+/// Read, write, announced: non-zero while a listening test runs.
+inline constexpr audio_unit::Property<UInt32> kConverterProperty_ListeningTestActive{5304};
 
 }  // namespace velk

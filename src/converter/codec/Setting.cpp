@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "contract/ConverterInterface.h"
-
 namespace converter {
 namespace {
 
-/// The code that the value stands for, by truncation toward zero, moved into 0 to `highest`.
+/// The whole number in the value, moved into the range from 0 to `highest`.
 std::uint32_t codeOf(float value, std::uint32_t highest) {
   if (!(value > 0)) return 0;
   return static_cast<std::uint32_t>(std::min(value, static_cast<float>(highest)));
@@ -63,9 +61,10 @@ std::uint32_t highestPeak(Format format, const UnitFormat& unit) {
   return format != Format::lc && coreOf(format, unit).channels == 1 ? 224000 : 320000;
 }
 
-/// The five modes share the qualities 0 to 127 evenly.
+/// The five modes share the range of qualities evenly.
 std::uint8_t vbrModeOf(float quality) {
-  return static_cast<std::uint8_t>(1 + codeOf(quality, 127) * 5 / 128);
+  return static_cast<std::uint8_t>(1 +
+                                   codeOf(quality, kHighestQuality) * 5 / (kHighestQuality + 1));
 }
 
 }  // namespace
@@ -75,18 +74,19 @@ Format highestFormat(const EncoderAbilities& abilities, UInt32 channels) {
   return channels == 1 ? Format::he : Format::heV2;
 }
 
-Setting nearestSetting(const ParameterValues& values, const UnitFormat& unit,
+Setting nearestSetting(const velk::EncoderSetting& asked, const UnitFormat& unit,
                        const EncoderAbilities& abilities) {
   const auto highest = static_cast<std::uint32_t>(highestFormat(abilities, unit.channels));
   Setting setting;
-  setting.format = static_cast<Format>(codeOf(values.format, highest));
-  setting.strategy = static_cast<Strategy>(codeOf(values.strategy, 2));
+  setting.format = static_cast<Format>(codeOf(asked.format, highest));
+  setting.strategy =
+      static_cast<Strategy>(codeOf(asked.strategy, static_cast<std::uint32_t>(Strategy::vbr)));
   if (setting.strategy == Strategy::vbr) {
-    setting.vbrMode = vbrModeOf(values.rateOrQuality);
+    setting.vbrMode = vbrModeOf(asked.rateOrQuality);
     return setting;
   }
   const std::uint32_t rate =
-      1000 * velk::bitRates[codeOf(values.rateOrQuality, velk::bitRates.size() - 1)];
+      1000 * velk::bitRates[codeOf(asked.rateOrQuality, velk::bitRates.size() - 1)];
   if (setting.strategy == Strategy::constrainedVbr && !abilities.constrainedVbr) {
     setting.strategy = Strategy::abr;
   }

@@ -4,15 +4,17 @@
 #include <cstdint>
 
 #include "contract/ConverterExtensions.h"
+#include "contract/EncoderSetting.h"
 #include "converter/codec/UnitFormat.h"
 
 namespace converter {
 
-enum class Format : std::uint8_t { lc, he, heV2 };
-enum class Strategy : std::uint8_t { abr, constrainedVbr, vbr };
+using velk::Format;
+using velk::Strategy;
 
-/// One way to run the encoder; always one that it can do. Aligned so that threads can exchange it
-/// as one word.
+/// One way to run the encoder, always one that it can do: what the codec makes of a
+/// `velk::EncoderSetting`, which is only what the parameters ask for. Aligned so that threads can
+/// exchange it as one word.
 struct alignas(8) Setting {
   /// bit/s. `abr`: the target. `constrainedVbr`: the peak rate. `vbr`: 0.
   std::uint32_t bitRate = 0;
@@ -27,15 +29,6 @@ struct alignas(8) Setting {
 };
 static_assert(sizeof(Setting) == 8 && std::atomic<Setting>::is_always_lock_free);
 
-/// The unit's three parameters as they were written.
-struct ParameterValues {
-  float format = 0;
-  float strategy = 0;
-  float rateOrQuality = 0;
-
-  friend bool operator==(const ParameterValues&, const ParameterValues&) = default;
-};
-
 /// What an encoder offers beyond LC with ABR and VBR.
 struct EncoderAbilities {
   bool highEfficiency = false;
@@ -45,12 +38,13 @@ struct EncoderAbilities {
 /// Highest format available: `heV2` in stereo, `he` in mono, `lc` without high efficiency.
 Format highestFormat(const EncoderAbilities& abilities, UInt32 channels);
 
-/// The setting nearest to the parameters that the encoder can do. Values outside their codes, and
-/// those that are no number, become the nearest code; a rate outside what the format can do at this
-/// sample rate becomes the nearest rate inside.
-Setting nearestSetting(const ParameterValues& values, const UnitFormat& unit,
+/// The setting nearest to what is asked for that the encoder can do. Values outside their range,
+/// and those that are no number, become the nearest in it; a rate that the format cannot do at this
+/// sample rate becomes the nearest that it can.
+Setting nearestSetting(const velk::EncoderSetting& asked, const UnitFormat& unit,
                        const EncoderAbilities& abilities);
 
+/// The setting as hosts read it.
 EffectiveSetting effectiveSetting(const Setting& setting);
 
 }  // namespace converter

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "converter/stream/ThreadPriority.h"
+#include "realtime/ThreadPriority.h"
 
 namespace converter {
 namespace {
@@ -51,9 +51,9 @@ void Worker::updatePriority() {
   if (urgent == isUrgent_) return;
   isUrgent_ = urgent;
   if (urgent) {
-    raiseThreadPriority();
+    realtime::raiseThreadPriority();
   } else {
-    dropThreadPriority();
+    realtime::dropThreadPriority();
   }
 }
 
@@ -65,7 +65,7 @@ void Worker::processQueue() {
     if (encoded != nullptr) encoded_.push();
     codec_.publish(transcoder_->report());
     source_.pop();
-    const bool wakes = source_.size() <= kLeftWhenWaking;
+    const bool wakes = source_.readable() <= kLeftWhenWaking;
     if (wakes && waiting_.exchange(false, std::memory_order_acq_rel)) progress_.release();
   }
 }

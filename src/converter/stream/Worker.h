@@ -5,9 +5,9 @@
 #include <thread>
 
 #include "converter/stream/CodecStatus.h"
-#include "converter/stream/Semaphore.h"
-#include "converter/stream/SpscQueue.h"
 #include "converter/transcoder/BlockTranscoder.h"
+#include "realtime/Semaphore.h"
+#include "realtime/SpscRing.h"
 
 namespace converter {
 
@@ -30,9 +30,9 @@ class Worker {
   void setUrgent(bool urgent) { urgent_.store(urgent, std::memory_order_relaxed); }
 
   /// Audio thread writes, and calls `wake` when it needs what it has pushed to be processed.
-  SpscQueue<SourceBlock>& source() { return source_; }
+  realtime::SpscRing<SourceBlock>& source() { return source_; }
   /// Audio thread reads.
-  SpscQueue<AudioBlock>& encoded() { return encoded_; }
+  realtime::SpscRing<AudioBlock>& encoded() { return encoded_; }
   void wake() { work_.release(); }
 
   /// Waits until `ready()`, which the worker's progress must make true in the end. Without a
@@ -56,13 +56,13 @@ class Worker {
   void processQueue();
   void updatePriority();
 
-  SpscQueue<SourceBlock> source_;
-  SpscQueue<AudioBlock> encoded_;
+  realtime::SpscRing<SourceBlock> source_;
+  realtime::SpscRing<AudioBlock> encoded_;
   std::unique_ptr<BlockTranscoder> transcoder_;
   /// Receives the encoded block when its queue is full, so that the codec can go on.
   AudioBlock surplus_;
-  Semaphore work_;
-  Semaphore progress_;
+  realtime::Semaphore work_;
+  realtime::Semaphore progress_;
   std::atomic<bool> waiting_{false};
   std::atomic<bool> stopping_{false};
   std::atomic<bool> urgent_{false};

@@ -1,12 +1,11 @@
 #include "converter/unit/AacConverter.h"
 
-#include <cstring>
+#include <array>
 
 #include "contract/ConverterInterface.h"
 #include "converter/codec/CodecRate.h"
 #include "converter/unit/ParameterInfo.h"
 #include "converter/unit/Presets.h"
-#include "converter/unit/PropertyTable.h"
 
 namespace converter {
 namespace {
@@ -31,24 +30,11 @@ AudioStreamBasicDescription streamFormat(const UnitFormat& format) {
   return stream;
 }
 
-template <typename Value>
-void put(void* data, const Value& value) {
-  std::memcpy(data, &value, sizeof(Value));
-}
-
-template <typename Value>
-Value take(const void* data) {
-  Value value{};
-  std::memcpy(&value, data, sizeof(Value));
-  return value;
-}
-
 }  // namespace
 
 AacConverter::AacConverter(const UnitFormat& format, const OpenEncoder& open)
     : format_(format),
-      parameters_(codecFormat(format), presetValues(kDefaultPreset).value_or(ParameterValues{}),
-                  controls_.setting),
+      parameters_(codecFormat(format), kDefaultSetting, controls_.setting),
       renderer_(format, controls_, open) {}
 
 OSStatus AacConverter::getParameter(AudioUnitParameterID id, AudioUnitScope scope,
@@ -71,93 +57,106 @@ OSStatus AacConverter::setParameter(AudioUnitParameterID id, AudioUnitScope scop
   return noErr;
 }
 
-OSStatus AacConverter::getProperty(AudioUnitPropertyID id, AudioUnitScope scope,
-                                   AudioUnitElement element, void* data, UInt32& size) {
-  const OSStatus error = checkRead(id, scope, element, data, size);
-  if (error != noErr) return error;
-  readProperty(id, element, data);
-  size = propertySize(id);
-  return noErr;
+std::span<const PropertyDeclaration> AacConverter::properties() {
+  using Unit = AacConverter;
+  using Declare = PropertyDeclaration;
+  using Element = AudioUnitElement;
+  static constexpr std::array declarations = {
+      Declare::readable(audio_unit::parameterInfoProperty, kOfEachParameter,
+                        [](Unit& unit, Element parameter) {
+                          return parameterInfo(parameter, unit.parameters_.highestFormat());
+                        }),
+      Declare::readable(audio_unit::outputFormatProperty, kOfTheStreams,
+                        [](Unit& unit, Element) { return streamFormat(unit.format_); }),
+      Declare::readable(
+          audio_unit::latencyProperty, kOfTheUnit,
+          [](Unit& unit, Element) { return Float64{unit.latency() / unit.format_.sampleRate}; }),
+      Declare::readable(audio_unit::maximumFramesProperty, kOfTheUnit,
+                        [](Unit& unit, Element) { return unit.format_.maximumFrames; }),
+      Declare::readable(audio_unit::factoryPresetsProperty, kOfTheUnit,
+                        [](Unit&, Element) { return copyFactoryPresets(); }),
+      Declare::writable(
+          audio_unit::presentPresetProperty,
+          [](Unit& unit, Element) { return copyPresentPreset(unit.parameters_.values()); },
+          [](Unit& unit, const AUPreset& preset) { return unit.applyPreset(preset); }),
+      Declare::writable(
+          audio_unit::offlineRenderProperty,
+          [](Unit& unit, Element) { return unit.offlineRender_; },
+          [](Unit& unit, UInt32 value) {
+            unit.offlineRender_ = value;
+            unit.controls_.offline.store(value != 0, std::memory_order_relaxed);
+            unit.renderer_.setUrgent(value == 0);
+            return OSStatus{noErr};
+          }),
+      Declare::writable(
+          velk::kConverterProperty_MonitorSource,
+          [](Unit& unit, Element) { return unit.monitorSource_; },
+          [](Unit& unit, UInt32 value) {
+            unit.monitorSource_ = value;
+            unit.controls_.monitorSource.store(value != 0, std::memory_order_relaxed);
+            return OSStatus{noErr};
+          }),
+      Declare::readable(velk::kConverterProperty_PeakStats, kOfTheUnit,
+                        [](Unit& unit, Element) { return unit.renderer_.peakStatistics(); }),
+      Declare::request(velk::kConverterProperty_ResetPeakStats,
+                       [](Unit& unit, UInt32) {
+                         unit.renderer_.resetPeakStatistics();
+                         return OSStatus{noErr};
+                       }),
+      Declare::writable(
+          velk::kConverterProperty_ListeningTestActive,
+          [](Unit& unit, Element) { return unit.listeningTestActive_; },
+          [](Unit& unit, UInt32 value) {
+            unit.listeningTestActive_ = value;
+            return OSStatus{noErr};
+          }),
+      Declare::readable(kConverterProperty_EffectiveSetting, kOfTheUnit,
+                        [](Unit& unit, Element) {
+                          return effectiveSetting(
+                              unit.renderer_.codec().carrying(unit.parameters_.setting()));
+                        }),
+      Declare::readable(kConverterProperty_BitRate, kOfTheUnit,
+                        [](Unit& unit, Element) { return unit.renderer_.codec().bitRate(); }),
+      Declare::readable(kConverterProperty_MissedFrames, kOfTheUnit,
+                        [](Unit& unit, Element) {
+                          return unit.controls_.missedFrames.load(std::memory_order_relaxed);
+                        }),
+      Declare::readable(kConverterProperty_CodecFailures, kOfTheUnit,
+                        [](Unit& unit, Element) { return unit.renderer_.codec().failures(); }),
+      Declare::writable(
+          kConverterProperty_Metering, [](Unit& unit, Element) { return unit.metering_; },
+          [](Unit& unit, UInt32 value) {
+            unit.metering_ = value;
+            unit.controls_.metering.store(value != 0, std::memory_order_relaxed);
+            return OSStatus{noErr};
+          }),
+  };
+  return declarations;
 }
 
-void AacConverter::readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data) {
-  switch (id) {
-    case kAudioUnitProperty_ParameterInfo:
-      return put(data, parameterInfo(element, parameters_.highestFormat()));
-    case kAudioUnitProperty_StreamFormat:
-      return put(data, streamFormat(format_));
-    case kAudioUnitProperty_Latency:
-      return put(data, Float64{latency() / format_.sampleRate});
-    case kAudioUnitProperty_MaximumFramesPerSlice:
-      return put(data, format_.maximumFrames);
-    case kAudioUnitProperty_FactoryPresets:
-      return put<const void*>(data, copyFactoryPresets());
-    case kAudioUnitProperty_PresentPreset:
-      return put(data, copyPresentPreset(parameters_.values()));
-    case kAudioUnitProperty_OfflineRender:
-      return put(data, offlineRender_);
-    case velk::kConverterProperty_MonitorSource:
-      return put(data, monitorSource_);
-    case velk::kConverterProperty_PeakStats:
-      return put(data, renderer_.peakStatistics());
-    case velk::kConverterProperty_ListeningTestActive:
-      return put(data, listeningTestActive_);
-    case kConverterProperty_EffectiveSetting:
-      return put(data, effectiveSetting(renderer_.codec().carrying(parameters_.setting())));
-    case kConverterProperty_BitRate:
-      return put(data, renderer_.codec().bitRate());
-    case kConverterProperty_MissedFrames:
-      return put(data, controls_.missedFrames.load(std::memory_order_relaxed));
-    case kConverterProperty_CodecFailures:
-      return put(data, renderer_.codec().failures());
-    case kConverterProperty_Metering:
-      return put(data, metering_);
-    default:
-      return;
-  }
+OSStatus AacConverter::getProperty(AudioUnitPropertyID id, AudioUnitScope scope,
+                                   AudioUnitElement element, void* data, UInt32& size) {
+  const PropertyDeclaration* property = find(properties(), id);
+  return property != nullptr ? property->read(*this, scope, element, data, size)
+                             : kAudioUnitErr_InvalidProperty;
 }
 
 OSStatus AacConverter::setProperty(AudioUnitPropertyID id, AudioUnitScope scope,
                                    AudioUnitElement element, const void* data, UInt32 size) {
-  const OSStatus error = checkWrite(id, scope, element, data, size);
-  if (error != noErr) return error;
-  switch (id) {
-    case kAudioUnitProperty_PresentPreset:
-      return applyPreset(take<AUPreset>(data));
-    case kAudioUnitProperty_OfflineRender:
-      offlineRender_ = take<UInt32>(data);
-      controls_.offline.store(offlineRender_ != 0, std::memory_order_relaxed);
-      renderer_.setUrgent(offlineRender_ == 0);
-      break;
-    case velk::kConverterProperty_MonitorSource:
-      monitorSource_ = take<UInt32>(data);
-      controls_.monitorSource.store(monitorSource_ != 0, std::memory_order_relaxed);
-      break;
-    case velk::kConverterProperty_ResetPeakStats:
-      renderer_.resetPeakStatistics();
-      break;
-    case velk::kConverterProperty_ListeningTestActive:
-      listeningTestActive_ = take<UInt32>(data);
-      break;
-    case kConverterProperty_Metering:
-      metering_ = take<UInt32>(data);
-      controls_.metering.store(metering_ != 0, std::memory_order_relaxed);
-      break;
-    default:
-      break;
-  }
-  announceProperty(id);
-  return noErr;
+  const PropertyDeclaration* property = find(properties(), id);
+  if (property == nullptr) return kAudioUnitErr_InvalidProperty;
+  const OSStatus status = property->write(*this, scope, element, data, size);
+  if (status == noErr) announceProperty(id);
+  return status;
 }
 
 OSStatus AacConverter::applyPreset(const AUPreset& preset) {
-  const auto values = presetValues(preset.presetNumber);
-  if (!values) return kAudioUnitErr_InvalidPropertyValue;
-  parameters_.setValues(*values);
+  const auto setting = presetSetting(preset.presetNumber);
+  if (!setting) return kAudioUnitErr_InvalidPropertyValue;
+  parameters_.setValues(*setting);
   announceParameter(velk::kConverterParam_Format);
   announceParameter(velk::kConverterParam_Strategy);
   announceParameter(velk::kConverterParam_RateQuality);
-  announceProperty(kAudioUnitProperty_PresentPreset);
   return noErr;
 }
 

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <span>
+
 #include "converter/codec/Encoder.h"
 #include "converter/stream/RenderControls.h"
 #include "converter/stream/Renderer.h"
 #include "converter/unit/ConverterUnit.h"
 #include "converter/unit/Parameters.h"
+#include "converter/unit/PropertyTable.h"
 
 namespace converter {
 
@@ -24,6 +27,9 @@ class AacConverter final : public ConverterUnit {
   OSStatus setProperty(AudioUnitPropertyID id, AudioUnitScope scope, AudioUnitElement element,
                        const void* data, UInt32 size) override;
 
+  /// All that the unit has, each in its one declaration.
+  static std::span<const PropertyDeclaration> properties();
+
   UInt32 latency() const override { return renderer_.latency(); }
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept override {
     renderer_.render(input, output, frames);
@@ -34,7 +40,6 @@ class AacConverter final : public ConverterUnit {
   void setBitStreamSink(BitStreamSink* sink) override { renderer_.setBitStreamSink(sink); }
 
  private:
-  void readProperty(AudioUnitPropertyID id, AudioUnitElement element, void* data);
   OSStatus applyPreset(const AUPreset& preset);
 
   UnitFormat format_;

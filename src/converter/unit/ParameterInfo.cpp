@@ -3,23 +3,21 @@
 #include <algorithm>
 #include <string_view>
 
+#include "contract/ConverterExtensions.h"
 #include "contract/ConverterInterface.h"
 #include "converter/unit/Presets.h"
 
 namespace converter {
 namespace {
 
-/// Of the rate-or-quality parameter: the highest quality, which is above the highest rate index.
-constexpr float kHighestQuality = 127;
-
 AudioUnitParameterInfo makeInfo(std::string_view name, AudioUnitParameterUnit unit, float highest,
-                                float standard) {
+                                float initial) {
   AudioUnitParameterInfo info{};
   std::ranges::copy(name, info.name);
   info.unit = unit;
   info.minValue = 0;
   info.maxValue = highest;
-  info.defaultValue = standard;
+  info.defaultValue = initial;
   info.flags = kAudioUnitParameterFlag_IsReadable | kAudioUnitParameterFlag_IsWritable;
   return info;
 }
@@ -27,17 +25,17 @@ AudioUnitParameterInfo makeInfo(std::string_view name, AudioUnitParameterUnit un
 }  // namespace
 
 AudioUnitParameterInfo parameterInfo(AudioUnitParameterID id, Format highest) {
-  const ParameterValues standard = presetValues(kDefaultPreset).value_or(ParameterValues{});
   switch (id) {
     case velk::kConverterParam_Format:
       return makeInfo("Format", kAudioUnitParameterUnit_Indexed, static_cast<float>(highest),
-                      standard.format);
+                      kDefaultSetting.format);
     case velk::kConverterParam_Strategy:
       return makeInfo("Strategy", kAudioUnitParameterUnit_Indexed, velk::kStrategy_VBR,
-                      standard.strategy);
+                      kDefaultSetting.strategy);
     default:
-      return makeInfo("Rate or Quality", kAudioUnitParameterUnit_Generic, kHighestQuality,
-                      standard.rateOrQuality);
+      // The highest quality is above the highest rate index.
+      return makeInfo("Rate or Quality", kAudioUnitParameterUnit_Generic, float{kHighestQuality},
+                      kDefaultSetting.rateOrQuality);
   }
 }
 

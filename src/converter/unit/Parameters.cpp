@@ -5,7 +5,7 @@
 
 namespace converter {
 
-Parameters::Parameters(const UnitFormat& unit, const ParameterValues& values,
+Parameters::Parameters(const UnitFormat& unit, const velk::EncoderSetting& values,
                        std::atomic<Setting>& setting)
     : unit_(unit), abilities_(encoderAbilities()), setting_(setting) {
   setValues(values);
@@ -20,12 +20,12 @@ void Parameters::setValue(AudioUnitParameterID id, float value) {
   publish();
 }
 
-ParameterValues Parameters::values() const {
+velk::EncoderSetting Parameters::values() const {
   return {value(velk::kConverterParam_Format), value(velk::kConverterParam_Strategy),
           value(velk::kConverterParam_RateQuality)};
 }
 
-void Parameters::setValues(const ParameterValues& values) {
+void Parameters::setValues(const velk::EncoderSetting& values) {
   values_[velk::kConverterParam_Format].store(values.format);
   values_[velk::kConverterParam_Strategy].store(values.strategy);
   values_[velk::kConverterParam_RateQuality].store(values.rateOrQuality);

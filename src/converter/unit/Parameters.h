@@ -7,12 +7,14 @@
 
 namespace converter {
 
-/// The unit's three parameters, and the encoder's setting that follows from them. Any thread may
+/// The unit's three parameters, kept bit for bit as they were written, and the encoder's setting
+/// that follows from them. Any thread may
 /// write and read; nothing waits for another thread.
 class Parameters {
  public:
   /// Publishes into `setting`, here and after every write, what the encoder should do.
-  Parameters(const UnitFormat& unit, const ParameterValues& values, std::atomic<Setting>& setting);
+  Parameters(const UnitFormat& unit, const velk::EncoderSetting& values,
+             std::atomic<Setting>& setting);
 
   static bool has(AudioUnitParameterID id) { return id < kCount; }
 
@@ -20,12 +22,14 @@ class Parameters {
   float value(AudioUnitParameterID id) const;
   void setValue(AudioUnitParameterID id, float value);
 
-  ParameterValues values() const;
+  /// What the parameters ask for.
+  velk::EncoderSetting values() const;
   /// Writes all three; no setting in between is published.
-  void setValues(const ParameterValues& values);
+  void setValues(const velk::EncoderSetting& values);
 
-  /// That the values ask for now.
+  /// What the encoder should do about the values as they are now.
   Setting setting() const { return nearestSetting(values(), unit_, abilities_); }
+  /// The highest value of the format parameter.
   Format highestFormat() const;
 
  private:

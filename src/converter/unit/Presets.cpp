@@ -1,32 +1,22 @@
 #include "converter/unit/Presets.h"
 
+#include <algorithm>
 #include <array>
-
-#include "contract/ConverterInterface.h"
+#include <cstddef>
 
 namespace converter {
 namespace {
 
-struct Preset {
-  const char* name;
-  ParameterValues values;
-};
-
-constexpr std::array<Preset, kPresetCount> kPresets = {{
-    {"Ondara Plus", {velk::kFormat_AAC, velk::kStrategy_VBRC, 14}},
-    {"128K AAC", {velk::kFormat_AAC, velk::kStrategy_VBRC, 10}},
-    {"Streaming", {velk::kFormat_HE, velk::kStrategy_ABR, 7}},
-    {"High Quality", {velk::kFormat_HE, velk::kStrategy_VBRC, 16}},
-}};
+using Records = std::array<AUPreset, velk::encoderPresets.size()>;
 
 /// Hosts keep the records and their names for as long as they like, so they live as long as the
 /// process.
-const std::array<AUPreset, kPresetCount>& records() {
+const Records& records() {
   static const auto made = [] {
-    std::array<AUPreset, kPresetCount> presets{};
-    for (std::size_t i = 0; i < kPresetCount; ++i) {
-      presets[i] = {static_cast<SInt32>(i), CFStringCreateWithUTF8(kPresets[i].name)};
-    }
+    Records presets{};
+    std::ranges::transform(velk::encoderPresets, presets.begin(), [](const auto& preset) {
+      return AUPreset{static_cast<SInt32>(preset.number), CFStringCreateWithUTF8(preset.name)};
+    });
     return presets;
   }();
   return made;
@@ -34,25 +24,26 @@ const std::array<AUPreset, kPresetCount>& records() {
 
 }  // namespace
 
-std::optional<ParameterValues> presetValues(SInt32 number) {
-  if (number < 0 || static_cast<std::size_t>(number) >= kPresetCount) return std::nullopt;
-  return kPresets[static_cast<std::size_t>(number)].values;
+std::optional<velk::EncoderSetting> presetSetting(SInt32 number) {
+  const auto index = static_cast<std::size_t>(number);
+  if (number < 0 || index >= velk::encoderPresets.size()) return std::nullopt;
+  return velk::encoderPresets[index].setting;
 }
 
 CFArrayRef copyFactoryPresets() {
-  std::array<const void*, kPresetCount> pointers{};
-  for (std::size_t i = 0; i < kPresetCount; ++i) pointers[i] = &records()[i];
+  std::array<const void*, velk::encoderPresets.size()> pointers{};
+  std::ranges::transform(records(), pointers.begin(),
+                         [](const AUPreset& preset) { return &preset; });
   return CFArrayCreateWithPointers(pointers.data(), static_cast<CFIndex>(pointers.size()));
 }
 
-AUPreset copyPresentPreset(const ParameterValues& values) {
-  for (std::size_t i = 0; i < kPresetCount; ++i) {
-    if (kPresets[i].values == values) {
-      CFRetain(records()[i].presetName);
-      return records()[i];
-    }
-  }
-  return {-1, CFStringCreateWithUTF8("Custom")};
+AUPreset copyPresentPreset(const velk::EncoderSetting& setting) {
+  const auto* const preset =
+      std::ranges::find(velk::encoderPresets, setting, &velk::EncoderPreset::setting);
+  if (preset == velk::encoderPresets.end()) return {-1, CFStringCreateWithUTF8("Custom")};
+  const AUPreset& record = records()[preset->number];
+  CFRetain(record.presetName);
+  return record;
 }
 
 }  // namespace converter

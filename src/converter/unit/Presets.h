@@ -1,26 +1,24 @@
 #pragma once
 
-#include <cstddef>
 #include <optional>
 
 #include "audio_unit/Framework.h"
-#include "converter/codec/Setting.h"
+#include "contract/EncoderPresets.h"
 
 namespace converter {
 
-inline constexpr std::size_t kPresetCount = 4;
-/// Of a new unit.
-inline constexpr SInt32 kDefaultPreset = 0;
+/// The setting of a new unit.
+inline constexpr velk::EncoderSetting kDefaultSetting = velk::kPreset_OndaraPlus.setting;
 
-/// The parameters that the preset of that number sets; nothing for a number that no preset has.
-std::optional<ParameterValues> presetValues(SInt32 number);
+/// What the preset of that number sets; nothing for a number that no preset has.
+std::optional<velk::EncoderSetting> presetSetting(SInt32 number);
 
-/// A new array of the factory's presets, in the order of their numbers. The caller releases it; the
+/// A new array of the factory presets, in the order of their numbers. The caller releases it; the
 /// records stay the unit's.
 CFArrayRef copyFactoryPresets();
 
-/// The factory preset that sets these parameters, or number -1, "Custom", when none does. The
-/// caller owns one reference to the name.
-AUPreset copyPresentPreset(const ParameterValues& values);
+/// The factory preset with this setting, or number -1, "Custom", when there is none. The caller
+/// owns one reference to the name.
+AUPreset copyPresentPreset(const velk::EncoderSetting& setting);
 
 }  // namespace converter

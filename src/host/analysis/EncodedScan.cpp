@@ -24,9 +24,7 @@ class EncodedScan {
             source.frames() / kBlocksPerFile, kShortestBlock, std::int64_t{unitBlockFrames}))),
         interleaved_(std::size_t{blockFrames_} * format_.channels) {
     for (auto& plane : planes_) plane.resize(blockFrames_);
-    const UInt32 offline = 1;
-    unit_->setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &offline,
-                       sizeof offline);
+    writeProperty(unit_.get(), audio_unit::offlineRenderProperty, 1);
     applyEncoderSetting(unit_.get(), setting);
     // Nothing of the setting that the unit was made with is left inside.
     unit_->reset();

@@ -51,12 +51,11 @@ void Player::pause() {
 
 void Player::setOffline(bool offline) {
   offline_ = offline;
-  setUnitFlag(kAudioUnitProperty_OfflineRender, offline);
+  setUnitFlag(audio_unit::offlineRenderProperty, offline);
 }
 
-void Player::setUnitFlag(AudioUnitPropertyID flag, bool on) {
-  const UInt32 value = on ? 1 : 0;
-  unit_.setProperty(flag, kAudioUnitScope_Global, 0, &value, sizeof value);
+void Player::setUnitFlag(const audio_unit::Property<UInt32>& flag, bool on) {
+  writeProperty(&unit_, flag, on ? 1 : 0);
 }
 
 void Player::suspend() {
@@ -134,7 +133,7 @@ void Player::seek(std::int64_t frame) {
 }
 
 void Player::runUpTo(std::int64_t leadIn) {
-  setUnitFlag(kAudioUnitProperty_OfflineRender, true);
+  setUnitFlag(audio_unit::offlineRenderProperty, true);
   setUnitFlag(converter::kConverterProperty_Metering, false);
   const auto channels = format().channels;
   Planes output{};
@@ -149,7 +148,7 @@ void Player::runUpTo(std::int64_t leadIn) {
     left -= frames;
   }
   setUnitFlag(converter::kConverterProperty_Metering, true);
-  setUnitFlag(kAudioUnitProperty_OfflineRender, offline_);
+  setUnitFlag(audio_unit::offlineRenderProperty, offline_);
 }
 
 void Player::feedUnit(const float* interleaved, std::size_t got, float* const* output,

@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "audio_unit/AudioUnitTypes.h"
+#include "audio_unit/TypedProperty.h"
 #include "host/playback/BlockRenderer.h"
 #include "host/playback/LoopRange.h"
 #include "host/playback/StreamReader.h"
@@ -89,7 +89,7 @@ class Player : public BlockRenderer {
   /// Renders, unheard and unmetered, what precedes the position where playing starts: `leadIn`
   /// frames as history for codec and meters, and the unit's latency.
   void runUpTo(std::int64_t leadIn);
-  void setUnitFlag(AudioUnitPropertyID flag, bool on);
+  void setUnitFlag(const audio_unit::Property<UInt32>& flag, bool on);
   /// Renders up to `frames` frames at the offset; fewer when the source is behind.
   std::uint32_t renderSound(float* const* planes, std::uint32_t offset,
                             std::uint32_t frames) noexcept;

@@ -12,7 +12,7 @@
 #include "host/files/AudioSource.h"
 #include "host/messages/Message.h"
 #include "host/playback/BlockRenderer.h"
-#include "host/playback/SampleRing.h"
+#include "realtime/SpscRing.h"
 
 namespace host {
 
@@ -46,7 +46,7 @@ class Recorder : public AudioTap {
 
   std::unique_ptr<AtomicFile> target_;
   AudioFormat format_;
-  SampleRing ring_;
+  realtime::SpscRing<float> ring_;
   std::vector<float> incoming_;
   std::vector<float> outgoing_;
   std::atomic<std::uint64_t> lostFrames_{0};

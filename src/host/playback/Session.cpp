@@ -38,9 +38,7 @@ void Session::load(OpenedFile file) {
   player_ = std::make_unique<Player>(*unit_, kMaximumFrames, std::move(file.source));
   player_->setTap(tap_);
   // What was read of the other file says nothing about this one.
-  const UInt32 reset = 1;
-  unit_->setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global, 0, &reset,
-                     sizeof reset);
+  writeProperty(unit_.get(), velk::kConverterProperty_ResetPeakStats, 1);
   if (hadOutput) setDevice(std::exchange(device_, std::nullopt));
 }
 

@@ -11,7 +11,7 @@
 
 #include "host/files/AudioSource.h"
 #include "host/playback/LoopingSource.h"
-#include "host/playback/SampleRing.h"
+#include "realtime/SpscRing.h"
 
 namespace host {
 
@@ -51,7 +51,7 @@ class StreamReader {
   LoopingSource source_;
   const AudioFormat format_;
   const std::int64_t frames_;
-  SampleRing ring_;
+  realtime::SpscRing<float> ring_;
   std::vector<float> block_;
   std::atomic<bool> ended_{false};
 

@@ -7,7 +7,7 @@
 namespace host {
 namespace {
 
-std::string name(std::uint32_t format, std::uint32_t strategy, double kbps) {
+std::string name(float format, float strategy, double kbps) {
   const auto text = formatName(format) + " " + strategyName(strategy);
   return kbps > 0 ? text + " " + decimal(kbps, 0) + " kbit/s" : text;
 }
@@ -16,13 +16,11 @@ std::string name(std::uint32_t format, std::uint32_t strategy, double kbps) {
 
 std::optional<std::string> carriedOtherwise(AudioUnit unit) {
   const auto asked = encoderSettingOf(unit);
-  converter::EffectiveSetting used{};
-  UInt32 size = sizeof used;
-  const auto status = AudioUnitGetProperty(unit, converter::kConverterProperty_EffectiveSetting,
-                                           kAudioUnitScope_Global, 0, &used, &size);
-  if (status != noErr) return std::nullopt;
+  const auto used = readProperty(unit, converter::kConverterProperty_EffectiveSetting);
+  if (!used) return std::nullopt;
   const auto askedName = name(asked.format, asked.strategy, asked.rateKbps().value_or(0));
-  const auto usedName = name(used.format, used.strategy, used.bitRate / 1000.0);
+  const auto usedName = name(static_cast<float>(used->format), static_cast<float>(used->strategy),
+                             used->bitRate / 1000.0);
   if (askedName == usedName) return std::nullopt;
   return "the encoder cannot do " + askedName + " here and does " + usedName;
 }

@@ -3,27 +3,33 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <optional>
 #include <vector>
 
+#include "audio_unit/FactoryPresets.h"
+#include "contract/ConverterExtensions.h"
 #include "contract/ConverterInterface.h"
 #include "host/messages/Failure.h"
 
 namespace host {
 namespace {
 
-constexpr std::uint32_t kVbr = 2;
-constexpr std::uint32_t kHighestQuality = 127;
+using Words = std::array<std::string_view, 3>;
 
-constexpr std::array<std::string_view, 3> kFormatWords = {"aac", "he", "hev2"};
-constexpr std::array<std::string_view, 3> kStrategyWords = {"abr", "vbrc", "vbr"};
-constexpr std::array<std::string_view, 4> kPresetWords = {"plus", "128k", "streaming", "high"};
+/// By parameter value.
+constexpr Words kFormatWords = {"aac", "he", "hev2"};
+constexpr Words kStrategyWords = {"abr", "vbrc", "vbr"};
 
-template <std::size_t Count>
-std::optional<std::uint32_t> indexOf(const std::array<std::string_view, Count>& words,
-                                     std::string_view word) {
+std::optional<float> valueOf(const Words& words, std::string_view word) {
   const auto* const found = std::find(words.begin(), words.end(), word);
   if (found == words.end()) return std::nullopt;
-  return static_cast<std::uint32_t>(found - words.begin());
+  return static_cast<float>(found - words.begin());
+}
+
+template <class Code>
+std::string wordOf(const Words& words, std::optional<Code> code) {
+  return std::string(code ? words.at(static_cast<std::size_t>(*code)) : velk::kNoName);
 }
 
 [[noreturn]] void refuse(std::string_view text, const std::string& why) {
@@ -49,10 +55,9 @@ std::vector<std::string_view> fields(std::string_view text) {
   }
 }
 
-void setParameter(AudioUnit unit, AudioUnitParameterID id, std::uint32_t value) {
+void setParameter(AudioUnit unit, AudioUnitParameterID id, float value) {
   const AudioUnitParameter parameter{unit, id, kAudioUnitScope_Global, 0};
-  const auto status =
-      AUParameterSet(nullptr, nullptr, &parameter, static_cast<AudioUnitParameterValue>(value), 0);
+  const auto status = AUParameterSet(nullptr, nullptr, &parameter, value, 0);
   if (status != noErr) {
     throw Failure(
         Message::words("the converter refused the encoder setting (status %1); choose another one"),
@@ -60,95 +65,84 @@ void setParameter(AudioUnit unit, AudioUnitParameterID id, std::uint32_t value) 
   }
 }
 
-std::uint32_t parameter(AudioUnit unit, AudioUnitParameterID id) {
+float parameter(AudioUnit unit, AudioUnitParameterID id) {
   AudioUnitParameterValue value = 0;
   const auto status = AudioUnitGetParameter(unit, id, kAudioUnitScope_Global, 0, &value);
   if (status != noErr) {
-    throw Failure(
-        host::Message::words("the converter does not tell its encoder setting (status %1)"),
-        {status});
+    throw Failure(Message::words("the converter does not tell its encoder setting (status %1)"),
+                  {status});
   }
-  return static_cast<std::uint32_t>(std::max(value, 0.0F));
+  // A NaN is not above 0 either.
+  return value > 0 ? std::trunc(value) : 0.0F;
 }
 
 }  // namespace
 
-bool EncoderSetting::hasQuality() const {
-  return strategy == kVbr;
+std::string formatName(float format) {
+  const auto code = velk::formatOf(format);
+  return code ? nameOf(*code) : velk::kNoName;
 }
 
-std::optional<std::uint32_t> EncoderSetting::rateKbps() const {
-  if (hasQuality() || rateOrQuality >= velk::bitRates.size()) return std::nullopt;
-  return velk::bitRates.at(rateOrQuality);
-}
-
-std::string formatName(std::uint32_t format) {
-  constexpr std::array<const char*, 3> names = {"AAC", "AAC HE", "AAC HEv2"};
-  return format < names.size() ? names.at(format) : "-";
-}
-
-std::string strategyName(std::uint32_t strategy) {
-  constexpr std::array<const char*, 3> names = {"ABR", "VBRC", "VBR"};
-  return strategy < names.size() ? names.at(strategy) : "-";
+std::string strategyName(float strategy) {
+  const auto code = velk::strategyOf(strategy);
+  return code ? nameOf(*code) : velk::kNoName;
 }
 
 EncoderSetting parsedEncoderSetting(std::string_view text) {
   const auto parts = fields(text);
   if (parts.size() != 3) refuse(text, "give FORMAT,STRATEGY,RATE such as aac,vbrc,256");
-  const auto format = indexOf(kFormatWords, parts[0]);
+  const auto format = valueOf(kFormatWords, parts[0]);
   if (!format) refuse(text, "the format is aac, he or hev2");
-  const auto strategy = indexOf(kStrategyWords, parts[1]);
+  const auto strategy = valueOf(kStrategyWords, parts[1]);
   if (!strategy) refuse(text, "the strategy is abr, vbrc or vbr");
   std::uint32_t number = 0;
   const auto* const end = parts[2].data() + parts[2].size();
   const auto [rest, error] = std::from_chars(parts[2].data(), end, number);
   const bool isNumber = error == std::errc() && rest == end;
-  if (*strategy == kVbr) {
-    if (!isNumber || number > kHighestQuality) {
+  if (*strategy == velk::kStrategy_VBR) {
+    if (!isNumber || number > converter::kHighestQuality) {
       refuse(text, "for vbr the last value is a quality from 0 to 127");
     }
-    return {*format, *strategy, number};
+    return {*format, *strategy, static_cast<float>(number)};
   }
-  const auto* const rate = std::find(velk::bitRates.begin(), velk::bitRates.end(), number);
-  if (!isNumber || rate == velk::bitRates.end()) {
-    refuse(text, "the rate in kbit/s is one of " + rateList());
-  }
-  return {*format, *strategy, static_cast<std::uint32_t>(rate - velk::bitRates.begin())};
+  const auto rate = isNumber ? velk::rateIndexOf(number) : std::nullopt;
+  if (!rate) refuse(text, "the rate in kbit/s is one of " + rateList());
+  return {*format, *strategy, *rate};
 }
 
 std::string settingWords(const EncoderSetting& setting) {
-  return std::string(kFormatWords.at(setting.format)) + "," +
-         std::string(kStrategyWords.at(setting.strategy)) + "," +
-         std::to_string(setting.rateKbps().value_or(setting.rateOrQuality));
+  const auto number = setting.hasQuality() ? setting.quality() : setting.rateKbps();
+  return wordOf(kFormatWords, velk::formatOf(setting.format)) + "," +
+         wordOf(kStrategyWords, velk::strategyOf(setting.strategy)) + "," +
+         (number ? std::to_string(*number) : velk::kNoName);
 }
 
 std::string settingName(const EncoderSetting& setting) {
   const auto name = formatName(setting.format) + " " + strategyName(setting.strategy);
-  if (setting.hasQuality()) return name + " q" + std::to_string(setting.rateOrQuality);
-  const auto kbps = setting.rateKbps();
-  return kbps ? name + " " + std::to_string(*kbps) : name;
+  if (const auto quality = setting.quality()) return name + " q" + std::to_string(*quality);
+  if (const auto kbps = setting.rateKbps()) return name + " " + std::to_string(*kbps);
+  return name;
 }
 
-std::uint32_t presetIndex(std::string_view name) {
-  const auto index = indexOf(kPresetWords, name);
-  if (!index) {
-    throw UsageError("unknown preset '" + std::string(name) +
+const velk::EncoderPreset& presetNamed(std::string_view word) {
+  const auto* const preset =
+      std::ranges::find(velk::encoderPresets, word, &velk::EncoderPreset::word);
+  if (preset == velk::encoderPresets.end()) {
+    throw UsageError("unknown preset '" + std::string(word) +
                      "': the presets are plus, 128k, streaming and high");
   }
-  return *index;
+  return *preset;
 }
 
 void applyEncoderSetting(AudioUnit unit, const EncoderSetting& setting) {
-  AudioUnitParameterInfo info{};
-  UInt32 size = sizeof info;
-  const auto status =
-      AudioUnitGetProperty(unit, kAudioUnitProperty_ParameterInfo, kAudioUnitScope_Global,
-                           velk::kConverterParam_Format, &info, &size);
-  if (status == noErr && static_cast<float>(setting.format) > info.maxValue) {
-    throw Failure(info.maxValue >= 1 ? Message::words("the converter does not do %1 for this file; "
-                                                      "choose the format he or aac")
-                                     : Message::words("the converter does not do %1 for this file; "
-                                                      "choose the format aac"),
+  const auto info =
+      readProperty(unit, audio_unit::parameterInfoProperty, velk::kConverterParam_Format);
+  if (info && setting.format > info->maxValue) {
+    throw Failure(info->maxValue >= velk::kFormat_HE
+                      ? Message::words("the converter does not do %1 for this file; "
+                                       "choose the format he or aac")
+                      : Message::words("the converter does not do %1 for this file; "
+                                       "choose the format aac"),
                   {formatName(setting.format)});
   }
   setParameter(unit, velk::kConverterParam_Format, setting.format);
@@ -156,21 +150,13 @@ void applyEncoderSetting(AudioUnit unit, const EncoderSetting& setting) {
   setParameter(unit, velk::kConverterParam_RateQuality, setting.rateOrQuality);
 }
 
-void applyPreset(AudioUnit unit, std::uint32_t index) {
-  CFArrayRef presets = nullptr;
-  UInt32 size = sizeof(CFArrayRef);
-  auto status = AudioUnitGetProperty(unit, kAudioUnitProperty_FactoryPresets,
-                                     kAudioUnitScope_Global, 0, &presets, &size);
-  if (status == noErr && presets != nullptr) {
-    const auto* const preset = static_cast<CFIndex>(index) < CFArrayGetCount(presets)
-                                   ? static_cast<const AUPreset*>(CFArrayGetValueAtIndex(
-                                         presets, static_cast<CFIndex>(index)))
-                                   : nullptr;
-    status = preset == nullptr
-                 ? kAudioUnitErr_InvalidPropertyValue
-                 : AudioUnitSetProperty(unit, kAudioUnitProperty_PresentPreset,
-                                        kAudioUnitScope_Global, 0, preset, sizeof *preset);
-    CFRelease(presets);
+void applyPreset(AudioUnit unit, std::uint32_t number) {
+  const audio_unit::FactoryPresets presets(unit);
+  auto status = presets.status();
+  if (status == noErr) {
+    const auto* const preset = presets.at(number);
+    status = preset != nullptr ? writeProperty(unit, audio_unit::presentPresetProperty, *preset)
+                               : kAudioUnitErr_InvalidPropertyValue;
   }
   if (status != noErr) {
     throw Failure(

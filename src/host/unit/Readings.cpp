@@ -7,12 +7,11 @@ namespace host {
 namespace {
 
 template <class Data>
-Data property(AudioUnit unit, AudioUnitPropertyID id, Message::Words complaint) {
-  Data data{};
-  UInt32 size = sizeof data;
-  const auto status = AudioUnitGetProperty(unit, id, kAudioUnitScope_Global, 0, &data, &size);
-  if (status != noErr) throw Failure(complaint, {status});
-  return data;
+Data readOrThrow(AudioUnit unit, const audio_unit::Property<Data>& property,
+                 Message::Words complaint) {
+  const auto reading = readProperty(unit, property);
+  if (!reading) throw Failure(complaint, {reading.status()});
+  return *reading;
 }
 
 ChannelReading reading(const velk::TruePeakStats& stats) {
@@ -37,15 +36,14 @@ Readings readingsOf(converter::ConverterUnit& unit, AudioFormat format) {
   readings.format = format;
   readings.setting = encoderSettingOf(&unit);
   readings.bitRateKbps = static_cast<double>(
-      property<converter::BitRate>(
-          &unit, converter::kConverterProperty_BitRate,
-          Message::words("the converter does not tell its bit rate (status %1)"))
+      readOrThrow(&unit, converter::kConverterProperty_BitRate,
+                  Message::words("the converter does not tell its bit rate (status %1)"))
           .averageKbps);
   readings.latencySamples = unit.latency();
   readings.monitorsSource =
-      property<UInt32>(
-          &unit, velk::kConverterProperty_MonitorSource,
-          Message::words("the converter does not tell its monitored signal (status %1)")) != 0;
+      readOrThrow(&unit, velk::kConverterProperty_MonitorSource,
+                  Message::words("the converter does not tell its monitored signal (status %1)")) !=
+      0;
   readPeaks(unit, readings);
   return readings;
 }
@@ -56,9 +54,8 @@ Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format) {
 }
 
 velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit) {
-  return property<velk::PeakStatistics>(
-      &unit, velk::kConverterProperty_PeakStats,
-      host::Message::words("the converter does not tell its peak statistics (status %1)"));
+  return readOrThrow(&unit, velk::kConverterProperty_PeakStats,
+                     Message::words("the converter does not tell its peak statistics (status %1)"));
 }
 
 }  // namespace host

@@ -45,13 +45,9 @@ void appendRows(std::ostream& text, const char* signal,
 
 std::string asJson(const Readings& readings) {
   const auto& setting = readings.setting;
-  Json rate = nullptr;
-  Json quality = nullptr;
-  if (setting.hasQuality()) {
-    quality = setting.rateOrQuality;
-  } else if (const auto kbps = setting.rateKbps()) {
-    rate = *kbps;
-  }
+  const auto numberOrNull = [](std::optional<std::uint32_t> number) {
+    return number ? Json(*number) : Json(nullptr);
+  };
   const Json json = {{"file", readings.file},
                      {"seconds", rounded(readings.seconds, 6)},
                      {"sample_rate_hz", readings.format.sampleRate},
@@ -59,8 +55,8 @@ std::string asJson(const Readings& readings) {
                      {"setting",
                       {{"format", formatName(setting.format)},
                        {"strategy", strategyName(setting.strategy)},
-                       {"rate_kbps", rate},
-                       {"quality", quality}}},
+                       {"rate_kbps", numberOrNull(setting.rateKbps())},
+                       {"quality", numberOrNull(setting.quality())}}},
                      {"bit_rate_kbps", rounded(readings.bitRateKbps, 1)},
                      {"latency_samples", readings.latencySamples},
                      {"monitor", readings.monitorsSource ? "source" : "encoded"},
@@ -80,8 +76,8 @@ std::string asText(const Readings& readings) {
        << "Encoder   " << formatName(setting.format) << " " << strategyName(setting.strategy);
   if (const auto kbps = setting.rateKbps()) {
     text << " " << *kbps << " kbit/s";
-  } else {
-    text << " quality " << setting.rateOrQuality;
+  } else if (const auto quality = setting.quality()) {
+    text << " quality " << *quality;
   }
   text << ", really " << decimal(readings.bitRateKbps, 1) << " kbit/s\n"
        << "Latency   " << readings.latencySamples << " samples\n";

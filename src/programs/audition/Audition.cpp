@@ -15,17 +15,8 @@
 namespace host::audition {
 namespace {
 
-UInt32 monitorsSource(AudioUnit unit) {
-  UInt32 value = 0;
-  UInt32 size = sizeof value;
-  AudioUnitGetProperty(unit, velk::kConverterProperty_MonitorSource, kAudioUnitScope_Global, 0,
-                       &value, &size);
-  return value;
-}
-
 void monitorSource(AudioUnit unit, UInt32 value) {
-  const auto status = AudioUnitSetProperty(unit, velk::kConverterProperty_MonitorSource,
-                                           kAudioUnitScope_Global, 0, &value, sizeof value);
+  const auto status = writeProperty(unit, velk::kConverterProperty_MonitorSource, value);
   if (status != noErr) throw Failure(Message::words("the converter refused the monitored signal"));
 }
 
@@ -37,7 +28,7 @@ void applyOptions(const AuditionOptions& options, AudioUnit unit) {
 
 void copySettings(AudioUnit from, AudioUnit to) {
   applyEncoderSetting(to, encoderSettingOf(from));
-  monitorSource(to, monitorsSource(from));
+  monitorSource(to, readProperty(from, velk::kConverterProperty_MonitorSource).valueOr(0));
 }
 
 QString kiloHertz(std::uint32_t hertz) {

@@ -133,7 +133,7 @@ std::variant<AuditionOptions, HelpText> parseAuditionArguments(int argc, const c
       ->type_name("L,R");
   if (const auto text = parseArguments(app, argc, argv, codecTerms())) return *text;
   if (monitor) options.monitorsSource = monitorsSource(*monitor);
-  if (preset) options.preset = presetIndex(*preset);
+  if (preset) options.preset = presetNamed(*preset).number;
   if (channels) options.channels = parsedChannelChoice(*channels);
   if (setting) options.setting = parsedEncoderSetting(*setting);
   check(options);

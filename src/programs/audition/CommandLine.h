@@ -25,6 +25,7 @@ struct AuditionOptions {
   std::optional<std::string> device;
   std::optional<std::filesystem::path> record;
   std::optional<bool> monitorsSource;
+  /// A factory preset's number.
   std::optional<std::uint32_t> preset;
   std::optional<EncoderSetting> setting;
 };

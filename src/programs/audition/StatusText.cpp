@@ -15,15 +15,9 @@ class Status {
   Q_DECLARE_TR_FUNCTIONS(StatusText)
 };
 
-template <class Data>
-bool read(AudioUnit unit, AudioUnitPropertyID id, Data& data) {
-  UInt32 size = sizeof data;
-  return AudioUnitGetProperty(unit, id, kAudioUnitScope_Global, 0, &data, &size) == noErr;
-}
-
 QString settingText(const converter::EffectiveSetting& setting) {
-  const auto name =
-      QString::fromStdString(formatName(setting.format) + " " + strategyName(setting.strategy));
+  const auto name = QString::fromStdString(formatName(static_cast<float>(setting.format)) + " " +
+                                           strategyName(static_cast<float>(setting.strategy)));
   if (setting.vbrMode != 0) return Status::tr("%1 mode %2").arg(name).arg(setting.vbrMode);
   return Status::tr("%1 %2 kbit/s").arg(name, QLocale().toString(setting.bitRate / 1000.0, 'g', 4));
 }
@@ -31,26 +25,22 @@ QString settingText(const converter::EffectiveSetting& setting) {
 }  // namespace
 
 bool listeningTestRuns(AudioUnit unit) {
-  UInt32 runs = 0;
-  return read(unit, velk::kConverterProperty_ListeningTestActive, runs) && runs != 0;
+  return readProperty(unit, velk::kConverterProperty_ListeningTestActive).valueOr(0) != 0;
 }
 
 std::uint64_t lateFrames(converter::ConverterUnit& unit) {
-  UInt64 frames = 0;
-  read(&unit, converter::kConverterProperty_MissedFrames, frames);
-  return frames;
+  return readProperty(&unit, converter::kConverterProperty_MissedFrames).valueOr(0);
 }
 
 QString encoderText(converter::ConverterUnit& unit, double sampleRate) {
   if (listeningTestRuns(&unit)) return Status::tr("Listening test");
   QStringList parts;
-  converter::EffectiveSetting setting{};
-  if (read(&unit, converter::kConverterProperty_EffectiveSetting, setting)) {
-    parts << settingText(setting);
+  if (const auto setting = readProperty(&unit, converter::kConverterProperty_EffectiveSetting)) {
+    parts << settingText(*setting);
   }
-  converter::BitRate rate{};
-  if (read(&unit, converter::kConverterProperty_BitRate, rate) && rate.recentKbps > 0) {
-    parts << Status::tr("really %1 kbit/s").arg(QLocale().toString(rate.recentKbps, 'f', 1));
+  const auto rate = readProperty(&unit, converter::kConverterProperty_BitRate);
+  if (rate && rate->recentKbps > 0) {
+    parts << Status::tr("really %1 kbit/s").arg(QLocale().toString(rate->recentKbps, 'f', 1));
   }
   parts << Status::tr("latency %1 ms").arg(qRound(unit.latency() * 1000 / sampleRate));
   return parts.join(QStringLiteral("  ·  "));

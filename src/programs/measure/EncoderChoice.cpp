@@ -1,23 +1,18 @@
 #include "programs/measure/EncoderChoice.h"
 
 #include <algorithm>
-#include <string>
-
-#include "converter/unit/Presets.h"
 
 namespace host::measure {
 namespace {
 
-EncoderChoice choiceOf(std::uint32_t preset) {
-  const auto values = converter::presetValues(static_cast<SInt32>(preset)).value();
-  const auto code = [](float value) { return static_cast<std::uint32_t>(value); };
-  return {preset, {code(values.format), code(values.strategy), code(values.rateOrQuality)}};
+EncoderChoice choiceOf(const velk::EncoderPreset& preset) {
+  return {preset.number, preset.setting};
 }
 
 }  // namespace
 
 EncoderChoice presetChoice(std::string_view name) {
-  return choiceOf(presetIndex(name));
+  return choiceOf(presetNamed(name));
 }
 
 EncoderChoice settingChoice(std::string_view text) {
@@ -26,9 +21,7 @@ EncoderChoice settingChoice(std::string_view text) {
 
 std::vector<EncoderChoice> everyPreset() {
   std::vector<EncoderChoice> choices;
-  for (std::uint32_t preset = 0; preset < converter::kPresetCount; ++preset) {
-    choices.push_back(choiceOf(preset));
-  }
+  for (const auto& preset : velk::encoderPresets) choices.push_back(choiceOf(preset));
   return choices;
 }
 

@@ -9,8 +9,10 @@
 
 namespace host::measure {
 
-/// An encoder setting, chosen by itself or as a preset.
+/// An encoder setting, chosen by itself or as a preset. The unit refuses a format that it cannot do
+/// when it is chosen by itself, and carries it by the nearest one when a preset brings it.
 struct EncoderChoice {
+  /// The preset's number.
   std::optional<std::uint32_t> preset;
   EncoderSetting setting;
 };
@@ -22,7 +24,7 @@ EncoderChoice settingChoice(std::string_view text);
 /// All presets in their order.
 std::vector<EncoderChoice> everyPreset();
 
-/// The same setting twice would only be measured twice.
+/// Adds the choice unless its setting is among them: the same setting would only be measured twice.
 void addUnlessThere(std::vector<EncoderChoice>& choices, const EncoderChoice& choice);
 
 /// Throws `Failure` when the unit does not do it.

@@ -7,11 +7,8 @@
 namespace host::measure {
 namespace {
 
-UInt64 count(converter::ConverterUnit& unit, AudioUnitPropertyID what) {
-  UInt64 value = 0;
-  UInt32 size = sizeof value;
-  unit.getProperty(what, kAudioUnitScope_Global, 0, &value, size);
-  return value;
+UInt64 count(converter::ConverterUnit& unit, const audio_unit::Property<UInt64>& what) {
+  return readProperty(&unit, what).valueOr(0);
 }
 
 }  // namespace
@@ -20,9 +17,7 @@ Pass::Pass(AudioSource& source, const EncoderChoice& choice, float gain,
            converter::BitStreamSink* sink)
     : source_(source), format_(source.format()), gain_(gain) {
   unit_ = unitFor(format_);
-  const UInt32 offline = 1;
-  unit_->setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &offline,
-                     sizeof offline);
+  writeProperty(unit_.get(), audio_unit::offlineRenderProperty, 1);
   apply(choice, unit_.get());
   unit_->setBitStreamSink(sink);
   interleaved_.resize(std::size_t{unitBlockFrames} * format_.channels);

@@ -1,5 +1,5 @@
-#include "view/encoder_menu/EncoderSetting.h"
 #include "view/encoder_menu/EncoderTexts.h"
+#include "view/encoder_menu/SettingKey.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
 /// The encoder menu: it names the unit's setting and keeps the custom settings that were seen.
@@ -36,25 +36,23 @@ void Velk_AUAACConverterCustomView::updatePopup() {
     encoderPopup->selectItemAtIndex(encoderPopup->indexOfItemWithTag(kHighQualityTag));
     return;
   }
-  const float format = getFormat();
-  const float strategy = getStrategy();
-  const float rateQuality = getParameterValue(kConverterParam_RateQuality);
-  const ui::Dictionary setting = encoderSetting(format, strategy, rateQuality);
-  const int known = encoderPopup->indexOfItemWithRepresentedObject(setting);
+  const EncoderSetting setting = {getFormat(), getStrategy(),
+                                  getParameterValue(kConverterParam_RateQuality)};
+  const ui::Dictionary key = settingKey(setting);
+  const int known = encoderPopup->indexOfItemWithRepresentedObject(key);
   if (known >= 0) {
     encoderPopup->selectItemAtIndex(known);
     return;
   }
 
   const bool isVBR = getStrategy() == kStrategy_VBR;
-  const std::string title =
-      settingTitle(format, strategy, rateQuality, isVBR, toolkit_.bundle, toolkit_.localization);
+  const std::string title = settingTitle(setting, isVBR, toolkit_.bundle, toolkit_.localization);
   if (encoderPopup->numberOfItems() >= kMostItems) {
     encoderPopup->removeItemAtIndex(encoderPopup->numberOfItems() - 2);
   }
   encoderPopup->insertItemWithTitle(title, kFirstCustomIndex);
   if (ui::MenuItem* item = encoderPopup->itemAtIndex(kFirstCustomIndex)) {
-    item->setRepresentedObject(setting);
+    item->setRepresentedObject(key);
     item->setAction([this](ui::Object* sender) { setCustomFormat(sender); });
   }
   encoderPopup->selectItemAtIndex(kFirstCustomIndex);
@@ -66,10 +64,10 @@ void Velk_AUAACConverterCustomView::setCustomFormat(ui::Object* sender) {
     return;
   }
   // A copy, since the item may leave the menu before the last value is written.
-  const ui::Dictionary setting = *item->representedObject();
-  setFormat(setting.at(kFormatEntry));
-  setStrategy(setting.at(kStrategyEntry));
-  setParameterValue(kConverterParam_RateQuality, setting.at(kRateQualityEntry));
+  const EncoderSetting setting = settingOf(*item->representedObject());
+  setFormat(setting.format);
+  setStrategy(setting.strategy);
+  setParameterValue(kConverterParam_RateQuality, setting.rateOrQuality);
 }
 
 std::string Velk_AUAACConverterCustomView::getEncoderName() const {

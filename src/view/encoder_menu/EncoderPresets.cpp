@@ -1,7 +1,8 @@
-#include <memory>
-#include <string>
-#include <type_traits>
+#include "contract/EncoderPresets.h"
 
+#include <string>
+
+#include "audio_unit/FactoryPresets.h"
 #include "ui/Log.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
@@ -10,64 +11,52 @@ namespace velk {
 
 namespace {
 
-constexpr float kOndaraPlusRate = 14.0F;
-constexpr float kHighQualityRate = 16.0F;
-
-struct Release {
-  void operator()(CFArrayRef array) const { CFRelease(array); }
-};
-using OwnedArray = std::unique_ptr<std::remove_pointer_t<CFArrayRef>, Release>;
+/// Asks for no more than it takes: a rate is only there where the strategy has one.
+bool hasSetting(const Velk_AUAACConverterCustomView& view, const EncoderSetting& setting) {
+  return view.getFormat() == setting.format && view.getStrategy() == setting.strategy &&
+         view.getRate() == setting.rateOrQuality;
+}
 
 }  // namespace
 
 bool Velk_AUAACConverterCustomView::isEncoderOndaraPlus() const {
-  return getFormat() == kFormat_AAC && getStrategy() == kStrategy_VBRC &&
-         getRate() == kOndaraPlusRate;
+  return hasSetting(*this, kPreset_OndaraPlus.setting);
 }
 
 bool Velk_AUAACConverterCustomView::isEncoderHighQuality() const {
-  return getFormat() == kFormat_HE && getStrategy() == kStrategy_VBRC &&
-         getRate() == kHighQualityRate;
+  return hasSetting(*this, kPreset_HighQuality.setting);
 }
 
 void Velk_AUAACConverterCustomView::setPreset(UInt32 index) {
-  CFArrayRef list = nullptr;
-  UInt32 size = sizeof(CFArrayRef);
-  const OSStatus read = AudioUnitGetProperty(mAU, kAudioUnitProperty_FactoryPresets,
-                                             kAudioUnitScope_Global, 0, &list, &size);
-  if (read != noErr || list == nullptr) {
-    ui::log("unable to get presets " + std::to_string(read));
+  const audio_unit::FactoryPresets presets(mAU);
+  if (!presets) {
+    ui::log("unable to get presets " + std::to_string(presets.status()));
     return;
   }
-  const OwnedArray presets(list);
-  if (CFArrayGetCount(list) <= static_cast<CFIndex>(index)) {
-    return;
-  }
-  const void* preset = CFArrayGetValueAtIndex(list, static_cast<CFIndex>(index));
+  const AUPreset* preset = presets.at(index);
   if (preset == nullptr) {
     return;
   }
-  const OSStatus written = AudioUnitSetProperty(
-      mAU, kAudioUnitProperty_PresentPreset, kAudioUnitScope_Global, 0, preset, sizeof(AUPreset));
+  const OSStatus written = writeProperty(mAU, audio_unit::presentPresetProperty, *preset);
   if (written != noErr) {
     ui::log("unable to set preset " + std::to_string(index) + ": " + std::to_string(written));
   }
 }
 
 void Velk_AUAACConverterCustomView::setOndaraPlusEncoder(ui::Object* /*sender*/) {
-  setPreset(0);
+  setPreset(kPreset_OndaraPlus.number);
 }
 
 void Velk_AUAACConverterCustomView::set128KAACPreset(ui::Object* /*sender*/) {
-  setPreset(1);
+  setPreset(kPreset_128KAAC.number);
 }
 
 void Velk_AUAACConverterCustomView::setStreamingPreset(ui::Object* /*sender*/) {
-  setPreset(2);
+  setPreset(kPreset_Streaming.number);
 }
 
 void Velk_AUAACConverterCustomView::setHighQualityPreset(ui::Object* /*sender*/) {
-  setPreset(3);
+  setPreset(kPreset_HighQuality.number);
 }
 
 }  // namespace velk

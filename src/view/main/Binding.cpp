@@ -1,5 +1,6 @@
+#include "contract/EncoderPresets.h"
 #include "view/audition/Velk_AACEncodingViewAuditionController.h"
-#include "view/encoder_menu/EncoderSetting.h"
+#include "view/encoder_menu/SettingKey.h"
 #include "view/listening_test/Velk_AACEncodingViewListeningTestController.h"
 #include "view/main/Velk_AUAACConverterCustomView.h"
 
@@ -10,8 +11,6 @@ namespace {
 
 constexpr int k128KPresetTag = 2;
 constexpr int kStreamingPresetTag = 3;
-constexpr float kIndexOf128Kbps = 10.0F;
-constexpr float kIndexOf64Kbps = 7.0F;
 
 }  // namespace
 
@@ -30,9 +29,10 @@ void Velk_AUAACConverterCustomView::setAU(AudioUnit unit) {
     addPropertyListener(property);
   }
 
-  monitoringEncoder_ = propertyValue(kConverterProperty_MonitorSource, 0) == 0;
+  monitoringEncoder_ = readProperty(mAU, kConverterProperty_MonitorSource).valueOr(0) == 0;
   numChannels_ = getNumChannelsFromAudioUnit();
-  isPerformingListeningTest_ = propertyValue(kConverterProperty_ListeningTestActive, 0) != 0;
+  isPerformingListeningTest_ =
+      readProperty(mAU, kConverterProperty_ListeningTestActive).valueOr(0) != 0;
 
   auditionController->setOwner(this);
   listeningTestController->setOwner(this);
@@ -43,23 +43,19 @@ void Velk_AUAACConverterCustomView::setAU(AudioUnit unit) {
   tabView->setDelegate(this);
 
   hasHEV2_ = unitOffersHEV2();
-  attachSetting(k128KPresetTag, encoderSetting(kFormat_AAC, kStrategy_VBRC, kIndexOf128Kbps));
-  attachSetting(kStreamingPresetTag, encoderSetting(kFormat_HE, kStrategy_ABR, kIndexOf64Kbps));
+  attachKey(k128KPresetTag, settingKey(kPreset_128KAAC.setting));
+  attachKey(kStreamingPresetTag, settingKey(kPreset_Streaming.setting));
   updatePopup();
 }
 
 bool Velk_AUAACConverterCustomView::unitOffersHEV2() const {
-  AudioUnitParameterInfo info{};
-  UInt32 size = sizeof(info);
-  const OSStatus status =
-      AudioUnitGetProperty(mAU, kAudioUnitProperty_ParameterInfo, kAudioUnitScope_Global,
-                           kConverterParam_Format, &info, &size);
-  return status == noErr && info.maxValue == kFormat_HEv2;
+  const auto info = readProperty(mAU, audio_unit::parameterInfoProperty, kConverterParam_Format);
+  return info && info->maxValue == kFormat_HEv2;
 }
 
-void Velk_AUAACConverterCustomView::attachSetting(int tag, const ui::Dictionary& setting) {
+void Velk_AUAACConverterCustomView::attachKey(int tag, const ui::Dictionary& key) {
   if (ui::MenuItem* item = encoderPopup->itemAtIndex(encoderPopup->indexOfItemWithTag(tag))) {
-    item->setRepresentedObject(setting);
+    item->setRepresentedObject(key);
   }
 }
 

@@ -92,32 +92,13 @@ void Velk_AUAACConverterCustomView::setQuality(float quality) {
   setParameterValue(kConverterParam_RateQuality, quality);
 }
 
-UInt32 Velk_AUAACConverterCustomView::propertyValue(AudioUnitPropertyID property,
-                                                    UInt32 fallback) const {
-  UInt32 value = fallback;
-  UInt32 size = sizeof(value);
-  const OSStatus status =
-      AudioUnitGetProperty(mAU, property, kAudioUnitScope_Global, 0, &value, &size);
-  return status == noErr ? value : fallback;
-}
-
-OSStatus Velk_AUAACConverterCustomView::setPropertyValue(AudioUnitPropertyID property,
-                                                         UInt32 value) {
-  return AudioUnitSetProperty(mAU, property, kAudioUnitScope_Global, 0, &value, sizeof(value));
-}
-
 std::uint32_t Velk_AUAACConverterCustomView::getNumChannelsFromAudioUnit() const {
-  AudioStreamBasicDescription format{};
-  UInt32 size = sizeof(format);
-  const OSStatus status = AudioUnitGetProperty(mAU, kAudioUnitProperty_StreamFormat,
-                                               kAudioUnitScope_Output, 0, &format, &size);
-  return status == noErr ? format.mChannelsPerFrame : 0;
+  const auto format = readProperty(mAU, audio_unit::outputFormatProperty);
+  return format ? format->mChannelsPerFrame : 0;
 }
 
 void Velk_AUAACConverterCustomView::getPeakStats(PeakStatistics& block) const {
-  UInt32 size = sizeof(block);
-  const OSStatus status = AudioUnitGetProperty(mAU, kConverterProperty_PeakStats,
-                                               kAudioUnitScope_Global, 0, block.data(), &size);
+  const OSStatus status = readPropertyInto(block, mAU, kConverterProperty_PeakStats);
   if (status == noErr) {
     return;
   }
@@ -141,7 +122,7 @@ void Velk_AUAACConverterCustomView::isSourceClipped(bool& sourceClipped,
 }
 
 void Velk_AUAACConverterCustomView::resetClippingAndPeaks() {
-  const OSStatus status = setPropertyValue(kConverterProperty_ResetPeakStats, 1);
+  const OSStatus status = writeProperty(mAU, kConverterProperty_ResetPeakStats, 1);
   if (status != noErr) {
     ui::log("Unable to reset clipping and peak data- error from AU: " + std::to_string(status));
   }

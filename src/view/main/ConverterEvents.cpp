@@ -83,7 +83,8 @@ void Velk_AUAACConverterCustomView::priv_eventListener(void* object, const Audio
   ui::NotificationCenter& center = ui::NotificationCenter::defaultCenter();
   switch (changed) {
     case kConverterProperty_ListeningTestActive:
-      isPerformingListeningTest_ = propertyValue(kConverterProperty_ListeningTestActive, 0) != 0;
+      isPerformingListeningTest_ =
+          readProperty(mAU, kConverterProperty_ListeningTestActive).valueOr(0) != 0;
       center.post(auAACListeningTestStateChangedNotification, object);
       break;
     case kConverterProperty_ResetPeakStats:
@@ -92,7 +93,8 @@ void Velk_AUAACConverterCustomView::priv_eventListener(void* object, const Audio
     case kConverterProperty_MonitorSource:
       // The change may come from elsewhere. A read that fails keeps what is known.
       monitoringEncoder_ =
-          propertyValue(kConverterProperty_MonitorSource, monitoringEncoder_ ? 0 : 1) == 0;
+          readProperty(mAU, kConverterProperty_MonitorSource).valueOr(monitoringEncoder_ ? 0 : 1) ==
+          0;
       center.post(auAACSourceSelectionChangedNotification, object);
       break;
     default:

@@ -8,14 +8,14 @@
 namespace velk {
 
 void Velk_AUAACConverterCustomView::setPerformingListeningTest(bool performing) {
-  if (setPropertyValue(kConverterProperty_ListeningTestActive, performing ? 1 : 0) == noErr) {
+  if (writeProperty(mAU, kConverterProperty_ListeningTestActive, performing ? 1 : 0) == noErr) {
     isPerformingListeningTest_ = performing;
     encoderPopup->setEnabled(!performing);
   }
 }
 
 void Velk_AUAACConverterCustomView::monitorEncoder(bool encoded) {
-  const OSStatus status = setPropertyValue(kConverterProperty_MonitorSource, encoded ? 0 : 1);
+  const OSStatus status = writeProperty(mAU, kConverterProperty_MonitorSource, encoded ? 0 : 1);
   if (status != noErr) {
     ui::log("There was an error changing the source to monitor: " + std::to_string(status));
     return;

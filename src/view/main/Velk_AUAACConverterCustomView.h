@@ -139,11 +139,8 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
  private:
   void declareConnections();
   void addPropertyListener(AudioUnitPropertyID property);
-  /// Reads a UInt32 of the unit; `fallback` when that fails.
-  UInt32 propertyValue(AudioUnitPropertyID property, UInt32 fallback) const;
-  OSStatus setPropertyValue(AudioUnitPropertyID property, UInt32 value);
   bool unitOffersHEV2() const;
-  void attachSetting(int tag, const ui::Dictionary& setting);
+  void attachKey(int tag, const ui::Dictionary& key);
   bool isTornDown() const { return inUse_ == nullptr; }
   /// `work` as an end function that does nothing after the teardown.
   template <class Work>

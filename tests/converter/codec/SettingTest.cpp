@@ -10,9 +10,9 @@ namespace {
 
 using converter::Format;
 using converter::nearestSetting;
-using converter::ParameterValues;
 using converter::Strategy;
 using converter::UnitFormat;
+using velk::EncoderSetting;
 
 constexpr converter::EncoderAbilities kAll{.highEfficiency = true, .constrainedVbr = true};
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
@@ -22,7 +22,7 @@ UnitFormat at(double sampleRate, UInt32 channels) {
   return {.sampleRate = sampleRate, .channels = channels, .maximumFrames = 512};
 }
 
-std::uint32_t rateOf(const ParameterValues& values, const UnitFormat& unit) {
+std::uint32_t rateOf(const EncoderSetting& values, const UnitFormat& unit) {
   return nearestSetting(values, unit, kAll).bitRate;
 }
 

@@ -68,7 +68,7 @@ class UnitReadings : public testing::TestWithParam<Case> {
     Rig rig({.sampleRate = sampleRate, .channels = 2, .maximumFrames = 1024});
     rig.setPreset(preset);
     const Signal encoded = rig.renderAligned(source);
-    const auto read = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
+    const auto read = rig.property(velk::kConverterProperty_PeakStats);
     expectReadings(read[velk::kPeakStatsSlot_SourceLeft], source[0], sampleRate);
     expectReadings(read[velk::kPeakStatsSlot_SourceRight], source[1], sampleRate);
     expectReadings(read[velk::kPeakStatsSlot_EncodedLeft], encoded[0], sampleRate);

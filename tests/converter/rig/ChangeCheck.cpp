@@ -8,10 +8,10 @@
 #include "converter/codec/Encoder.h"
 #include "converter/transcoder/Latency.h"
 
-using converter::ParameterValues;
 using converter::Position;
 using converter::Setting;
 using converter::UnitFormat;
+using velk::EncoderSetting;
 
 namespace {
 
@@ -95,10 +95,10 @@ ChangeReport checkChanges(const UnitFormat& unit, const Signal& input, const Sig
   return report;
 }
 
-std::vector<ParameterValues> everySetting(int rates) {
+std::vector<EncoderSetting> everySetting(int rates) {
   constexpr float kRates[] = {9, 5, 14};
   constexpr float kQualities[] = {60, 5, 127};
-  std::vector<ParameterValues> settings;
+  std::vector<EncoderSetting> settings;
   for (const float format : {0.0F, 1.0F, 2.0F}) {
     for (const float strategy : {0.0F, 1.0F, 2.0F}) {
       for (int rate = 0; rate < rates; ++rate) {
@@ -130,7 +130,7 @@ std::vector<std::size_t> everyOrderedPair(std::size_t count) {
 }
 
 ChangeReport walkThroughEveryPair(const UnitFormat& unit,
-                                  const std::vector<ParameterValues>& settings,
+                                  const std::vector<EncoderSetting>& settings,
                                   std::size_t spacing) {
   constexpr std::size_t kBlock = 500;
   spacing = spacing / kBlock * kBlock;
@@ -140,12 +140,12 @@ ChangeReport walkThroughEveryPair(const UnitFormat& unit,
   std::vector<TakenChange> changes;
   Signal longer = input;
   for (auto& samples : longer) samples.resize(samples.size() + rig.unit().latency());
-  const auto apply = [&](const ParameterValues& values) {
+  const auto apply = [&](const EncoderSetting& values) {
     rig.setSetting(values.format, values.strategy, values.rateOrQuality);
   };
   const Signal output = rig.renderInBlocks(longer, [&](std::size_t at) {
     if (at % spacing == 0 && at / spacing < walk.size()) {
-      const ParameterValues& values = settings[walk[at / spacing]];
+      const EncoderSetting& values = settings[walk[at / spacing]];
       apply(values);
       changes.push_back({static_cast<Position>(at), values});
     }

@@ -9,7 +9,7 @@
 /// The setting that a unit adopted with the sample at `position`.
 struct TakenChange {
   converter::Position position;
-  converter::ParameterValues values;
+  velk::EncoderSetting values;
 };
 
 struct ChangeReport {
@@ -29,7 +29,7 @@ ChangeReport checkChanges(const converter::UnitFormat& unit, const Signal& input
                           const Signal& encoded, const std::vector<TakenChange>& changes);
 
 /// Every format with every strategy at so many rates or qualities (1 to 3) that are far apart.
-std::vector<converter::ParameterValues> everySetting(int rates);
+std::vector<velk::EncoderSetting> everySetting(int rates);
 
 /// A sequence of indices below `count` in which each follows each other one exactly once.
 std::vector<std::size_t> everyOrderedPair(std::size_t count);
@@ -37,5 +37,5 @@ std::vector<std::size_t> everyOrderedPair(std::size_t count);
 /// Takes one unit through every ordered pair of the settings, a change every `spacing` samples, and
 /// checks its output.
 ChangeReport walkThroughEveryPair(const converter::UnitFormat& unit,
-                                  const std::vector<converter::ParameterValues>& settings,
+                                  const std::vector<velk::EncoderSetting>& settings,
                                   std::size_t spacing);

@@ -1,7 +1,5 @@
 #include "Rig.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <array>
 
@@ -22,38 +20,21 @@ void Rig::setSetting(float format, float strategy, float rateOrQuality) {
 }
 
 void Rig::setPreset(SInt32 number) {
-  const AUPreset preset{number, nullptr};
-  ASSERT_EQ(unit_->setProperty(kAudioUnitProperty_PresentPreset, kAudioUnitScope_Global, 0, &preset,
-                               sizeof preset),
-            noErr);
+  setProperty(audio_unit::presentPresetProperty, {number, nullptr});
 }
 
 void Rig::setOffline(bool offline) {
-  const UInt32 value = offline ? 1 : 0;
-  ASSERT_EQ(unit_->setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &value,
-                               sizeof value),
-            noErr);
+  setProperty(audio_unit::offlineRenderProperty, offline ? 1 : 0);
 }
 
 void Rig::monitorSource(bool source) {
-  const UInt32 value = source ? 1 : 0;
-  ASSERT_EQ(unit_->setProperty(velk::kConverterProperty_MonitorSource, kAudioUnitScope_Global, 0,
-                               &value, sizeof value),
-            noErr);
+  setProperty(velk::kConverterProperty_MonitorSource, source ? 1 : 0);
 }
 
 float Rig::parameter(AudioUnitParameterID id) {
   float value = -1;
   EXPECT_EQ(unit_->getParameter(id, kAudioUnitScope_Global, 0, value), noErr);
   return value;
-}
-
-void Rig::read(AudioUnitPropertyID id, void* data, UInt32 size) {
-  UInt32 written = size;
-  const AudioUnitScope scope =
-      id == kAudioUnitProperty_StreamFormat ? kAudioUnitScope_Output : kAudioUnitScope_Global;
-  ASSERT_EQ(unit_->getProperty(id, scope, 0, data, written), noErr);
-  ASSERT_EQ(written, size);
 }
 
 Signal Rig::render(const Signal& input, std::size_t block) {

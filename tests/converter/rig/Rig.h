@@ -1,7 +1,10 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <memory>
+#include <type_traits>
 
 #include "Signals.h"
 #include "WorkerGate.h"
@@ -34,13 +37,18 @@ class Rig {
   void monitorSource(bool source);
   float parameter(AudioUnitParameterID id);
 
-  template <typename Value>
-  Value property(AudioUnitPropertyID id) {
-    Value value{};
-    read(id, &value, sizeof(Value));
-    return value;
+  template <typename Data>
+  Data property(const audio_unit::Property<Data>& property, AudioUnitElement element = 0) {
+    const auto reading = readProperty(unit_.get(), property, element);
+    EXPECT_EQ(reading.status(), noErr);
+    return *reading;
   }
-  UInt64 missedFrames() { return property<UInt64>(converter::kConverterProperty_MissedFrames); }
+  template <typename Data>
+  void setProperty(const audio_unit::Property<Data>& property,
+                   const std::type_identity_t<Data>& data) {
+    ASSERT_EQ(writeProperty(unit_.get(), property, data), noErr);
+  }
+  UInt64 missedFrames() { return property(converter::kConverterProperty_MissedFrames); }
 
   /// Renders the input in blocks of `block` frames; returns the output with its latency.
   Signal render(const Signal& input, std::size_t block = 512);
@@ -56,8 +64,6 @@ class Rig {
   Signal renderAligned(const Signal& input, std::size_t block = 512);
 
  private:
-  void read(AudioUnitPropertyID id, void* data, UInt32 size);
-
   converter::UnitFormat format_;
   WorkerGate gate_;
   std::unique_ptr<converter::ConverterUnit> unit_;

@@ -24,10 +24,9 @@ class Announcements : public testing::Test {
       event.mArgument.mParameter = {&rig_.unit(), id, kAudioUnitScope_Global, 0};
       AUEventListenerAddEventType(listener_, this, &event);
     }
-    for (const AudioUnitPropertyID id :
-         {velk::kConverterProperty_MonitorSource, velk::kConverterProperty_ResetPeakStats,
-          velk::kConverterProperty_ListeningTestActive,
-          AudioUnitPropertyID{kAudioUnitProperty_PresentPreset}}) {
+    for (const AudioUnitPropertyID id : std::initializer_list<AudioUnitPropertyID>{
+             velk::kConverterProperty_MonitorSource, velk::kConverterProperty_ResetPeakStats,
+             velk::kConverterProperty_ListeningTestActive, audio_unit::presentPresetProperty}) {
       AudioUnitEvent event{kAudioUnitEvent_PropertyChange, {}};
       event.mArgument.mProperty = {&rig_.unit(), id, kAudioUnitScope_Global, 0};
       AUEventListenerAddEventType(listener_, this, &event);

@@ -49,9 +49,7 @@ class AudioThread : public testing::Test {
     if (at % 12800 == 0) rig_.setPreset(static_cast<SInt32>(at / 12800 % 4));
     if (at % 9600 == 0) rig_.monitorSource(at / 9600 % 2 == 1);
     if (at % 32000 == 0) {
-      const UInt32 one = 1;
-      rig_.unit().setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global, 0,
-                              &one, sizeof one);
+      rig_.setProperty(velk::kConverterProperty_ResetPeakStats, 1);
     }
   }
 

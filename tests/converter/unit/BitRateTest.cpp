@@ -5,7 +5,7 @@
 namespace {
 
 converter::BitRate bitRate(Rig& rig) {
-  return rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
+  return rig.property(converter::kConverterProperty_BitRate);
 }
 
 /// How far from its target a rate may be after three seconds; libavcodec's encoder settles later.

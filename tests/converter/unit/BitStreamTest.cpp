@@ -110,7 +110,7 @@ TEST_P(BitStreamAt, IsCompleteOnceTheCodecWasWaitedFor) {
   rig.unit().waitForCodec();
   const auto units = recorder.streams.at(0).units.size();
   EXPECT_GT(recorder.streams[0].units.back().position, 0);
-  const auto rate = rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
+  const auto rate = rig.property(converter::kConverterProperty_BitRate);
   // No work was left.
   rig.unit().waitForCodec();
   rig.unit().setBitStreamSink(nullptr);
@@ -122,8 +122,7 @@ TEST_P(BitStreamAt, IsCompleteOnceTheCodecWasWaitedFor) {
   patient.render(music(2, 20480, GetParam()));
   patient.unit().waitForCodec();
   EXPECT_EQ(whole.streams.at(0).units.size(), units);
-  EXPECT_EQ(patient.property<converter::BitRate>(converter::kConverterProperty_BitRate).averageKbps,
-            rate.averageKbps);
+  EXPECT_EQ(patient.property(converter::kConverterProperty_BitRate).averageKbps, rate.averageKbps);
 }
 
 INSTANTIATE_TEST_SUITE_P(EitherWay, BitStreamAt, testing::Values(44100.0, 192000.0),

@@ -49,23 +49,13 @@ class CodecFailure : public testing::Test {
           if (isRefused(setting)) throw std::runtime_error("no encoder today");
           return openEncoder(setting, format);
         }) {
-    const UInt32 one = 1;
-    unit_.setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &one,
-                      sizeof one);
+    writeProperty(&unit_, audio_unit::offlineRenderProperty, 1);
   }
 
-  template <typename Value>
-  Value property(AudioUnitPropertyID id) {
-    Value value{};
-    UInt32 size = sizeof value;
-    EXPECT_EQ(unit_.getProperty(id, kAudioUnitScope_Global, 0, &value, size), noErr);
-    return value;
-  }
-  UInt64 failures() { return property<UInt64>(converter::kConverterProperty_CodecFailures); }
-  UInt64 missed() { return property<UInt64>(converter::kConverterProperty_MissedFrames); }
+  UInt64 failures() { return *readProperty(&unit_, converter::kConverterProperty_CodecFailures); }
+  UInt64 missed() { return *readProperty(&unit_, converter::kConverterProperty_MissedFrames); }
   UInt32 effectiveRate() {
-    return property<converter::EffectiveSetting>(converter::kConverterProperty_EffectiveSetting)
-        .bitRate;
+    return readProperty(&unit_, converter::kConverterProperty_EffectiveSetting)->bitRate;
   }
   void setRate(float index) {
     unit_.setParameter(velk::kConverterParam_Strategy, kAudioUnitScope_Global, 0, 0, 0);
@@ -167,8 +157,7 @@ TEST(CodecFailureOfAUnit, AtTheStartIsThrown) {
 
 TEST(CodecFailureOfAnAccessUnit, IsCountedAndLeavesTheRestInItsPlace) {
   const auto render = [](converter::AacConverter& unit, const Signal& input) {
-    const UInt32 one = 1;
-    unit.setProperty(kAudioUnitProperty_OfflineRender, kAudioUnitScope_Global, 0, &one, sizeof one);
+    writeProperty(&unit, audio_unit::offlineRenderProperty, 1);
     Signal output = silence(2, input[0].size());
     for (std::size_t at = 0; at + 500 <= input[0].size(); at += 500) {
       const std::array<const float*, 2> in{input[0].data() + at, input[1].data() + at};
@@ -184,11 +173,7 @@ TEST(CodecFailureOfAnAccessUnit, IsCountedAndLeavesTheRestInItsPlace) {
   });
   const Signal expected = render(whole, input);
   const Signal output = render(failing, input);
-  UInt64 failures = 0;
-  UInt32 size = sizeof failures;
-  failing.getProperty(converter::kConverterProperty_CodecFailures, kAudioUnitScope_Global, 0,
-                      &failures, size);
-  EXPECT_EQ(failures, 3U);
+  EXPECT_EQ(*readProperty(&failing, converter::kConverterProperty_CodecFailures), 3U);
   EXPECT_LT(residual(expected[0], output[0], 60000, 80000), -60);
   EXPECT_GT(residual(expected[0], output[0], 15000, 60000), -30) << "nothing was lost";
 }

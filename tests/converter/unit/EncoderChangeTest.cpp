@@ -177,7 +177,7 @@ std::vector<TakenChange> adoptedChanges(const std::vector<Setting>& settings, st
   for (std::size_t number = 0; number < count + 16; ++number) {
     const auto position = static_cast<converter::Position>(256 * number);
     const Setting& asked = settings[std::min(number, count - 1) % settings.size()];
-    const converter::ParameterValues values{asked.format, asked.strategy, asked.rateOrQuality};
+    const velk::EncoderSetting values{asked.format, asked.strategy, asked.rateOrQuality};
     if (position < next || (!taken.empty() && taken.back().values == values)) continue;
     if (position > 0) next = position + 2048;
     taken.push_back({position, values});

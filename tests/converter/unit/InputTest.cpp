@@ -53,21 +53,17 @@ TEST_P(Input, GivesFiniteEncodedSoundAndLeavesTheUnitInOrder) {
         ASSERT_LT(std::fabs(sample), 4);
       }
     }
-    for (const auto& record :
-         rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats)) {
+    for (const auto& record : rig.property(velk::kConverterProperty_PeakStats)) {
       EXPECT_TRUE(std::isfinite(record.mSamplePeak));
       EXPECT_TRUE(std::isfinite(record.mInterSamplePeak));
     }
     const Signal source = music(2, kFrames, 44100);
     // Once all of it has left the unit, it leaves no trace in the readings.
     rig.render(silence(2, rig.unit().latency() + 1024));
-    const UInt32 one = 1;
-    ASSERT_EQ(rig.unit().setProperty(velk::kConverterProperty_ResetPeakStats,
-                                     kAudioUnitScope_Global, 0, &one, sizeof one),
-              noErr);
+    rig.setProperty(velk::kConverterProperty_ResetPeakStats, 1);
     const Signal encoded = rig.renderAligned(source);
     EXPECT_LT(residual(source[0], encoded[0], 15000, kFrames - 4096), -8);
-    const auto after = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
+    const auto after = rig.property(velk::kConverterProperty_PeakStats);
     const auto peakOf = [](const std::vector<float>& samples) {
       float peak = 0;
       for (const float sample : samples) peak = std::max(peak, std::fabs(sample));

@@ -20,7 +20,7 @@ TEST(Latency, IsTheSameForEverySampleRateThatAacKnowsChannelCountAndSetting) {
       for (const float format : {0.0F, 1.0F, 2.0F}) {
         rig.setSetting(format, velk::kStrategy_ABR, 10);
         EXPECT_EQ(rig.unit().latency(), 15298U);
-        EXPECT_DOUBLE_EQ(rig.property<Float64>(kAudioUnitProperty_Latency), 15298 / sampleRate);
+        EXPECT_DOUBLE_EQ(rig.property(audio_unit::latencyProperty), 15298 / sampleRate);
       }
     }
   }
@@ -30,7 +30,7 @@ TEST(Latency, AboveTheRatesOfAacHasTheResamplersBesides) {
   for (const double sampleRate : {176400.0, 192000.0}) {
     Rig rig({.sampleRate = sampleRate, .channels = 2, .maximumFrames = 4096});
     EXPECT_EQ(rig.unit().latency(), 2 * (7106 + 2048 + 2048) + 2048 + 2 * 2048 + 4096U);
-    EXPECT_DOUBLE_EQ(rig.property<Float64>(kAudioUnitProperty_Latency), 32644 / sampleRate);
+    EXPECT_DOUBLE_EQ(rig.property(audio_unit::latencyProperty), 32644 / sampleRate);
   }
 }
 

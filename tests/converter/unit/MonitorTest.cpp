@@ -15,7 +15,7 @@ constexpr std::size_t kAround = 2205;
 
 TEST(Monitor, SendsTheEncodedSignalAtFirst) {
   Rig rig;
-  EXPECT_EQ(rig.property<UInt32>(velk::kConverterProperty_MonitorSource), 0U);
+  EXPECT_EQ(rig.property(velk::kConverterProperty_MonitorSource), 0U);
   const Signal source = music(2, 44100, 44100);
   const Signal output = rig.renderAligned(source);
   EXPECT_NE(output, source);
@@ -35,10 +35,8 @@ TEST(Monitor, SendsTheSourceBitForBit) {
 TEST(Monitor, TakesAnyValueButZeroForTheSource) {
   Rig rig;
   const UInt32 value = 0x80000000U;
-  ASSERT_EQ(rig.unit().setProperty(velk::kConverterProperty_MonitorSource, kAudioUnitScope_Global,
-                                   0, &value, sizeof value),
-            noErr);
-  EXPECT_EQ(rig.property<UInt32>(velk::kConverterProperty_MonitorSource), value);
+  rig.setProperty(velk::kConverterProperty_MonitorSource, value);
+  EXPECT_EQ(rig.property(velk::kConverterProperty_MonitorSource), value);
   rig.render(silence(2, 1024));
   const Signal source = music(2, 22050, 44100);
   EXPECT_EQ(rig.renderAligned(source), source);

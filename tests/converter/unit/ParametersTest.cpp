@@ -74,12 +74,7 @@ TEST(Parameters, PublishTheSettingOfTheirLastValuesWhoeverWrote) {
 }
 
 AudioUnitParameterInfo infoOf(Rig& rig, AudioUnitElement parameter) {
-  AudioUnitParameterInfo info{};
-  UInt32 size = sizeof info;
-  EXPECT_EQ(rig.unit().getProperty(kAudioUnitProperty_ParameterInfo, kAudioUnitScope_Global,
-                                   parameter, &info, size),
-            noErr);
-  return info;
+  return rig.property(audio_unit::parameterInfoProperty, parameter);
 }
 
 TEST(ParameterInfo, OffersTheFormatsThatChannelsAndBuildAllow) {
@@ -106,7 +101,7 @@ TEST(ParameterInfo, HasNameRangeAndDefaultOfEveryParameter) {
 }
 
 converter::EffectiveSetting effective(Rig& rig) {
-  return rig.property<converter::EffectiveSetting>(converter::kConverterProperty_EffectiveSetting);
+  return rig.property(converter::kConverterProperty_EffectiveSetting);
 }
 
 TEST(EffectiveSetting, IsWhatTheParametersAskWhereTheEncoderCan) {

@@ -3,56 +3,35 @@
 #include <string>
 
 #include "Rig.h"
+#include "audio_unit/FactoryPresets.h"
 
 namespace {
 
-constexpr AudioUnitScope kGlobal = kAudioUnitScope_Global;
-
-/// The unit's preset list, released on destruction.
-class FactoryPresets {
- public:
-  explicit FactoryPresets(Rig& rig)
-      : array_(rig.property<CFArrayRef>(kAudioUnitProperty_FactoryPresets)) {}
-  FactoryPresets(const FactoryPresets&) = delete;
-  FactoryPresets& operator=(const FactoryPresets&) = delete;
-  ~FactoryPresets() { CFRelease(array_); }
-
-  CFIndex count() const { return CFArrayGetCount(array_); }
-  const AUPreset& at(CFIndex index) const {
-    return *static_cast<const AUPreset*>(CFArrayGetValueAtIndex(array_, index));
-  }
-
- private:
-  CFArrayRef array_;
-};
-
 AUPreset presentPreset(Rig& rig) {
-  return rig.property<AUPreset>(kAudioUnitProperty_PresentPreset);
+  return rig.property(audio_unit::presentPresetProperty);
 }
 
 TEST(Presets, AreFourInOrder) {
   Rig rig;
-  const FactoryPresets presets(rig);
+  const audio_unit::FactoryPresets presets(&rig.unit());
   ASSERT_EQ(presets.count(), 4);
-  for (SInt32 i = 0; i < 4; ++i) EXPECT_EQ(presets.at(i).presetNumber, i);
-  EXPECT_STREQ(CFStringGetUTF8Ptr(presets.at(0).presetName), "Ondara Plus");
+  for (UInt32 i = 0; i < 4; ++i) EXPECT_EQ(presets.at(i)->presetNumber, static_cast<SInt32>(i));
+  EXPECT_STREQ(CFStringGetUTF8Ptr(presets.at(0)->presetName), "Ondara Plus");
 }
 
 TEST(Presets, SetAllThreeParameters) {
   const float expected[4][3] = {{0, 1, 14}, {0, 1, 10}, {1, 0, 7}, {1, 1, 16}};
   Rig rig;
-  const FactoryPresets presets(rig);
-  for (const CFIndex index : {3, 1, 2, 0}) {
-    ASSERT_EQ(rig.unit().setProperty(kAudioUnitProperty_PresentPreset, kGlobal, 0,
-                                     &presets.at(index), sizeof(AUPreset)),
-              noErr);
+  const audio_unit::FactoryPresets presets(&rig.unit());
+  for (const UInt32 index : {3U, 1U, 2U, 0U}) {
+    rig.setProperty(audio_unit::presentPresetProperty, *presets.at(index));
     for (AudioUnitParameterID id = 0; id < 3; ++id) {
       EXPECT_EQ(rig.parameter(id), expected[index][id]) << index;
     }
     const AUPreset present = presentPreset(rig);
-    EXPECT_EQ(present.presetNumber, index);
+    EXPECT_EQ(present.presetNumber, static_cast<SInt32>(index));
     EXPECT_STREQ(CFStringGetUTF8Ptr(present.presetName),
-                 CFStringGetUTF8Ptr(presets.at(index).presetName));
+                 CFStringGetUTF8Ptr(presets.at(index)->presetName));
     CFRelease(present.presetName);
   }
 }
@@ -61,9 +40,7 @@ TEST(Presets, ThatDoNotExistAreRefused) {
   Rig rig;
   rig.setPreset(2);
   for (const SInt32 number : {-1, 4, 2147483647}) {
-    const AUPreset preset{number, nullptr};
-    EXPECT_EQ(rig.unit().setProperty(kAudioUnitProperty_PresentPreset, kGlobal, 0, &preset,
-                                     sizeof preset),
+    EXPECT_EQ(writeProperty(&rig.unit(), audio_unit::presentPresetProperty, {number, nullptr}),
               kAudioUnitErr_InvalidPropertyValue);
   }
   EXPECT_EQ(rig.parameter(velk::kConverterParam_Format), 1);
@@ -87,8 +64,8 @@ TEST(Presets, OutliveTheUnitThatNamedThem) {
   AUPreset kept{};
   {
     Rig rig;
-    const FactoryPresets presets(rig);
-    kept = presets.at(0);
+    const audio_unit::FactoryPresets presets(&rig.unit());
+    kept = *presets.at(0);
     name = CFStringGetUTF8Ptr(kept.presetName);
   }
   EXPECT_EQ(CFStringGetUTF8Ptr(kept.presetName), name);

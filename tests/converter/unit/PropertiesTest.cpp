@@ -1,10 +1,15 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 #include <cstring>
 #include <stdexcept>
+#include <vector>
 
 #include "Rig.h"
+#include "audio_unit/RunLoop.h"
+#include "converter/unit/AacConverter.h"
 
 namespace {
 
@@ -28,18 +33,17 @@ TEST(Properties, ShowTheStreamFormatOnInputAndOutput) {
 
 TEST(Properties, ShowTheLargestBlock) {
   Rig rig({.sampleRate = 48000, .channels = 2, .maximumFrames = 777});
-  EXPECT_EQ(rig.property<UInt32>(kAudioUnitProperty_MaximumFramesPerSlice), 777U);
+  EXPECT_EQ(rig.property(audio_unit::maximumFramesProperty), 777U);
 }
 
 TEST(Properties, KeepFlagsAsWritten) {
   Rig rig;
-  for (const AudioUnitPropertyID id :
+  for (const auto& flag :
        {velk::kConverterProperty_ListeningTestActive, velk::kConverterProperty_MonitorSource,
-        AudioUnitPropertyID{kAudioUnitProperty_OfflineRender},
-        converter::kConverterProperty_Metering}) {
+        audio_unit::offlineRenderProperty, converter::kConverterProperty_Metering}) {
     for (const UInt32 value : {0U, 1U, 7U, 0U}) {
-      ASSERT_EQ(rig.unit().setProperty(id, kGlobal, 0, &value, sizeof value), noErr);
-      EXPECT_EQ(rig.property<UInt32>(id), value);
+      rig.setProperty(flag, value);
+      EXPECT_EQ(rig.property(flag), value) << flag.id;
     }
   }
 }
@@ -67,6 +71,115 @@ constexpr Reading kReadings[] = {
     {converter::kConverterProperty_CodecFailures, kGlobal, 8},
     {converter::kConverterProperty_Metering, kGlobal, 4},
 };
+
+/// Every property that the unit declares, each at the first place where it is offered.
+struct Declared {
+  const converter::PropertyDeclaration& property;
+  AudioUnitScope scope;
+};
+
+std::vector<Declared> declaredProperties() {
+  std::vector<Declared> list;
+  for (const auto& property : converter::AacConverter::properties()) {
+    const bool isGlobal = property.place().check(kGlobal, 0) == noErr;
+    list.push_back({property, isGlobal ? kGlobal : AudioUnitScope{kAudioUnitScope_Output}});
+  }
+  return list;
+}
+
+TEST(DeclaredProperties, AreThoseOfTheListBelowAndTheRequest) {
+  std::vector<AudioUnitPropertyID> declared;
+  for (const auto& [property, scope] : declaredProperties()) {
+    declared.push_back(property.id());
+    EXPECT_TRUE(property.isReadable() || property.isWritable());
+  }
+  std::vector<AudioUnitPropertyID> expected = {velk::kConverterProperty_ResetPeakStats};
+  for (const Reading& reading : kReadings) expected.push_back(reading.id);
+  EXPECT_THAT(declared, testing::UnorderedElementsAreArray(expected));
+}
+
+/// Counts the announcements of one property.
+class PropertyListener {
+ public:
+  PropertyListener(converter::ConverterUnit& unit, AudioUnitPropertyID id) {
+    AUEventListenerCreate(&PropertyListener::receive, this, &loop_, kCFRunLoopCommonModes, 0.05F,
+                          0.05F, &listener_);
+    AudioUnitEvent event{kAudioUnitEvent_PropertyChange, {}};
+    event.mArgument.mProperty = {&unit, id, kGlobal, 0};
+    AUEventListenerAddEventType(listener_, this, &event);
+  }
+  PropertyListener(const PropertyListener&) = delete;
+  PropertyListener& operator=(const PropertyListener&) = delete;
+  ~PropertyListener() { AUListenerDispose(listener_); }
+
+  int heard() {
+    loop_.pump(audio_unit::RunLoop::TimePoint(std::chrono::hours(1)));
+    return heard_;
+  }
+
+ private:
+  static void receive(void* self, void*, const AudioUnitEvent*, UInt64, float) {
+    ++static_cast<PropertyListener*>(self)->heard_;
+  }
+
+  audio_unit::RunLoop loop_;
+  AUEventListenerRef listener_ = nullptr;
+  int heard_ = 0;
+};
+
+/// What a read leaves of a buffer that was full of `filler`.
+std::vector<unsigned char> bytesRead(Rig& rig, const Declared& declared, unsigned char filler) {
+  std::vector<unsigned char> data(declared.property.size() + 1, filler);
+  auto size = static_cast<UInt32>(data.size());
+  EXPECT_EQ(rig.unit().getProperty(declared.property.id(), declared.scope, 0, data.data(), size),
+            noErr);
+  EXPECT_EQ(size, declared.property.size());
+  return data;
+}
+
+TEST(DeclaredProperties, FillAllOfTheirDataAndNothingBehindIt) {
+  Rig rig;
+  for (const Declared& declared : declaredProperties()) {
+    if (!declared.property.isReadable()) continue;
+    SCOPED_TRACE(declared.property.id());
+    const auto first = bytesRead(rig, declared, 0xa5);
+    const auto second = bytesRead(rig, declared, 0x5a);
+    for (std::size_t i = 0; i < first.size(); ++i) {
+      const bool isLeftAlone = first[i] == 0xa5 && second[i] == 0x5a;
+      EXPECT_EQ(isLeftAlone, i == declared.property.size()) << "byte " << i;
+    }
+  }
+}
+
+TEST(DeclaredProperties, TakeWhatIsWrittenIfTheyAreWritable) {
+  Rig rig;
+  for (const Declared& declared : declaredProperties()) {
+    if (!declared.property.isWritable()) continue;
+    SCOPED_TRACE(declared.property.id());
+    // Each begins with a number, and a preset's is not the first one's.
+    for (const unsigned char number : {2, 1}) {
+      std::vector<unsigned char> data(declared.property.size());
+      data[0] = number;
+      ASSERT_EQ(rig.unit().setProperty(declared.property.id(), declared.scope, 0, data.data(),
+                                       declared.property.size()),
+                noErr);
+      if (declared.property.isReadable()) EXPECT_EQ(bytesRead(rig, declared, 0xa5)[0], number);
+    }
+  }
+}
+
+TEST(DeclaredProperties, AreAnnouncedWhenTheyAreWritten) {
+  Rig rig;
+  for (const Declared& declared : declaredProperties()) {
+    if (!declared.property.isWritable()) continue;
+    SCOPED_TRACE(declared.property.id());
+    PropertyListener listener(rig.unit(), declared.property.id());
+    const std::vector<unsigned char> zeros(declared.property.size());
+    rig.unit().setProperty(declared.property.id(), declared.scope, 0, zeros.data(),
+                           declared.property.size());
+    EXPECT_EQ(listener.heard(), 1);
+  }
+}
 
 TEST(Properties, NameWhatIsWrongWithAReading) {
   Rig rig;

@@ -92,10 +92,7 @@ TEST(Resampled, IsSilentAndCountedWhereTheWorkerIsLateAndInPlaceAfterwards) {
 TEST(Resampled, UsesTheSettingsOfHalfTheRate) {
   Rig rig({.sampleRate = 176400, .channels = 2, .maximumFrames = 512});
   rig.setSetting(0, 0, 0);
-  EXPECT_EQ(
-      rig.property<converter::EffectiveSetting>(converter::kConverterProperty_EffectiveSetting)
-          .bitRate,
-      24807U);
+  EXPECT_EQ(rig.property(converter::kConverterProperty_EffectiveSetting).bitRate, 24807U);
 }
 
 using converter::RateChange;

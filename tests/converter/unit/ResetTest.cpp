@@ -5,7 +5,7 @@
 namespace {
 
 void expectStatistics(Rig& rig, const velk::PeakStatistics& expected) {
-  const auto read = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
+  const auto read = rig.property(velk::kConverterProperty_PeakStats);
   for (std::size_t slot = 0; slot < read.size(); ++slot) {
     EXPECT_EQ(read[slot].mSamplePeak, expected[slot].mSamplePeak);
     EXPECT_EQ(read[slot].mInterSamplePeak, expected[slot].mInterSamplePeak);
@@ -41,8 +41,8 @@ TEST(Reset, KeepsSettingMonitorAndFlags) {
   rig.monitorSource(true);
   rig.unit().reset();
   EXPECT_EQ(rig.parameter(velk::kConverterParam_Format), 1);
-  EXPECT_EQ(rig.property<UInt32>(velk::kConverterProperty_MonitorSource), 1U);
-  EXPECT_EQ(rig.property<UInt32>(kAudioUnitProperty_OfflineRender), 1U);
+  EXPECT_EQ(rig.property(velk::kConverterProperty_MonitorSource), 1U);
+  EXPECT_EQ(rig.property(audio_unit::offlineRenderProperty), 1U);
   const Signal source = music(2, 20000, 44100);
   EXPECT_EQ(rig.renderAligned(source), source);
 }
@@ -69,7 +69,7 @@ TEST(Reset, KeepsTheStatistics) {
   }
   rig.render(hot);
   rig.render(silence(2, 30000));
-  const auto before = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
+  const auto before = rig.property(velk::kConverterProperty_PeakStats);
   ASSERT_GT(before[0].mSampleClipCount, 0);
   rig.unit().reset();
   expectStatistics(rig, before);
@@ -82,7 +82,7 @@ TEST(Reset, EndsWhatIsMetered) {
   Signal loud = silence(2, 40000);
   for (std::size_t i = 0; i < loud[0].size(); ++i) loud[0][i] = loud[1][i] = i % 2 == 0 ? 2 : -2;
   rig.render(loud);
-  const auto ended = rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
+  const auto ended = rig.property(velk::kConverterProperty_PeakStats);
   EXPECT_GT(ended[0].mInterSampleClipCount, 0);
   rig.unit().reset();
   expectStatistics(rig, ended);
@@ -97,7 +97,7 @@ TEST(Reset, KeepsTheCountOfMissedFramesAndRestartsTheBitRate) {
   const UInt64 missed = rig.missedFrames();
   EXPECT_GT(missed, 0U);
   rig.setOffline(true);
-  const auto rate = rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
+  const auto rate = rig.property(converter::kConverterProperty_BitRate);
   EXPECT_EQ(rate.recentKbps, 0);
   EXPECT_EQ(rate.averageKbps, 0);
   rig.render(music(2, 20000, 44100));

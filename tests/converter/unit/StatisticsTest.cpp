@@ -11,14 +11,11 @@ namespace {
 using velk::PeakStatistics;
 
 PeakStatistics statistics(Rig& rig) {
-  return rig.property<PeakStatistics>(velk::kConverterProperty_PeakStats);
+  return rig.property(velk::kConverterProperty_PeakStats);
 }
 
 void resetStatistics(Rig& rig) {
-  const UInt32 one = 1;
-  ASSERT_EQ(rig.unit().setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global,
-                                   0, &one, sizeof one),
-            noErr);
+  rig.setProperty(velk::kConverterProperty_ResetPeakStats, 1);
 }
 
 Signal sine(std::size_t frames, float left, float right) {

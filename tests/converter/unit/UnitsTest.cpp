@@ -55,11 +55,9 @@ TEST(Units, CanBeOperatedWhileTheyRender) {
     rig.setPreset(static_cast<SInt32>(turn % 4));
     rig.setParameter(velk::kConverterParam_RateQuality, static_cast<float>(turn % 17));
     rig.monitorSource(turn % 3 == 0);
-    rig.property<velk::PeakStatistics>(velk::kConverterProperty_PeakStats);
-    rig.property<converter::BitRate>(converter::kConverterProperty_BitRate);
-    const UInt32 one = 1;
-    rig.unit().setProperty(velk::kConverterProperty_ResetPeakStats, kAudioUnitScope_Global, 0, &one,
-                           sizeof one);
+    rig.property(velk::kConverterProperty_PeakStats);
+    rig.property(converter::kConverterProperty_BitRate);
+    rig.setProperty(velk::kConverterProperty_ResetPeakStats, 1);
     ++turn;
     std::this_thread::yield();
   }

@@ -45,12 +45,9 @@ class Listening {
   }
 
   velk::PeakStatistics statistics() {
-    velk::PeakStatistics statistics;
-    UInt32 size = sizeof statistics;
-    EXPECT_EQ(unit_->getProperty(velk::kConverterProperty_PeakStats, kAudioUnitScope_Global, 0,
-                                 statistics.data(), size),
-              noErr);
-    return statistics;
+    const auto statistics = readProperty(unit_.get(), velk::kConverterProperty_PeakStats);
+    EXPECT_EQ(statistics.status(), noErr);
+    return *statistics;
   }
 
  private:

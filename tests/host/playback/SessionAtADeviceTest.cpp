@@ -21,9 +21,7 @@ class SessionAtADevice : public testing::Test {
   SessionAtADevice() {
     writeSound(folder_ / "mix.wav", sound_);
     session_.emplace(host::openedForPlaying(folder_ / "mix.wav"), devices_.open());
-    const UInt32 source = 1;
-    session_->unit().setProperty(velk::kConverterProperty_MonitorSource, kAudioUnitScope_Global, 0,
-                                 &source, sizeof source);
+    writeProperty(&session_->unit(), velk::kConverterProperty_MonitorSource, 1);
     session_->player().setOffline(true);
     session_->player().seek(0);
   }

@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "view/encoder_menu/EncoderSetting.h"
+#include "view/encoder_menu/SettingKey.h"
 #include "view/fakes/ViewTest.h"
 
 namespace {
@@ -62,7 +62,7 @@ TEST_F(EncoderMenu, RecognisesItsPresetsByExactValuesOnly) {
 TEST_F(EncoderMenu, PrefersThePlusPresetToACustomEntryOfTheSameSetting) {
   bind();
   menu().insertItemWithTitle("a custom entry", 5);
-  menu().itemAtIndex(5)->setRepresentedObject(velk::encoderSetting(0, 1, 14));
+  menu().itemAtIndex(5)->setRepresentedObject(velk::settingKey({0, 1, 14}));
   show({0, 1, 14});
   EXPECT_EQ(menu().indexOfSelectedItem(), 0);
 }

@@ -5,7 +5,7 @@
 #include <optional>
 #include <random>
 
-#include "view/encoder_menu/EncoderSetting.h"
+#include "view/encoder_menu/SettingKey.h"
 #include "view/fakes/ViewTest.h"
 
 namespace {
@@ -18,7 +18,7 @@ bool same(float left, float right) {
 
 bool same(const Setting& left, const Setting& right) {
   return same(left.format, right.format) && same(left.strategy, right.strategy) &&
-         same(left.rateQuality, right.rateQuality);
+         same(left.rateOrQuality, right.rateOrQuality);
 }
 
 std::string name(float value, const std::vector<std::string>& names) {
@@ -78,12 +78,12 @@ class Model {
     if (setting.strategy == 2.0F) {
       // A rate without an item may remain when the strategy becomes VBR.
       return start + "Quality: " +
-             (setting.rateQuality < 0 ? "-"
-                                      : std::to_string(static_cast<int>(setting.rateQuality)));
+             (setting.rateOrQuality < 0 ? "-"
+                                        : std::to_string(static_cast<int>(setting.rateOrQuality)));
     }
     return start +
-           name(setting.rateQuality, {"16", "20", "24", "32", "40", "48", "56", "64", "80", "96",
-                                      "128", "160", "192", "224", "256", "288", "320"}) +
+           name(setting.rateOrQuality, {"16", "20", "24", "32", "40", "48", "56", "64", "80", "96",
+                                        "128", "160", "192", "224", "256", "288", "320"}) +
            " Kbps";
   }
 };
@@ -206,10 +206,7 @@ class EncoderMenuWalk : public fakes::ViewTest {
       ASSERT_EQ(item->representedObject() != nullptr, expected.setting.has_value())
           << "at " << index;
       if (expected.setting) {
-        ASSERT_TRUE(
-            ui::isEqual(*item->representedObject(),
-                        velk::encoderSetting(expected.setting->format, expected.setting->strategy,
-                                             expected.setting->rateQuality)))
+        ASSERT_TRUE(ui::isEqual(*item->representedObject(), velk::settingKey(*expected.setting)))
             << "at " << index;
       }
     }

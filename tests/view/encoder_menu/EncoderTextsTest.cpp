@@ -98,9 +98,9 @@ TEST_F(EncoderTexts, ShowADashForAQualityThatNoUnsignedNumberHolds) {
 }
 
 TEST_F(EncoderTexts, TitleASettingByItsRateOrItsQuality) {
-  EXPECT_EQ(velk::settingTitle(0, 0, 10, false, bundle, *english), "AAC ABR 128 Kbps");
-  EXPECT_EQ(velk::settingTitle(0, 2, 100, true, bundle, *english), "AAC VBR Quality: 100");
-  EXPECT_EQ(velk::settingTitle(kNaN, -1, 99, false, bundle, *english), "- - - Kbps");
+  EXPECT_EQ(velk::settingTitle({0, 0, 10}, false, bundle, *english), "AAC ABR 128 Kbps");
+  EXPECT_EQ(velk::settingTitle({0, 2, 100}, true, bundle, *english), "AAC VBR Quality: 100");
+  EXPECT_EQ(velk::settingTitle({kNaN, -1, 99}, false, bundle, *english), "- - - Kbps");
 }
 
 }  // namespace

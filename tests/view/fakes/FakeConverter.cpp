@@ -25,7 +25,7 @@ OSStatus give(const Value& value, void* data, UInt32& size) {
 FakeConverter::FakeConverter(CallLog& log)
     : log_(log), presetName_(CFStringCreateWithUTF8("A preset")) {
   statistics.fill({-60.0F, -60.0F, 0, 0});
-  presets = {Setting{0, 1, 14}, Setting{0, 1, 10}, Setting{1, 0, 7}, Setting{1, 1, 16}};
+  for (const auto& preset : velk::encoderPresets) presets.emplace_back(preset.setting);
 }
 
 FakeConverter::~FakeConverter() {
@@ -33,7 +33,7 @@ FakeConverter::~FakeConverter() {
 }
 
 void FakeConverter::setSetting(const Setting& setting) {
-  parameters = {setting.format, setting.strategy, setting.rateQuality};
+  parameters = {setting.format, setting.strategy, setting.rateOrQuality};
 }
 
 FakeConverter::Setting FakeConverter::setting() const {
@@ -81,7 +81,7 @@ void FakeConverter::hostSetsParameter(AudioUnitParameterID id, float value) {
 void FakeConverter::hostSetsSetting(const Setting& setting) {
   hostSetsParameter(velk::kConverterParam_Format, setting.format);
   hostSetsParameter(velk::kConverterParam_Strategy, setting.strategy);
-  hostSetsParameter(velk::kConverterParam_RateQuality, setting.rateQuality);
+  hostSetsParameter(velk::kConverterParam_RateQuality, setting.rateOrQuality);
 }
 
 void FakeConverter::hostSetsProperty(AudioUnitPropertyID id, UInt32 value) {

@@ -8,6 +8,7 @@
 
 #include "audio_unit/Unit.h"
 #include "contract/ConverterInterface.h"
+#include "contract/EncoderPresets.h"
 #include "view/fakes/CallLog.h"
 
 namespace fakes {
@@ -22,11 +23,7 @@ enum class UnitCall { GetParameter, SetParameter, GetProperty, SetProperty };
 /// because its meaning may have changed.
 class FakeConverter final : public audio_unit::Unit {
  public:
-  struct Setting {
-    float format;
-    float strategy;
-    float rateQuality;
-  };
+  using Setting = velk::EncoderSetting;
 
   explicit FakeConverter(CallLog& log);
   ~FakeConverter() override;

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-namespace converter {
+namespace realtime {
 
 /// A counting semaphore that starts at 0. `release` never blocks, and enters the kernel only when
 /// somebody waits.
@@ -25,4 +25,4 @@ class Semaphore {
   sem_t semaphore_{};
 };
 
-}  // namespace converter
+}  // namespace realtime

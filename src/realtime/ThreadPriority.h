@@ -1,6 +1,6 @@
 #pragma once
 
-namespace converter {
+namespace realtime {
 
 /// The priority that the system granted.
 enum class ThreadPriority { realTime, raised, ordinary };
@@ -13,4 +13,4 @@ ThreadPriority raiseThreadPriority();
 /// Returns the calling thread to ordinary priority.
 void dropThreadPriority();
 
-}  // namespace converter
+}  // namespace realtime

@@ -1,10 +1,10 @@
-#include "converter/stream/ThreadPriority.h"
+#include "realtime/ThreadPriority.h"
 
 #include <pthread.h>
 #include <sched.h>
 #include <sys/resource.h>
 
-namespace converter {
+namespace realtime {
 namespace {
 
 /// The first nice value to try, ahead of most of a desktop; then ever weaker ones.
@@ -35,4 +35,4 @@ void dropThreadPriority() {
   if (getpriority(PRIO_PROCESS, 0) < 0) setNice(0);
 }
 
-}  // namespace converter
+}  // namespace realtime

@@ -5,13 +5,13 @@
 
 #include <thread>
 
-#include "converter/stream/ThreadPriority.h"
+#include "realtime/ThreadPriority.h"
 
 namespace {
 
-using converter::dropThreadPriority;
-using converter::raiseThreadPriority;
-using converter::ThreadPriority;
+using realtime::dropThreadPriority;
+using realtime::raiseThreadPriority;
+using realtime::ThreadPriority;
 
 struct Place {
   int policy = -1;
