@@ -27,7 +27,7 @@ constexpr std::array kCases = {
     Case{"cpu_hev2_48", {2, 0, 6}, 1.25},
 };
 
-/// Encoder and decoder with nothing around them.
+/// Processor time of the bare encoder and decoder.
 double bareSeconds(const velk::EncoderSetting& values, const Signal& music) {
   const converter::UnitFormat unit{.sampleRate = kRate, .channels = 2, .maximumFrames = kBlock};
   const auto setting = nearestSetting(values, unit, converter::encoderAbilities());

@@ -6,7 +6,7 @@
 namespace converter {
 namespace {
 
-/// The whole number in the value, moved into the range from 0 to `highest`.
+/// The value truncated to an integer and clamped to 0...`highest`.
 std::uint32_t codeOf(float value, std::uint32_t highest) {
   if (!(value > 0)) return 0;
   return static_cast<std::uint32_t>(std::min(value, static_cast<float>(highest)));
@@ -61,7 +61,7 @@ std::uint32_t highestPeak(Format format, const UnitFormat& unit) {
   return format != Format::lc && coreOf(format, unit).channels == 1 ? 224000 : 320000;
 }
 
-/// The five modes share the range of qualities evenly.
+/// Maps the range of qualities evenly to the five modes.
 std::uint8_t vbrModeOf(float quality) {
   return static_cast<std::uint8_t>(1 +
                                    codeOf(quality, kHighestQuality) * 5 / (kHighestQuality + 1));

@@ -12,9 +12,8 @@ namespace converter {
 using velk::Format;
 using velk::Strategy;
 
-/// One way to run the encoder, always one that it can do: what the codec makes of a
-/// `velk::EncoderSetting`, which is only what the parameters ask for. Aligned so that threads can
-/// exchange it as one word.
+/// A setting that the encoder can carry out, made from a `velk::EncoderSetting`, which is only what
+/// the parameters ask for. Aligned so that threads can exchange it as one word.
 struct alignas(8) Setting {
   /// bit/s. `abr`: the target. `constrainedVbr`: the peak rate. `vbr`: 0.
   std::uint32_t bitRate = 0;
@@ -38,9 +37,9 @@ struct EncoderAbilities {
 /// Highest format available: `heV2` in stereo, `he` in mono, `lc` without high efficiency.
 Format highestFormat(const EncoderAbilities& abilities, UInt32 channels);
 
-/// The setting nearest to what is asked for that the encoder can do. Values outside their range,
-/// and those that are no number, become the nearest in it; a rate that the format cannot do at this
-/// sample rate becomes the nearest that it can.
+/// The setting nearest to `asked` that the encoder can carry out. Values out of range are clamped,
+/// and NaN becomes the lowest value; a rate that the format cannot do at this sample rate becomes
+/// the nearest that it can.
 Setting nearestSetting(const velk::EncoderSetting& asked, const UnitFormat& unit,
                        const EncoderAbilities& abilities);
 

@@ -90,7 +90,7 @@ class Player : public BlockRenderer {
   /// frames as history for codec and meters, and the unit's latency.
   void runUpTo(std::int64_t leadIn);
   void setUnitFlag(const audio_unit::Property<UInt32>& flag, bool on);
-  /// Renders up to `frames` frames at the offset; fewer when the source is behind.
+  /// Renders up to `frames` frames at the offset and returns how many; fewer if the source is late.
   std::uint32_t renderSound(float* const* planes, std::uint32_t offset,
                             std::uint32_t frames) noexcept;
   void feedUnit(const float* interleaved, std::size_t got, float* const* output,

@@ -37,7 +37,7 @@ void Session::load(OpenedFile file) {
   truncated_ = std::move(file.truncated);
   player_ = std::make_unique<Player>(*unit_, kMaximumFrames, std::move(file.source));
   player_->setTap(tap_);
-  // What was read of the other file says nothing about this one.
+  // The readings so far belong to the other file.
   writeProperty(unit_.get(), velk::kConverterProperty_ResetPeakStats, 1);
   if (hadOutput) setDevice(std::exchange(device_, std::nullopt));
 }

@@ -28,7 +28,7 @@ struct ChangeReport {
 ChangeReport checkChanges(const converter::UnitFormat& unit, const Signal& input,
                           const Signal& encoded, const std::vector<TakenChange>& changes);
 
-/// Every format with every strategy at so many rates or qualities (1 to 3) that are far apart.
+/// Every format with every strategy, each at `rates` (1 to 3) widely spaced rates or qualities.
 std::vector<velk::EncoderSetting> everySetting(int rates);
 
 /// A sequence of indices below `count` in which each follows each other one exactly once.
