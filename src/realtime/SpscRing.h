@@ -7,8 +7,8 @@
 
 namespace realtime {
 
-/// A ring of items from one writing thread to one reading thread. Nothing here allocates, locks or
-/// waits.
+/// A ring of items from one writing thread to one reading thread. Nothing but the constructor
+/// allocates; nothing locks or waits.
 ///
 /// Large items, such as blocks, are filled and read in place; small ones, such as samples, are
 /// copied, many at a time.
@@ -18,16 +18,12 @@ class SpscRing {
   /// The items are made here, once. There is room for at least one.
   explicit SpscRing(std::size_t capacity) : items_(std::max<std::size_t>(capacity, 1)) {}
 
-  /// Items written and not yet read. The other thread may be adding or taking some, so the reader
-  /// may find more later, the writer fewer. Any other thread gets an estimate between 0 and the
-  /// capacity.
+  /// Items written and not yet read; the reader may find more later. Reader or writer.
   std::size_t readable() const noexcept {
-    // In this order, and limited, so that no thread computes a negative number or too large a one
-    // from positions that move meanwhile.
     const std::size_t read = read_.load(std::memory_order_acquire);
-    return std::min(written_.load(std::memory_order_acquire) - read, items_.size());
+    return written_.load(std::memory_order_acquire) - read;
   }
-  /// Items that there is room for; the writer may find more later.
+  /// Items that there is room for; the writer may find more later. Reader or writer.
   std::size_t writable() const noexcept { return items_.size() - readable(); }
   bool empty() const noexcept { return readable() == 0; }
 

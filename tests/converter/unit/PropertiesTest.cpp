@@ -127,6 +127,19 @@ class PropertyListener {
   int heard_ = 0;
 };
 
+/// Gives back what a read has left to the reader.
+void release(AudioUnitPropertyID id, const void* data) {
+  if (id == audio_unit::factoryPresetsProperty) {
+    CFArrayRef list = nullptr;
+    std::memcpy(&list, data, sizeof list);
+    CFRelease(list);
+  } else if (id == audio_unit::presentPresetProperty) {
+    AUPreset preset{};
+    std::memcpy(&preset, data, sizeof preset);
+    CFRelease(preset.presetName);
+  }
+}
+
 /// What a read leaves of a buffer that was full of `filler`.
 std::vector<unsigned char> bytesRead(Rig& rig, const Declared& declared, unsigned char filler) {
   std::vector<unsigned char> data(declared.property.size() + 1, filler);
@@ -134,6 +147,7 @@ std::vector<unsigned char> bytesRead(Rig& rig, const Declared& declared, unsigne
   EXPECT_EQ(rig.unit().getProperty(declared.property.id(), declared.scope, 0, data.data(), size),
             noErr);
   EXPECT_EQ(size, declared.property.size());
+  release(declared.property.id(), data.data());
   return data;
 }
 
@@ -157,13 +171,15 @@ TEST(DeclaredProperties, TakeWhatIsWrittenIfTheyAreWritable) {
     if (!declared.property.isWritable()) continue;
     SCOPED_TRACE(declared.property.id());
     // Each begins with a number, and a preset's is not the first one's.
-    for (const unsigned char number : {2, 1}) {
+    for (const unsigned char number : {'\2', '\1'}) {
       std::vector<unsigned char> data(declared.property.size());
       data[0] = number;
       ASSERT_EQ(rig.unit().setProperty(declared.property.id(), declared.scope, 0, data.data(),
                                        declared.property.size()),
                 noErr);
-      if (declared.property.isReadable()) EXPECT_EQ(bytesRead(rig, declared, 0xa5)[0], number);
+      if (declared.property.isReadable()) {
+        EXPECT_EQ(bytesRead(rig, declared, 0xa5)[0], number);
+      }
     }
   }
 }
