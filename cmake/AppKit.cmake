@@ -53,11 +53,11 @@ else()
   list(FILTER libraries EXCLUDE REGEX "^-L")
   # CMake does not tell GNU's compilers the standard. Without the flag of constructors and destructors
   # instance variables would have neither. A lambda's captures look to it like a message at first, in
-  # which a comma would be wrong.
+  # which a comma or a move to the same name would be wrong.
   target_compile_options(velk_cocoa INTERFACE
     "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags}>"
     "$<$<COMPILE_LANG_AND_ID:OBJC,GNU>:-std=c11>"
-    "$<$<COMPILE_LANG_AND_ID:OBJCXX,GNU>:-std=c++20;-fobjc-call-cxx-cdtors;-Wno-unused-value>"
+    "$<$<COMPILE_LANG_AND_ID:OBJCXX,GNU>:-std=c++20;-fobjc-call-cxx-cdtors;-Wno-unused-value;-Wno-self-move>"
     # A method has the parameters that its selector asks for.
     "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:-Wno-unused-parameter>")
   target_include_directories(velk_cocoa SYSTEM INTERFACE ${headers})

@@ -3,8 +3,9 @@ import unittest
 
 from sandbox import Sandbox
 
-AVAILABLE = "echo '  Candidate: 2.0.3-1'"
-UNKNOWN = "echo '  Candidate: (none)'"
+# The table of versions may be longer than a pipe.
+AVAILABLE = r"printf 'libfdk-aac-dev:\n  Candidate: 2.0.3-1\n%0200000d\n' 0"
+UNKNOWN = r"printf 'libfdk-aac-dev:\n  Candidate: (none)\n'"
 
 
 class TheComponentNonFree(Sandbox):

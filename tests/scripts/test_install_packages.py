@@ -33,6 +33,7 @@ class ThePackages(Sandbox):
     def offer(self, *packages):
         """The archive has these packages, and no other."""
         self.fake("apt-cache", f"""
+echo "$2:"
 case " {' '.join(packages)} " in
   *" $2 "*) echo '  Candidate: 1' ;;
   *) echo '  Candidate: (none)' ;;
