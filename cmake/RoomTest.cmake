@@ -25,6 +25,8 @@ velk_test_headers(velk_test_headers)
 #           [PARSED <target>] [PROPERTIES <ctest properties...>])
 # One small GoogleTest program; every test of it carries the rooms' labels. AS_PRODUCT compiles it with the
 # products' options, where g++ 12 warns of what is not there at -O1. PARSED names other headers than the usual.
+# Programs with tests that take seconds say so by the property COST: those start first, so that none is left to
+# run alone at the end.
 function(velk_test name)
   cmake_parse_arguments(TEST "AS_PRODUCT" "PARSED" "LABELS;SOURCES;LINK;PROPERTIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})

@@ -110,7 +110,7 @@ TEST(OpeningAndClosingViews, LeaksNone) {
   fakes::FakeConverter unit(calls);
   // The first few views fill the toolkit's caches.
   constexpr int kFirst = 5;
-  constexpr int kCycles = 200;
+  constexpr int kCycles = 40;
   appkit_test::onMain([] { GSDebugAllocationActive(YES); });
   openAndClose(unit, kFirst);
   double before = 0;
