@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "host/messages/Failure.h"
-#include "host/messages/QuietStandardError.h"
 
 namespace host {
 namespace {
@@ -78,10 +77,6 @@ bool promisesMoreThanItHolds(std::string_view log) {
   return false;
 }
 
-void SoundFile::Close::operator()(void* file) const {
-  sf_close(handle(file));
-}
-
 SoundFile::SoundFile(const std::filesystem::path& path, ChannelChoice choice)
     : path_(path), choice_(std::move(choice)) {
   requireOrdinaryFile(path);
@@ -107,11 +102,11 @@ SoundFile::~SoundFile() = default;
 void SoundFile::open() {
   SF_INFO info{};
   std::string why;
-  {
-    const QuietStandardError quiet;
-    file_.reset(sf_open(path_.c_str(), SFM_READ, &info));
-    // The library has one reason for all threads, and the next to open a file clears it.
-    if (!file_) why = sf_strerror(nullptr);
+  try {
+    file_ = openedQuietly(path_, info, why);
+  } catch (const std::system_error& error) {
+    refuse(path_, Message::words("%1; check the path and its permissions"),
+           {error.code().message()});
   }
   if (!file_) {
     while (!why.empty() && (why.back() == '.' || why.back() == '\n')) why.pop_back();

@@ -3,12 +3,12 @@
 #include <atomic>
 #include <filesystem>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "host/files/AudioSource.h"
 #include "host/files/ChannelChoice.h"
+#include "host/files/QuietSoundFile.h"
 
 namespace host {
 
@@ -35,10 +35,6 @@ class SoundFile : public AudioSource {
   std::shared_ptr<const std::atomic<bool>> truncation() const { return truncated_; }
 
  private:
-  struct Close {
-    void operator()(void* file) const;
-  };
-
   void open();
   void chooseChannels();
   std::int64_t countFrames();
@@ -46,7 +42,7 @@ class SoundFile : public AudioSource {
 
   std::filesystem::path path_;
   ChannelChoice choice_;
-  std::unique_ptr<void, Close> file_;
+  OpenSoundFile file_;
   AudioFormat format_;
   /// As many as the file has. The first ones are those that are taken, unless there is a choice.
   std::size_t fileChannels_ = 0;

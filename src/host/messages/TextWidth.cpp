@@ -1,11 +1,11 @@
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
 #include <locale.h>
 #include <wchar.h>
 
 #include <vector>
 
-namespace host::measure {
+namespace host {
 namespace {
 
 constexpr std::string_view kEllipsis = "…";
@@ -123,4 +123,4 @@ std::string padded(std::string text, std::size_t width) {
   return text;
 }
 
-}  // namespace host::measure
+}  // namespace host

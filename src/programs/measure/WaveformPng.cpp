@@ -1,4 +1,4 @@
-#include "programs/measure/WaveformPicture.h"
+#include "programs/measure/WaveformPng.h"
 
 #include <cairo.h>
 
@@ -10,9 +10,10 @@
 #include <string>
 #include <vector>
 
+#include "host/messages/ClockText.h"
 #include "host/messages/Decimal.h"
 #include "host/messages/Failure.h"
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
 namespace host::measure {
 namespace {
@@ -145,12 +146,9 @@ void drawChannel(Canvas& canvas, const char* name, const std::vector<WaveformCol
   canvas.text(kLeft - 8, middle + 5, name, large, kInk, 1);
 }
 
-std::string clock(double seconds) {
-  const auto whole = static_cast<long long>(seconds);
-  auto text =
-      std::to_string(whole / 60) + ":" + (whole % 60 < 10 ? "0" : "") + std::to_string(whole % 60);
-  if (seconds != std::floor(seconds)) text += decimal(seconds - std::floor(seconds), 2).substr(1);
-  return text;
+std::string timeAt(double seconds) {
+  const auto milliseconds = std::llround(seconds * 1000);
+  return clockText(milliseconds, milliseconds % 1000 == 0 ? 0 : 2);
 }
 
 void drawTime(Canvas& canvas, double seconds, double baseline) {
@@ -162,7 +160,7 @@ void drawTime(Canvas& canvas, double seconds, double baseline) {
   for (double at = 0; at <= seconds; at += *step) {
     const double x = place(0) + kColumnCount * (seconds > 0 ? at / seconds : 0);
     canvas.rectangle(x, baseline - 20, 1, 6, kQuiet);
-    canvas.text(x, baseline, clock(at), 12, kQuiet, 0.5);
+    canvas.text(x, baseline, timeAt(at), 12, kQuiet, 0.5);
     if (seconds <= 0) break;
   }
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace host::measure {
+namespace host {
 
 /// Columns that UTF-8 text takes on a terminal.
 std::size_t textWidth(std::string_view text);
@@ -22,4 +22,4 @@ std::string elidedPath(std::string_view path, std::size_t width);
 /// Followed by as many blanks as it takes.
 std::string padded(std::string text, std::size_t width);
 
-}  // namespace host::measure
+}  // namespace host
