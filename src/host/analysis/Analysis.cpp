@@ -6,7 +6,8 @@
 
 namespace host {
 
-Analysis::Analysis(Open open, AudioFormat format) : open_(std::move(open)), format_(format) {
+Analysis::Analysis(Open open, AudioFormat format, MakeUnit make)
+    : open_(std::move(open)), make_(std::move(make)), format_(format) {
   startWaveform();
 }
 
@@ -23,11 +24,12 @@ void Analysis::startWaveform() {
 }
 
 void Analysis::startEncoded() {
-  result_ = std::make_shared<velk::PeakStatistics>();
-  work_ = std::make_unique<BackgroundWork>([open = open_, overview = overview_, setting = *setting_,
-                                            result = result_](Progress& progress) {
-    *result = scanEncoded(*open(), setting, *overview, progress);
-  });
+  result_ = std::make_shared<std::optional<Readings>>();
+  work_ =
+      std::make_unique<BackgroundWork>([open = open_, make = make_, overview = overview_,
+                                        setting = *setting_, result = result_](Progress& progress) {
+        *result = scanEncoded(*open(), setting, *overview, progress, make);
+      });
 }
 
 void Analysis::update(const EncoderSetting& setting, bool testRuns, Clock::time_point now) {
@@ -64,10 +66,7 @@ void Analysis::takeResult() {
   } else {
     step_ = Step::Done;
     encodedOvers_ = 0;
-    for (std::size_t channel = 0; channel < format_.channels; ++channel) {
-      encodedOvers_ +=
-          result_->at(velk::kPeakStatsSlot_EncodedLeft + channel).mInterSampleClipCount;
-    }
+    for (const auto& channel : result_->value().encoded) encodedOvers_ += channel.interSampleOvers;
   }
 }
 

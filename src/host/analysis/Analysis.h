@@ -8,10 +8,13 @@
 
 #include "contract/ConverterInterface.h"
 #include "host/analysis/BackgroundWork.h"
+#include "host/analysis/OfflineRun.h"
 #include "host/analysis/SharedOverview.h"
 #include "host/files/AudioSource.h"
 #include "host/messages/Message.h"
+#include "host/unit/ConverterSetup.h"
 #include "host/unit/EncoderSetting.h"
+#include "host/unit/Readings.h"
 
 namespace host {
 
@@ -40,7 +43,8 @@ class Analysis {
   /// A setting has to stay for so long before the encoded signal is analysed.
   static constexpr auto kSettling = std::chrono::milliseconds(400);
 
-  Analysis(Open open, AudioFormat format);
+  /// `make` makes the units that the encoded signal comes from, on other threads.
+  Analysis(Open open, AudioFormat format, MakeUnit make = unitFor);
   ~Analysis();
 
   /// Another one after the waveform was cancelled and is drawn again.
@@ -65,6 +69,7 @@ class Analysis {
   void takeResult();
 
   Open open_;
+  MakeUnit make_;
   AudioFormat format_;
   std::shared_ptr<SharedOverview> overview_;
   std::optional<EncoderSetting> setting_;
@@ -73,7 +78,7 @@ class Analysis {
   Step step_ = Step::Waveform;
   bool waveformIsKnown_ = false;
   Message failure_;
-  std::shared_ptr<velk::PeakStatistics> result_;
+  std::shared_ptr<std::optional<Readings>> result_;
   std::int64_t encodedOvers_ = 0;
   velk::PeakStatistics heard_{};
   std::int64_t heardUpTo_ = 0;

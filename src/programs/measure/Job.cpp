@@ -4,12 +4,12 @@
 #include <cmath>
 #include <memory>
 
+#include "host/analysis/OfflineRun.h"
 #include "host/files/OpenedFile.h"
 #include "host/messages/Failure.h"
 #include "host/unit/CarriedSetting.h"
 #include "programs/measure/Interruption.h"
 #include "programs/measure/JobOutputs.h"
-#include "programs/measure/Pass.h"
 #include "programs/measure/TrimSearch.h"
 
 namespace host::measure {
@@ -75,18 +75,21 @@ class Work {
   bool encode(int tenths, bool stopAtOvers, JobOutputs* outputs) {
     progress_.reduction = tenths;
     progress_.done = 0;
-    Pass pass(*file_.source, job_.encoder, gainOf(tenths),
-              outputs != nullptr ? outputs->bitStream() : nullptr);
-    if (outputs != nullptr) pass.setBlockFrames(outputs->blockFrames());
-    const auto frames = std::max<std::int64_t>(file_.source->frames(), 1);
+    OfflineRunOptions run;
+    run.chooseEncoder = [&](AudioUnit unit) { apply(job_.encoder, unit); };
+    run.gain = gainOf(tenths);
+    run.sink = outputs != nullptr ? outputs->bitStream() : nullptr;
+    run.locatesOvers = outputs != nullptr && outputs->drawsPicture();
+    OfflineRun pass(*file_.source, run);
     while (pass.step()) {
       stopIfInterrupted();
       if (progress_.isUnwanted) throw Interrupted();
-      progress_.done = static_cast<int>(std::min(pass.taken(), frames) * 1000 / frames);
+      progress_.done = static_cast<int>(pass.share() * 1000);
       if (outputs != nullptr) outputs->follow(pass);
       if (stopAtOvers && hasOvers(pass.peaks(), options_.interSample)) return false;
     }
     auto readings = pass.finish();
+    if (outputs != nullptr) outputs->follow(pass);
     readings.file = job_.file.string();
     if (const auto carried = carriedOtherwise(pass.unit()); carried && row_.warnings.empty()) {
       row_.warnings.push_back(quoted(job_.file) + ": " + *carried);
@@ -138,7 +141,7 @@ bool hasOvers(const Readings& readings, bool interSample) {
       });
 }
 
-Row done(const Job& job, const Options& options, JobProgress& progress) {
+Row runJob(const Job& job, const Options& options, JobProgress& progress) {
   try {
     return Work(job, options, progress).run();
   } catch (const Failure& failure) {

@@ -56,6 +56,6 @@ bool hasOvers(const Readings& readings, bool interSample);
 
 /// Throws `Failure`, which names the file, when it cannot be measured or an output not be written,
 /// and `Interrupted`.
-Row done(const Job& job, const Options& options, JobProgress& progress);
+Row runJob(const Job& job, const Options& options, JobProgress& progress);
 
 }  // namespace host::measure
