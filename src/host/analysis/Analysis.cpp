@@ -45,7 +45,7 @@ void Analysis::update(const EncoderSetting& setting, bool testRuns, Clock::time_
 }
 
 void Analysis::takeUp(const EncoderSetting& setting, Clock::time_point now) {
-  // At first there is nothing that would have to settle.
+  // The first setting need not settle.
   settledAt_ = setting_ ? now + kSettling : now;
   setting_ = setting;
   if (!waveformIsKnown_) return;
@@ -75,7 +75,7 @@ void Analysis::follow(const velk::PeakStatistics& peaks, std::int64_t frame) {
   for (std::uint32_t channel = 0; marks && channel < format_.channels; ++channel) {
     const auto slot = velk::kPeakStatsSlot_EncodedLeft + channel;
     const auto overs = peaks.at(slot).mInterSampleClipCount - heard_.at(slot).mInterSampleClipCount;
-    // After a reset there are fewer than before.
+    // Fewer than before means that the statistics were reset.
     if (overs > 0) {
       overview_->addOvers(Signal::Encoded, channel, heardUpTo_, static_cast<std::uint32_t>(overs));
     }

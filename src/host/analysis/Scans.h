@@ -12,8 +12,8 @@
 
 namespace host {
 
-/// Reads a source from where it is to its end and draws it into the overview, with the stretches in
-/// which it exceeds full scale between the samples, located as by `OfflineRun`.
+/// Reads a source from its position to its end and draws it into the overview, with the overs of
+/// the source at the places where `OfflineRun` locates them.
 void scanSource(AudioSource& source, SharedOverview& overview, Progress& progress);
 
 /// Runs a source off line through a unit of its own and marks in the overview where the encoded

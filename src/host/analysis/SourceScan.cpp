@@ -31,7 +31,7 @@ class OverFinder {
       mark();
     }
   }
-  /// The last intervals count as if silence followed.
+  /// Meters the end of the signal as if silence followed.
   void finish() {
     constexpr std::array<float, converter::TruePeakMeter::kDelay> silence{};
     meter_.process(silence.data(), silence.size());
@@ -51,7 +51,7 @@ class OverFinder {
   SharedOverview& overview_;
   converter::TruePeakMeter meter_;
   std::int64_t frame_ = 0;
-  /// Of the last stretch.
+  /// The middle of the last stretch.
   std::int64_t middle_ = 0;
   std::int64_t overs_ = 0;
 };

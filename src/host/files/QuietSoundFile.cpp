@@ -19,8 +19,8 @@ std::mutex& reasonMutex() {
   return mutex;
 }
 
-/// By a descriptor of this thread's table, which the file that the library opened on the quiet
-/// thread goes on to use. By descriptor the library goes by the content alone.
+/// The descriptor is opened here, not on the quiet thread, so that the library can go on using it.
+/// Given a descriptor, the library judges by the content alone.
 OpenSoundFile openedByContent(const std::filesystem::path& path, SF_INFO& info, int& error) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) throw std::system_error(errno, std::generic_category());
@@ -33,8 +33,8 @@ OpenSoundFile openedByContent(const std::filesystem::path& path, SF_INFO& info, 
   return {file, {descriptor}};
 }
 
-/// What the content does not show, the name may: MP3 behind other bytes, formats without a header.
-/// Only a file that has been seen to open is opened where the library can be heard.
+/// Where the content shows nothing, the name may: MP3 after other bytes, formats without a header.
+/// The library can be heard here, so the file is only opened once a quiet trial has succeeded.
 OpenSoundFile openedByName(const std::filesystem::path& path, SF_INFO& info, std::string& why) {
   bool opens = false;
   callQuietly([&] {

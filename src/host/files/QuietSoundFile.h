@@ -18,9 +18,9 @@ struct CloseSoundFile {
 /// A `SNDFILE`.
 using OpenSoundFile = std::unique_ptr<void, CloseSoundFile>;
 
-/// Opens a file for reading. Decoders that come upon something odd print it on standard error; here
-/// they are not heard. Null, with libsndfile's reason in `why`, for what it cannot read; throws
-/// `std::system_error` when the system does not open the file. Any thread.
+/// Opens a file for reading, and keeps the decoders from printing their remarks about it on
+/// standard error. Null, with libsndfile's reason in `why`, if it cannot read the file; throws
+/// `std::system_error` if the system does not open it. Any thread.
 OpenSoundFile openedQuietly(const std::filesystem::path& path, SF_INFO& info, std::string& why);
 
 }  // namespace host

@@ -12,13 +12,13 @@
 
 namespace host::measure {
 
-/// What a job leaves in folders: bit stream and picture. Without `commit` it leaves nothing.
+/// The files that a job writes: bit stream and picture. Without `commit` none of them appears.
 class JobOutputs {
  public:
-  /// Claims the files. Throws `Failure`.
+  /// Claims the files' names. Throws `Failure`.
   JobOutputs(const Job& job, const Options& options, const AudioSource& source);
 
-  /// For the run that is to be kept; null when no bit stream is.
+  /// For the run that is to be kept; null if no bit stream is wanted.
   converter::BitStreamSink* bitStream() { return bitStream_ ? &*bitStream_ : nullptr; }
   /// Whether the run has to locate its overs.
   bool drawsPicture() const { return picture_ != nullptr; }

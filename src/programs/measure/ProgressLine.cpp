@@ -11,7 +11,7 @@ namespace host::measure {
 namespace {
 
 constexpr int kBarWidth = 20;
-/// Before which nothing can be said of the rest.
+/// Before that, the time left cannot be estimated.
 constexpr double kSecondsToJudge = 2;
 
 }  // namespace
@@ -40,7 +40,7 @@ std::string progressLine(const ProgressState& state, std::size_t width) {
 }
 
 double searchProgress(int encodes, double part) {
-  // Five or so are usual; each further one takes a share of what is left.
+  // Five or so are usual; each further one takes a fixed share of what is left.
   constexpr double shrink = 0.7;
   const auto before = 1 - std::pow(shrink, encodes);
   const auto after = 1 - std::pow(shrink, encodes + 1);
