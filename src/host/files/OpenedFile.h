@@ -24,6 +24,6 @@ struct OpenedFile {
 
 /// Opens a file. Of more than two channels it takes those that were chosen. Throws
 /// `TooManyChannels` when none were, and `Failure` when the file cannot be played.
-OpenedFile openedForPlaying(const std::filesystem::path& path, const ChannelChoice& choice = {});
+OpenedFile openForPlaying(const std::filesystem::path& path, const ChannelChoice& choice = {});
 
 }  // namespace host

@@ -21,7 +21,7 @@ std::mutex& reasonMutex() {
 
 /// The descriptor is opened here, not on the quiet thread, so that the library can go on using it.
 /// Given a descriptor, the library judges by the content alone.
-OpenSoundFile openedByContent(const std::filesystem::path& path, SF_INFO& info, int& error) {
+OpenSoundFile openByContent(const std::filesystem::path& path, SF_INFO& info, int& error) {
   const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (descriptor < 0) throw std::system_error(errno, std::generic_category());
   SNDFILE* file = nullptr;
@@ -35,7 +35,7 @@ OpenSoundFile openedByContent(const std::filesystem::path& path, SF_INFO& info, 
 
 /// Where the content shows nothing, the name may: MP3 after other bytes, formats without a header.
 /// The library can be heard here, so the file is only opened once a quiet trial has succeeded.
-OpenSoundFile openedByName(const std::filesystem::path& path, SF_INFO& info, std::string& why) {
+OpenSoundFile openByName(const std::filesystem::path& path, SF_INFO& info, std::string& why) {
   bool opens = false;
   callQuietly([&] {
     SF_INFO unused{};
@@ -57,11 +57,11 @@ void CloseSoundFile::operator()(void* file) const {
   if (descriptor >= 0) ::close(descriptor);
 }
 
-OpenSoundFile openedQuietly(const std::filesystem::path& path, SF_INFO& info, std::string& why) {
+OpenSoundFile openQuietly(const std::filesystem::path& path, SF_INFO& info, std::string& why) {
   const std::lock_guard lock(reasonMutex());
   int error = SF_ERR_NO_ERROR;
-  if (auto file = openedByContent(path, info, error)) return file;
-  if (error == SF_ERR_UNRECOGNISED_FORMAT) return openedByName(path, info, why);
+  if (auto file = openByContent(path, info, error)) return file;
+  if (error == SF_ERR_UNRECOGNISED_FORMAT) return openByName(path, info, why);
   why = sf_strerror(nullptr);
   return nullptr;
 }

@@ -103,7 +103,7 @@ void SoundFile::open() {
   SF_INFO info{};
   std::string why;
   try {
-    file_ = openedQuietly(path_, info, why);
+    file_ = openQuietly(path_, info, why);
   } catch (const std::system_error& error) {
     refuse(path_, Message::words("%1; check the path and its permissions"),
            {error.code().message()});

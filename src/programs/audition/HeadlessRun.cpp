@@ -82,7 +82,7 @@ void requireDevice(const std::optional<std::string>& name) {
 int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
   // No device plays, but a wrong name is an error all the same.
   requireDevice(options.device);
-  auto file = openedForPlaying(*options.file, options.channels);
+  auto file = openForPlaying(*options.file, options.channels);
   Audition audition(options, std::move(files.record), std::nullopt);
   // The screenshot shows the whole waveform.
   audition.setAnalysing(files.screenshot != nullptr);

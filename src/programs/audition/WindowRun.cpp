@@ -34,7 +34,7 @@ std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& 
   try {
     if (last != nullptr) audition.restore(*last);
     if (!options.file) return std::nullopt;
-    audition.open(openedForPlaying(*options.file, options.channels));
+    audition.open(openForPlaying(*options.file, options.channels));
     return std::nullopt;
   } catch (const TooManyChannels&) {
     return last != nullptr ? last->file : options.file->string();

@@ -52,7 +52,7 @@ class Work {
       : job_(job),
         options_(options),
         progress_(progress),
-        file_(openedForPlaying(job.file, options.channels)) {}
+        file_(openForPlaying(job.file, options.channels)) {}
 
   Row run() {
     if (options_.findTrim) {

@@ -7,13 +7,13 @@ namespace host::measure {
 
 JobOutputs::JobOutputs(const Job& job, const Options& options, const AudioSource& source)
     : overview_(source.format().channels) {
-  const auto claimed = [&](const std::filesystem::path& folder, const char* ending) {
+  const auto claim = [&](const std::filesystem::path& folder, const char* ending) {
     return std::make_unique<AtomicFile>(folder /
                                         outputName(job.outputName, job.encoder.setting, ending));
   };
-  if (options.pictures) picture_ = claimed(*options.pictures, ".png");
+  if (options.pictures) picture_ = claim(*options.pictures, ".png");
   if (options.bitStreams) {
-    bitStream_.emplace(claimed(*options.bitStreams, ".m4a"), source.frames(),
+    bitStream_.emplace(claim(*options.bitStreams, ".m4a"), source.frames(),
                        source.format().sampleRate);
   }
 }

@@ -413,7 +413,7 @@ TEST(SoundFile, TellsARateOfWhichTheUnitIsCapableFromOneToBeConverted) {
       {352800, 176400}, {384000, 192000}, {705600, 176400}, {768000, 192000}};
   for (const auto& [file, unit] : rates) {
     writeSound(folder / "sound.wav", noise(file, 2, file / 10));
-    const auto opened = host::openedForPlaying(folder / "sound.wav");
+    const auto opened = host::openForPlaying(folder / "sound.wav");
     EXPECT_EQ(opened.original.sampleRate, file);
     EXPECT_EQ(opened.source->format(), (host::AudioFormat{unit, 2}));
     EXPECT_EQ(opened.source->frames(), std::int64_t{file / 10} * unit / file);
