@@ -15,8 +15,8 @@ struct HelpText {
 };
 
 /// Reads the arguments, `argv[0]` first, into the variables that the parser's options are bound to,
-/// and adds `--version`, which also prints `builtWith`. Returns the text when help or version is all
-/// that was asked for. Throws `UsageError`.
+/// and adds `--version`, which also prints `builtWith`. Returns the text when help or version is
+/// all that was asked for. Throws `UsageError`.
 std::optional<HelpText> parseArguments(CLI::App& app, int argc, const char* const* argv,
                                        const std::string& builtWith);
 
