@@ -234,6 +234,10 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
         <translation>In die Standardausgabe kann nicht geschrieben werden</translation>
     </message>
     <message>
+        <source>the encoder failed on the way; try another encoder setting</source>
+        <translation>Der Encoder hat unterwegs versagt; versuchen Sie es mit einer anderen Encoder-Einstellung</translation>
+    </message>
+    <message>
         <source>interrupted; nothing was written</source>
         <translation>unterbrochen; nichts wurde geschrieben</translation>
     </message>

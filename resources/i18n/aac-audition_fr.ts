@@ -234,6 +234,10 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
         <translation>impossible d’écrire sur la sortie standard</translation>
     </message>
     <message>
+        <source>the encoder failed on the way; try another encoder setting</source>
+        <translation>l’encodeur a échoué en cours de route&#xa0;; essayez un autre réglage de l’encodeur</translation>
+    </message>
+    <message>
         <source>interrupted; nothing was written</source>
         <translation>interrompu ; rien n’a été écrit</translation>
     </message>

@@ -1,22 +1,18 @@
 #include "ui/TextFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unicode/localpointer.h>
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>
 #include <unicode/unistr.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <limits>
 #include <optional>
-#include <random>
 #include <string>
-#include <utility>
+#include <system_error>
+
+#include "ui/AtomicFile.h"
 
 namespace ui {
 
@@ -53,106 +49,10 @@ std::optional<std::string> toMacRoman(std::string_view utf8) {
   return bytes;
 }
 
-/// A file that is removed again unless it is renamed to its final place.
-class TemporaryFile {
- public:
-  explicit TemporaryFile(const std::filesystem::path& folder) {
-    std::random_device random;
-    constexpr int manyNames = 100;
-    for (int name = 0; name < manyNames && descriptor_ < 0; ++name) {
-      path_ = folder / (".writing-" + std::to_string(random()));
-      descriptor_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-      if (descriptor_ < 0 && errno != EEXIST) {
-        return;
-      }
-    }
-    isOurs_ = isOpen();
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() {
-    close();
-    if (isOurs_) {
-      ::unlink(path_.c_str());
-    }
-  }
-
-  bool isOpen() const { return descriptor_ >= 0; }
-
-  bool write(std::string_view bytes) const {
-    while (!bytes.empty()) {
-      const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-      if (written >= 0) {
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-      } else if (errno != EINTR) {
-        return false;
-      }
-    }
-    return true;
-  }
-
-  bool takePermissionsOf(const struct stat& other) const {
-    // Only the superuser may give a file away; what anybody else writes becomes his own.
-    [[maybe_unused]] const int result = ::fchown(descriptor_, other.st_uid, other.st_gid);
-    return ::fchmod(descriptor_, other.st_mode & 0777) == 0;
-  }
-
-  bool moveTo(const std::filesystem::path& target) {
-    if (::fsync(descriptor_) != 0 || !close() || std::rename(path_.c_str(), target.c_str()) != 0) {
-      return false;
-    }
-    isOurs_ = false;
-    return true;
-  }
-
- private:
-  bool close() { return descriptor_ < 0 || ::close(std::exchange(descriptor_, -1)) == 0; }
-
-  std::filesystem::path path_;
-  int descriptor_ = -1;
-  bool isOurs_ = false;
-};
-
-/// Where the links end, whether or not anything is there; nothing when they run in a circle.
-std::optional<std::filesystem::path> withoutLinks(std::filesystem::path file) {
-  constexpr int manyLinks = 40;
-  for (int link = 0; link < manyLinks; ++link) {
-    if (!std::filesystem::is_symlink(file)) {
-      return file;
-    }
-    file = file.parent_path() / std::filesystem::read_symlink(file);
-  }
-  return std::nullopt;
-}
-
-/// Makes the renaming itself last. That it cannot on some file systems is no failure.
-void syncFolder(const std::filesystem::path& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor >= 0) {
-    ::fsync(descriptor);
-    ::close(descriptor);
-  }
-}
-
 bool replaceFile(const std::filesystem::path& file, std::string_view bytes) {
-  const std::optional<std::filesystem::path> target = withoutLinks(file);
-  if (!target || !target->has_filename()) {
-    return false;
-  }
-  struct stat existing = {};
-  const bool exists = ::stat(target->c_str(), &existing) == 0;
-  if (exists && (!S_ISREG(existing.st_mode) ||
-                 ::faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0)) {
-    return false;
-  }
-  const std::filesystem::path folder = target->has_parent_path() ? target->parent_path() : ".";
-  TemporaryFile temporary(folder);
-  if (!temporary.isOpen() || !temporary.write(bytes) ||
-      (exists && !temporary.takePermissionsOf(existing)) || !temporary.moveTo(*target)) {
-    return false;
-  }
-  syncFolder(folder);
-  return true;
+  std::error_code error;
+  AtomicFile replacement(file, error);
+  return !error && !replacement.write(bytes) && !replacement.commit();
 }
 
 }  // namespace

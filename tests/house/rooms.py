@@ -29,7 +29,7 @@ MAY_INCLUDE = {
     "converter/stream": ("converter/transcoder/*", "converter/codec/*", "converter/meters/*", "system"),
     "converter/unit": (*(f"{room}/*" for room in CONVERTER), "contract", "audio_unit"),
     "host/messages": ("system",),
-    "host/files": ("host/messages", "sndfile", "soxr", "system"),
+    "host/files": ("host/messages", "ui", "sndfile", "soxr", "system"),
     "host/unit": ("host/files", "host/messages", *UNIT, "ui", "contract", "audio_unit", "json", "system"),
     "host/playback": ("host/unit", "host/files", "host/messages", *UNIT, "contract", "audio_unit",
                       "rtaudio", "sndfile", "soxr", "system"),

@@ -6,7 +6,8 @@
 
 namespace host {
 
-Analysis::Analysis(Open open, AudioFormat format) : open_(std::move(open)), format_(format) {
+Analysis::Analysis(Open open, AudioFormat format, MakeUnit make)
+    : open_(std::move(open)), make_(std::move(make)), format_(format) {
   startWaveform();
 }
 
@@ -23,11 +24,12 @@ void Analysis::startWaveform() {
 }
 
 void Analysis::startEncoded() {
-  result_ = std::make_shared<velk::PeakStatistics>();
-  work_ = std::make_unique<BackgroundWork>([open = open_, overview = overview_, setting = *setting_,
-                                            result = result_](Progress& progress) {
-    *result = scanEncoded(*open(), setting, *overview, progress);
-  });
+  result_ = std::make_shared<std::optional<Readings>>();
+  work_ =
+      std::make_unique<BackgroundWork>([open = open_, make = make_, overview = overview_,
+                                        setting = *setting_, result = result_](Progress& progress) {
+        *result = scanEncoded(*open(), setting, *overview, progress, make);
+      });
 }
 
 void Analysis::update(const EncoderSetting& setting, bool testRuns, Clock::time_point now) {
@@ -43,7 +45,7 @@ void Analysis::update(const EncoderSetting& setting, bool testRuns, Clock::time_
 }
 
 void Analysis::takeUp(const EncoderSetting& setting, Clock::time_point now) {
-  // At first there is nothing that would have to settle.
+  // The first setting need not settle.
   settledAt_ = setting_ ? now + kSettling : now;
   setting_ = setting;
   if (!waveformIsKnown_) return;
@@ -64,10 +66,7 @@ void Analysis::takeResult() {
   } else {
     step_ = Step::Done;
     encodedOvers_ = 0;
-    for (std::size_t channel = 0; channel < format_.channels; ++channel) {
-      encodedOvers_ +=
-          result_->at(velk::kPeakStatsSlot_EncodedLeft + channel).mInterSampleClipCount;
-    }
+    for (const auto& channel : result_->value().encoded) encodedOvers_ += channel.interSampleOvers;
   }
 }
 
@@ -76,7 +75,7 @@ void Analysis::follow(const velk::PeakStatistics& peaks, std::int64_t frame) {
   for (std::uint32_t channel = 0; marks && channel < format_.channels; ++channel) {
     const auto slot = velk::kPeakStatsSlot_EncodedLeft + channel;
     const auto overs = peaks.at(slot).mInterSampleClipCount - heard_.at(slot).mInterSampleClipCount;
-    // After a reset there are fewer than before.
+    // Fewer than before means that the statistics were reset.
     if (overs > 0) {
       overview_->addOvers(Signal::Encoded, channel, heardUpTo_, static_cast<std::uint32_t>(overs));
     }

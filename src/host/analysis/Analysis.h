@@ -8,54 +8,59 @@
 
 #include "contract/ConverterInterface.h"
 #include "host/analysis/BackgroundWork.h"
+#include "host/analysis/OfflineRun.h"
 #include "host/analysis/SharedOverview.h"
 #include "host/files/AudioSource.h"
 #include "host/messages/Message.h"
+#include "host/unit/ConverterSetup.h"
 #include "host/unit/EncoderSetting.h"
+#include "host/unit/Readings.h"
 
 namespace host {
 
-/// Fills a file's overview in the background: first the waveform, then where the encoded signal
-/// exceeds full scale, anew whenever the encoder's setting has changed. Until that is known, what
-/// playing reaches is marked.
+/// Fills a file's overview in the background: first the waveform, then the places where the encoded
+/// signal exceeds full scale, and those again whenever the encoder setting has changed. Until they
+/// are known, overs are marked as playback reaches them.
 ///
-/// While a listening test runs, everything stands still. One thread, the work aside.
+/// While a listening test runs, everything stands still. To be used from one thread; the work
+/// itself runs on others.
 class Analysis {
  public:
   using Clock = std::chrono::steady_clock;
-  /// Opens the file once more; called on other threads.
+  /// Opens the file once more. Called on other threads.
   using Open = std::function<std::unique_ptr<AudioSource>()>;
 
   enum class Step { Waveform, Encoded, Done, Cancelled, Failed };
   struct State {
     Step step = Step::Waveform;
-    /// Of the step.
+    /// How much of the step is done, from 0 to 1.
     double share = 0;
     /// Why it failed.
     Message failure;
-    /// Inter-sample overs of all channels in the whole encoded file, once it is done.
+    /// Once the step is `Done`: inter-sample overs of all channels in the whole encoded file.
     std::int64_t encodedOvers = 0;
   };
 
-  /// A setting has to stay for so long before the encoded signal is analysed.
+  /// How long a setting has to stay unchanged before the encoded signal is analysed.
   static constexpr auto kSettling = std::chrono::milliseconds(400);
 
-  Analysis(Open open, AudioFormat format);
+  /// `make` makes the units that the encoded signal comes from, on other threads.
+  Analysis(Open open, AudioFormat format, MakeUnit make = unitFor);
   ~Analysis();
 
-  /// Another one after the waveform was cancelled and is drawn again.
+  /// A new one when the waveform is drawn again after having been cancelled.
   const std::shared_ptr<SharedOverview>& overview() const { return overview_; }
   State state() const;
 
-  /// To be called now and then.
+  /// To be called regularly.
   void update(const EncoderSetting& setting, bool testRuns, Clock::time_point now);
-  /// What the unit in use has metered up to `frame`, which leaves it next. To be called now and
-  /// then, and after every jump.
+  /// Tells what the playing unit has metered before `frame`, the next to leave it. To be called
+  /// regularly, and after every jump.
   void follow(const velk::PeakStatistics& peaks, std::int64_t frame);
-  /// Stops what is being done; what is known stays. A change of the setting starts the analysis of
-  /// the encoded signal again.
+  /// Stops the work; what is known stays. A change of the setting starts the analysis of the
+  /// encoded signal again.
   void cancel();
-  /// Does what was cancelled or has failed.
+  /// Starts again what was cancelled or has failed.
   void restart();
 
  private:
@@ -65,6 +70,7 @@ class Analysis {
   void takeResult();
 
   Open open_;
+  MakeUnit make_;
   AudioFormat format_;
   std::shared_ptr<SharedOverview> overview_;
   std::optional<EncoderSetting> setting_;
@@ -73,12 +79,12 @@ class Analysis {
   Step step_ = Step::Waveform;
   bool waveformIsKnown_ = false;
   Message failure_;
-  std::shared_ptr<velk::PeakStatistics> result_;
+  std::shared_ptr<std::optional<Readings>> result_;
   std::int64_t encodedOvers_ = 0;
   velk::PeakStatistics heard_{};
   std::int64_t heardUpTo_ = 0;
   bool hears_ = false;
-  /// Ends before what it works on.
+  /// Destroyed first: it works on the members above.
   std::unique_ptr<BackgroundWork> work_;
 };
 

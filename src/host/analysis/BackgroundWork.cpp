@@ -11,11 +11,11 @@
 namespace host {
 namespace {
 
-/// Half way down; threads that the work makes begin there, too.
+/// Half way down the scale. Threads that the work starts inherit it.
 constexpr int kNiceness = 10;
 
 void stepBehind() {
-  // A system that refuses runs the work like any other.
+  // Where the system refuses, the work runs with the usual priority.
   static_cast<void>(::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), kNiceness));
 }
 

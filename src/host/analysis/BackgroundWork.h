@@ -9,21 +9,21 @@
 
 namespace host {
 
-/// Runs work once on a thread of its own, behind everything that is more urgent.
+/// Runs work once, on a thread of its own with a low priority.
 class BackgroundWork {
  public:
-  /// Begins at once. What the work throws ends it.
+  /// Starts at once. An exception ends the work and becomes its failure.
   explicit BackgroundWork(std::function<void(Progress&)> work);
   BackgroundWork(const BackgroundWork&) = delete;
   BackgroundWork& operator=(const BackgroundWork&) = delete;
-  /// Stops it and waits until it has.
+  /// Stops the work and waits until it has ended.
   ~BackgroundWork();
 
   Progress& progress() { return progress_; }
   const Progress& progress() const { return progress_; }
-  /// Whether it has ended, however that came.
+  /// Whether it has ended, for whatever reason.
   bool hasEnded() const { return ended_.load(std::memory_order_acquire); }
-  /// Once it has ended: what went wrong, or nothing.
+  /// Once it has ended: what went wrong; empty if nothing did.
   const Message& failure() const { return failure_; }
 
  private:

@@ -6,17 +6,17 @@
 
 namespace host {
 
-/// Between long work on one thread and whoever watches over it on another.
+/// Links long work on one thread to whoever watches and stops it from another.
 class Progress {
  public:
-  /// From 0 to 1.
+  /// How much is done, from 0 to 1.
   void set(double share) { share_.store(share, std::memory_order_relaxed); }
   double share() const { return share_.load(std::memory_order_relaxed); }
 
   void stop();
   bool isStopped() const;
   void setPaused(bool paused);
-  /// Waits while the work is paused. False when it is to stop. The working thread.
+  /// Waits while the work is paused; false if it is to stop. Called by the working thread.
   bool goesOn();
 
  private:

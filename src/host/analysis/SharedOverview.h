@@ -8,7 +8,7 @@
 
 namespace host {
 
-/// A waveform's overview that one thread shows while others fill it. Any thread.
+/// A waveform's overview that one thread draws while others fill it. Any thread.
 class SharedOverview {
  public:
   explicit SharedOverview(std::uint32_t channels) : channels_(channels), overview_(channels) {}
@@ -18,7 +18,7 @@ class SharedOverview {
   void addOvers(Signal signal, std::uint32_t channel, std::int64_t frame, std::uint32_t count);
   void clearOvers(Signal signal);
 
-  /// Another number after every change.
+  /// A number that differs after every change.
   std::uint64_t revision() const;
   std::vector<WaveformColumn> columns(std::uint32_t channel, std::int64_t begin, std::int64_t end,
                                       std::size_t count) const;

@@ -9,8 +9,8 @@ namespace host {
 namespace {
 
 constexpr std::size_t kBlockFrames = 4096;
-/// Overs are found to within this many frames, which is less than a column of any usual window.
-constexpr std::size_t kMeteredFrames = 128;
+constexpr auto kStretchFrames = static_cast<std::size_t>(overStretchFrames);
+static_assert(kBlockFrames % kStretchFrames == 0);
 
 /// Finds the overs of one channel.
 class OverFinder {
@@ -19,22 +19,22 @@ class OverFinder {
       : channel_(channel), overview_(overview) {}
 
   void process(const float* interleaved, std::size_t stride, std::size_t frames) {
-    std::array<float, kMeteredFrames> samples;
-    for (std::size_t done = 0; done < frames; done += kMeteredFrames) {
-      const auto count = std::min(kMeteredFrames, frames - done);
+    std::array<float, kStretchFrames> samples;
+    for (std::size_t done = 0; done < frames; done += kStretchFrames) {
+      const auto count = std::min(kStretchFrames, frames - done);
       for (std::size_t i = 0; i < count; ++i) {
         samples[i] = interleaved[(done + i) * stride + channel_];
       }
       meter_.process(samples.data(), count);
-      mark();
+      middle_ = frame_ + static_cast<std::int64_t>(count / 2);
       frame_ += static_cast<std::int64_t>(count);
+      mark();
     }
   }
-  /// The last intervals count as if silence followed.
+  /// Meters the end of the signal as if silence followed.
   void finish() {
     constexpr std::array<float, converter::TruePeakMeter::kDelay> silence{};
     meter_.process(silence.data(), silence.size());
-    frame_ = std::max<std::int64_t>(frame_ - 1, 0);
     mark();
   }
 
@@ -42,7 +42,7 @@ class OverFinder {
   void mark() {
     const auto overs = meter_.interSampleOverCount();
     if (overs == overs_) return;
-    overview_.addOvers(Signal::Source, channel_, frame_,
+    overview_.addOvers(Signal::Source, channel_, middle_,
                        static_cast<std::uint32_t>(overs - overs_));
     overs_ = overs;
   }
@@ -51,6 +51,8 @@ class OverFinder {
   SharedOverview& overview_;
   converter::TruePeakMeter meter_;
   std::int64_t frame_ = 0;
+  /// The middle of the last stretch.
+  std::int64_t middle_ = 0;
   std::int64_t overs_ = 0;
 };
 

@@ -106,7 +106,7 @@ WaveformColumn WaveformOverview::sum(const Pyramid& pyramid, std::size_t begin, 
   for (const auto& level : pyramid) {
     end = std::min(end, level.size());
     const bool isTop = &level == &pyramid.back();
-    // What fills whole buckets of the next level is left to it.
+    // Whole buckets of the next level are left to that level.
     while (begin < end && (isTop || begin % kFanOut != 0)) merge(result, level[begin++]);
     while (begin < end && end % kFanOut != 0) merge(result, level[--end]);
     if (begin >= end) break;
@@ -128,7 +128,7 @@ std::vector<WaveformColumn> WaveformOverview::columns(std::uint32_t channel, std
   for (std::int64_t i = 0; i < columns; ++i) {
     const auto first = begin + (end - begin) * i / columns;
     const auto next = std::max(begin + (end - begin) * (i + 1) / columns, first + 1);
-    // A column before the first frame holds nothing.
+    // A column before the first frame is empty.
     result.push_back(next <= 0 ? WaveformColumn{}
                                : sum(pyramid, bucketAt(first), bucketAt(next - 1) + 1));
   }

@@ -9,7 +9,7 @@ namespace host {
 
 enum class Signal : std::uint8_t { Source, Encoded };
 
-/// What one column of a drawn waveform stands for.
+/// What one column of a drawn waveform shows.
 struct WaveformColumn {
   /// The extremes of its samples. `minimum` is above `maximum` where no sample is known.
   float minimum = std::numeric_limits<float>::infinity();
@@ -20,24 +20,25 @@ struct WaveformColumn {
   bool hasSamples() const { return minimum <= maximum; }
 };
 
-/// The shape of a signal at every resolution, and where it and what is encoded from it exceed full
-/// scale. It is built while a file is read, takes the same memory however long the file is, and
-/// answers for any stretch in a time that grows with the columns, not with the stretch.
+/// The shape of a signal at every resolution, and where the signal and its encoded version exceed
+/// full scale. It is built while a file is read, takes the same memory however long the file is,
+/// and answers for any stretch in a time that grows with the number of columns, not with the
+/// length.
 ///
-/// The signal is kept as the extremes of equal stretches, the buckets, whose length doubles
+/// It keeps the extremes of equal stretches of the signal, the buckets, whose length doubles
 /// whenever there would be too many of them. One thread at a time.
 class WaveformOverview {
  public:
   /// 9 MiB for two channels. Ten minutes at 48 kHz have buckets of 128 frames, ten hours of 8192.
   static constexpr std::size_t kDefaultBuckets = std::size_t{1} << 18U;
 
-  /// `maximumBuckets` per channel, a power of two from 2 on.
+  /// `maximumBuckets` is per channel, a power of two, at least 2.
   explicit WaveformOverview(std::uint32_t channels, std::size_t maximumBuckets = kDefaultBuckets);
 
   std::uint32_t channels() const { return static_cast<std::uint32_t>(pyramids_.size()); }
   /// Frames taken so far.
   std::int64_t frames() const { return frames_; }
-  /// The finest resolution that there is now.
+  /// The finest resolution available now.
   std::int64_t framesPerBucket() const { return bucketFrames_; }
 
   /// Takes the next frames, one plane of samples per channel.
@@ -45,18 +46,18 @@ class WaveformOverview {
   /// Takes the next frames, interleaved.
   void append(const float* interleaved, std::size_t frames);
 
-  /// Notes overs at a frame, which may lie beyond those taken so far.
+  /// Adds overs at a frame, which may lie beyond those taken so far.
   void addOvers(Signal signal, std::uint32_t channel, std::int64_t frame, std::uint32_t count = 1);
-  /// Forgets the overs of one signal, as after a change of the encoder.
+  /// Removes the overs of one signal, for instance because the encoder has changed.
   void clearOvers(Signal signal);
 
-  /// `count` columns that share the frames from `begin` up to `end` evenly. A bucket that lies in
-  /// two columns counts for both, so that no peak and no over is lost at any resolution.
+  /// Divides the frames from `begin` up to `end` evenly into `count` columns. A bucket that lies in
+  /// two columns counts for both, so that no peak or over is lost at any resolution.
   std::vector<WaveformColumn> columns(std::uint32_t channel, std::int64_t begin, std::int64_t end,
                                       std::size_t count) const;
 
  private:
-  /// The finest level first; each bucket of the next sums up `fanOut` of the one before.
+  /// The finest level first; a bucket of each level sums up sixteen of the level before.
   using Pyramid = std::vector<std::vector<WaveformColumn>>;
 
   template <class SampleAt>

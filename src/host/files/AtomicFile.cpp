@@ -1,10 +1,6 @@
 #include "host/files/AtomicFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
+#include <string>
 #include <system_error>
 
 #include "host/messages/Failure.h"
@@ -12,67 +8,38 @@
 namespace host {
 namespace {
 
-[[noreturn]] void refuseFolder(const std::filesystem::path& path) {
-  throw Failure(Message::words("cannot write '%1': it is a folder; give the path of a file"),
-                {path.string()});
-}
-
-[[noreturn]] void refusePlace(const std::filesystem::path& path, const std::string& why) {
-  throw Failure(Message::words("cannot write '%1': %2; choose another place"),
-                {path.string(), why});
-}
-
-std::string reason(int error) {
-  return std::generic_category().message(error);
-}
-
-void requireReplaceable(const std::filesystem::path& path) {
-  std::error_code error;
-  const auto status = std::filesystem::status(path, error);
-  if (status.type() == std::filesystem::file_type::not_found) return;
-  if (error) refusePlace(path, error.message());
-  if (status.type() == std::filesystem::file_type::directory) refuseFolder(path);
-  if (status.type() != std::filesystem::file_type::regular) {
-    throw Failure(
+Failure cannotWrite(const std::filesystem::path& path, const std::error_code& error) {
+  const auto name = path.string();
+  std::error_code unknown;
+  const auto status = std::filesystem::status(path, unknown);
+  if (!path.has_filename() || is_directory(status)) {
+    return Failure(Message::words("cannot write '%1': it is a folder; give the path of a file"),
+                   {name});
+  }
+  if (exists(status) && !is_regular_file(status)) {
+    return Failure(
         Message::words("cannot write '%1': it is not an ordinary file; choose another name"),
-        {path.string()});
+        {name});
   }
-  if (::access(path.c_str(), W_OK) != 0) {
-    throw Failure(Message::words("cannot write '%1': %2; choose another name"),
-                  {path.string(), reason(errno)});
+  if (exists(status)) {
+    return Failure(Message::words("cannot write '%1': %2; choose another name"),
+                   {name, error.message()});
   }
+  return Failure(Message::words("cannot write '%1': %2; choose a folder that can be written to"),
+                 {name, error.message()});
 }
 
 }  // namespace
 
-AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path) {
-  if (!path.has_filename()) refuseFolder(path);
-  requireReplaceable(path);
-  // A link keeps pointing to where it does: the file behind it is replaced.
-  std::error_code error;
-  if (std::filesystem::is_symlink(path, error)) path_ = std::filesystem::weakly_canonical(path);
-  std::string name = path_.string() + ".part-XXXXXX";
-  const int descriptor = ::mkostemp(name.data(), O_CLOEXEC);
-  if (descriptor < 0) {
-    throw Failure(Message::words("cannot write '%1': %2; choose a folder that can be written to"),
-                  {path.string(), reason(errno)});
-  }
-  const auto mask = ::umask(0);
-  ::umask(mask);
-  ::fchmod(descriptor, 0666 & ~mask);
-  ::close(descriptor);
-  temporary_ = name;
-}
-
-AtomicFile::~AtomicFile() {
-  if (!committed_) ::unlink(temporary_.c_str());
+AtomicFile::AtomicFile(const std::filesystem::path& path) : path_(path), file_(path, error_) {
+  if (error_) throw cannotWrite(path, error_);
 }
 
 void AtomicFile::commit() {
-  if (::rename(temporary_.c_str(), path_.c_str()) != 0) {
-    refusePlace(path_, reason(errno));
+  if (const auto error = file_.commit()) {
+    throw Failure(Message::words("cannot write '%1': %2; choose another place"),
+                  {path_.string(), error.message()});
   }
-  committed_ = true;
 }
 
 }  // namespace host

@@ -1,31 +1,30 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
+
+#include "ui/AtomicFile.h"
 
 namespace host {
 
-/// A file that comes into being whole or not at all: what is written goes to a temporary file
-/// beside it, which takes its name on `commit` and vanishes otherwise.
+/// `ui::AtomicFile` for the programs: what cannot be written is a `Failure`, in words for the user.
 class AtomicFile {
  public:
   /// Makes the temporary file. Throws `Failure` when the folder is missing or cannot be written to,
   /// or when something that is no ordinary, writable file has the name.
   explicit AtomicFile(const std::filesystem::path& path);
-  AtomicFile(const AtomicFile&) = delete;
-  AtomicFile& operator=(const AtomicFile&) = delete;
-  ~AtomicFile();
 
+  /// As it was given.
   const std::filesystem::path& path() const { return path_; }
-  /// Where to write until `commit`. The file exists and is empty.
-  const std::filesystem::path& temporaryPath() const { return temporary_; }
-  /// Gives the file its name. Throws `Failure`.
+  /// Where to write until `commit`: a file that is empty at first, by name and by its descriptor.
+  const std::filesystem::path& temporaryPath() const { return file_.temporaryPath(); }
+  int descriptor() const { return file_.descriptor(); }
+  /// Gives the file its name, safely on disk. Throws `Failure`.
   void commit();
 
  private:
   std::filesystem::path path_;
-  std::filesystem::path temporary_;
-  bool committed_ = false;
+  std::error_code error_;
+  ui::AtomicFile file_;
 };
 
 }  // namespace host

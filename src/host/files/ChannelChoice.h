@@ -9,14 +9,14 @@
 
 namespace host {
 
-/// One or two channels of a file with more, by number from 1 on: what is left and what is right, or
-/// the only one.
+/// Which channels to take of a file with more than two, numbered from 1: the left and the right
+/// one, or a single one.
 using ChannelChoice = std::vector<std::uint32_t>;
 
 /// Reads "L,R" or "N". Throws `UsageError`.
 ChannelChoice parsedChannelChoice(std::string_view text);
 
-/// A file has more than two channels, and nobody has said which of them to take.
+/// A file has more than two channels, and it was not said which of them to take.
 class TooManyChannels : public Failure {
  public:
   TooManyChannels(Message message, std::uint32_t channels)

@@ -8,7 +8,7 @@
 
 namespace host {
 
-OpenedFile openedForPlaying(const std::filesystem::path& path, const ChannelChoice& choice) {
+OpenedFile openForPlaying(const std::filesystem::path& path, const ChannelChoice& choice) {
   auto file = std::make_unique<SoundFile>(path, choice);
   const auto original = file->format();
   auto truncated = file->truncation();

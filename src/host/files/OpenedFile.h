@@ -9,21 +9,21 @@
 
 namespace host {
 
-/// A sound file made ready for a converter unit.
+/// A sound file, ready for a converter unit.
 struct OpenedFile {
   std::filesystem::path path;
-  /// At a rate that the unit does.
+  /// At a sample rate that the unit supports.
   std::unique_ptr<AudioSource> source;
-  /// As it is in the file.
+  /// The format of the file itself.
   AudioFormat original;
-  /// Whether the file proved to hold less than it promises.
+  /// Whether the file has turned out to hold less than it promises.
   std::shared_ptr<const std::atomic<bool>> truncated;
-  /// What was chosen of its channels.
+  /// The channels that were chosen, if it has more than two.
   ChannelChoice channels = {};
 };
 
-/// Of a file with more than two channels those of the choice are played. Throws `TooManyChannels`
-/// when there is no choice, and `Failure` when the file cannot be played.
-OpenedFile openedForPlaying(const std::filesystem::path& path, const ChannelChoice& choice = {});
+/// Opens a file. Of more than two channels it takes those that were chosen. Throws
+/// `TooManyChannels` when none were, and `Failure` when the file cannot be played.
+OpenedFile openForPlaying(const std::filesystem::path& path, const ChannelChoice& choice = {});
 
 }  // namespace host

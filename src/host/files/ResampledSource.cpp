@@ -10,8 +10,8 @@ namespace host {
 namespace {
 
 constexpr std::size_t kInputBlock = 4096;
-/// Original audio that goes through the filter before the place that was asked for, so that the
-/// filter knows its past: longer than its impulse response at any ratio that occurs.
+/// Frames of the original that are run through the filter before the position that was asked for,
+/// so that it has settled: longer than its impulse response at any ratio that occurs.
 constexpr std::int64_t kPreRoll = 16384;
 
 }  // namespace
@@ -72,7 +72,8 @@ std::size_t ResampledSource::read(float* interleaved, std::size_t frames) {
 
 void ResampledSource::seek(std::int64_t frame) {
   frame = std::clamp<std::int64_t>(frame, 0, frames_);
-  // Both grids meet every `outputStep_` frames; only from there does the resampler hit this one.
+  // The two grids coincide every `outputStep_` frames. A resampler started elsewhere would be off
+  // this one.
   const auto preRollSteps = (kPreRoll + inputStep_ - 1) / inputStep_;
   const auto step = std::max<std::int64_t>(frame / outputStep_ - preRollSteps, 0);
   original_->seek(step * inputStep_);

@@ -8,8 +8,8 @@
 
 namespace host {
 
-/// A source at another sample rate (soxr, very high quality, linear phase). Time stays where it
-/// was: frame n is the moment n / sample rate of the original, however it was reached.
+/// A source at another sample rate (soxr, very high quality, linear phase). Nothing
+/// moves in time: frame n is the original's moment n / sample rate, however it was reached.
 class ResampledSource : public AudioSource {
  public:
   /// Throws `Failure` when the resampler cannot be made.
@@ -39,7 +39,7 @@ class ResampledSource : public AudioSource {
   std::int64_t position_ = 0;
 };
 
-/// The source itself where its rate is `sampleRate`, else a resampled one.
+/// The source itself if its rate is `sampleRate`, otherwise a resampled one around it.
 std::unique_ptr<AudioSource> atSampleRate(std::unique_ptr<AudioSource> source,
                                           std::uint32_t sampleRate);
 

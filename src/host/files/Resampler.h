@@ -15,7 +15,8 @@ using Resampler = std::unique_ptr<void, DeleteResampler>;
 
 enum class SampleLayout { Interleaved, Planes };
 
-/// From a format to another sample rate, very high quality, linear phase. Throws `Failure`.
+/// A resampler from this format to another sample rate: very high quality, linear phase. Throws
+/// `Failure`.
 Resampler makeResampler(AudioFormat format, std::uint32_t sampleRate, SampleLayout layout);
 
 }  // namespace host

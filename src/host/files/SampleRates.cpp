@@ -10,12 +10,12 @@ std::uint32_t unitSampleRateFor(std::uint32_t sampleRate) {
     return found == unitSampleRates.end() ? 0 : *found;
   };
   if (sampleRate > unitSampleRates.back()) {
-    // A half or a quarter keeps 352.8 and 705.6 kHz in their own family.
+    // Half or a quarter keeps 352.8 and 705.6 kHz in their own family of rates.
     const auto part =
         first([=](std::uint32_t rate) { return rate > 96000 && sampleRate % rate == 0; });
     return part != 0 ? part : unitSampleRates.back();
   }
-  // Half as many again before twice as many: 64 kHz goes to 96 rather than to 192.
+  // One and a half times the rate is preferred to twice: 64 kHz becomes 96 rather than 192.
   if (first([=](std::uint32_t rate) { return rate == sampleRate; }) != 0) return sampleRate;
   const auto half = first([=](std::uint32_t rate) { return rate * 2 == sampleRate * 3; });
   if (half != 0) return half;

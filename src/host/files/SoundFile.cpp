@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "host/messages/Failure.h"
-#include "host/messages/QuietStandardError.h"
 
 namespace host {
 namespace {
@@ -60,8 +59,8 @@ bool promisesMoreThanItHolds(std::string_view log) {
     std::from_chars(text.data(), text.data() + text.size(), value);
     return value;
   };
-  // Rows such as "data : 384000 (should be 230382)". Recorders that never came back to write the
-  // size leave 0 or all ones; a few bytes of padding are no loss either.
+  // Rows such as "data : 384000 (should be 230382)". Recorders that were
+  // never able to fill in the size leave 0 or all ones; a few bytes of padding are no loss either.
   constexpr std::uint64_t padding = 8;
   constexpr std::uint64_t neverWritten = 0xFFFFFF00;
   constexpr std::string_view correction = " (should be ";
@@ -78,10 +77,6 @@ bool promisesMoreThanItHolds(std::string_view log) {
   return false;
 }
 
-void SoundFile::Close::operator()(void* file) const {
-  sf_close(handle(file));
-}
-
 SoundFile::SoundFile(const std::filesystem::path& path, ChannelChoice choice)
     : path_(path), choice_(std::move(choice)) {
   requireOrdinaryFile(path);
@@ -90,8 +85,8 @@ SoundFile::SoundFile(const std::filesystem::path& path, ChannelChoice choice)
   sf_command(handle(file_.get()), SFC_GET_LOG_INFO, log.data(), static_cast<int>(log.size()));
   if (promisesMoreThanItHolds(log.data())) *truncated_ = true;
   if (frames_ == SF_COUNT_MAX) {
-    // The last page of an Ogg file says that it is the last. A FLAC stream out of a pipe just never
-    // learnt its length.
+    // An Ogg file's last page is marked as the last, and here it is missing. A FLAC stream written
+    // to a pipe merely never learnt its length.
     if (isOgg_) *truncated_ = true;
     const auto held = countFrames();
     open();
@@ -107,11 +102,11 @@ SoundFile::~SoundFile() = default;
 void SoundFile::open() {
   SF_INFO info{};
   std::string why;
-  {
-    const QuietStandardError quiet;
-    file_.reset(sf_open(path_.c_str(), SFM_READ, &info));
-    // The library has one reason for all threads, and the next to open a file clears it.
-    if (!file_) why = sf_strerror(nullptr);
+  try {
+    file_ = openQuietly(path_, info, why);
+  } catch (const std::system_error& error) {
+    refuse(path_, Message::words("%1; check the path and its permissions"),
+           {error.code().message()});
   }
   if (!file_) {
     while (!why.empty() && (why.back() == '.' || why.back() == '\n')) why.pop_back();
@@ -192,7 +187,7 @@ std::size_t SoundFile::read(float* interleaved, std::size_t frames) {
 void SoundFile::seek(std::int64_t frame) {
   frame = std::clamp<std::int64_t>(frame, 0, frames_);
   const auto reached = sf_seek(handle(file_.get()), frame, SEEK_SET);
-  // A place that a damaged file cannot give reads as the end.
+  // Where a damaged file cannot be sought to, it ends.
   position_ = reached < 0 ? frames_ : frame;
   if (reached < 0) *truncated_ = true;
 }

@@ -3,23 +3,22 @@
 #include <atomic>
 #include <filesystem>
 #include <memory>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "host/files/AudioSource.h"
 #include "host/files/ChannelChoice.h"
+#include "host/files/QuietSoundFile.h"
 
 namespace host {
 
-/// A sound file of any format that libsndfile reads: mono, stereo, or one or two channels of more.
-/// Samples that are not finite come out as silence.
+/// A sound file of any format that libsndfile reads: mono, stereo, or one or two channels out of
+/// more. Samples that are not finite are read as silence.
 class SoundFile : public AudioSource {
  public:
-  /// `choice` says which channels are taken of a file that has more than two; others are read as
-  /// they are. Throws `TooManyChannels` when there is none for such a file, and `Failure` when the
-  /// file is missing, empty, no audio, no ordinary file, lacks a chosen channel, or has a sample
-  /// rate that cannot be played.
+  /// `choice` says which channels to take if the file has more than two. Throws `TooManyChannels`
+  /// if it is empty then, and `Failure` when the file is missing, empty, not audio, not an ordinary
+  /// file, lacks a chosen channel, or has a sample rate that cannot be played.
   explicit SoundFile(const std::filesystem::path& path, ChannelChoice choice = {});
   ~SoundFile() override;
 
@@ -28,17 +27,12 @@ class SoundFile : public AudioSource {
   std::size_t read(float* interleaved, std::size_t frames) override;
   void seek(std::int64_t frame) override;
 
-  /// Whether the file holds less than its header promises, as far as that has shown yet. Any
-  /// thread.
+  /// Whether the file has so far turned out to hold less than its header promises. Any thread.
   bool isTruncated() const { return *truncated_; }
-  /// The same for whoever outlives the file.
+  /// The same, for those who outlive the file.
   std::shared_ptr<const std::atomic<bool>> truncation() const { return truncated_; }
 
  private:
-  struct Close {
-    void operator()(void* file) const;
-  };
-
   void open();
   void chooseChannels();
   std::int64_t countFrames();
@@ -46,11 +40,11 @@ class SoundFile : public AudioSource {
 
   std::filesystem::path path_;
   ChannelChoice choice_;
-  std::unique_ptr<void, Close> file_;
+  OpenSoundFile file_;
   AudioFormat format_;
-  /// As many as the file has. The first ones are those that are taken, unless there is a choice.
+  /// All that the file has. Without a choice the first ones are taken.
   std::size_t fileChannels_ = 0;
-  /// Frames of the whole file, where only some of its channels are taken.
+  /// A block with all channels of the file, where only some of them are taken.
   std::vector<float> wide_;
   std::int64_t frames_ = 0;
   bool isOgg_ = false;
@@ -58,7 +52,7 @@ class SoundFile : public AudioSource {
   std::shared_ptr<std::atomic<bool>> truncated_ = std::make_shared<std::atomic<bool>>(false);
 };
 
-/// Whether libsndfile's log of opening a file says that the header promises more audio than the
+/// Whether libsndfile's log of opening a file shows that the header promises more audio than the
 /// file holds.
 bool promisesMoreThanItHolds(std::string_view openingLog);
 

@@ -18,7 +18,7 @@ std::optional<HelpText> parseArguments(CLI::App& app, int argc, const char* cons
   } catch (const CLI::CallForVersion& call) {
     return HelpText{std::string(call.what()) + "\n"};
   } catch (const CLI::ParseError& error) {
-    // The parser's messages may have several lines.
+    // The parser's messages may have several lines; the first says what is wrong.
     const std::string message = error.what();
     throw UsageError(message.substr(0, message.find('\n')));
   }

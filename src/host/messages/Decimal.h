@@ -4,9 +4,10 @@
 
 namespace host {
 
-/// The number with `digits` digits after the point, whatever the locale; "-inf" for minus infinity.
+/// The number with `digits` decimals and a decimal point, whatever the locale; "-inf" for minus
+/// infinity.
 std::string decimal(double value, int digits);
-/// The number rounded to `digits` digits after the point.
+/// The number rounded to `digits` decimals.
 double rounded(double value, int digits);
 
 }  // namespace host

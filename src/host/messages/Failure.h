@@ -9,8 +9,8 @@
 
 namespace host {
 
-/// Something that the program cannot do. The message is one line for the user: it names the thing
-/// and says what to do about it. `what` gives it in English.
+/// Something that the program cannot do. The message is one line for the user: it names what went
+/// wrong and says what to do about it. `what` gives it in English.
 class Failure : public std::runtime_error {
  public:
   explicit Failure(Message message)
@@ -22,7 +22,7 @@ class Failure : public std::runtime_error {
   const Message& message() const { return *message_; }
 
  private:
-  /// Shared, as an exception must be copied without throwing another.
+  /// Shared, because copying an exception must not throw.
   std::shared_ptr<const Message> message_;
 };
 

@@ -5,7 +5,7 @@
 namespace host {
 namespace {
 
-/// A value that looks like a place is none.
+/// Fills the placeholders. One that occurs inside a value is left alone.
 std::string filled(const std::string& words, const std::vector<std::string>& values) {
   std::string text;
   for (std::size_t i = 0; i < words.size(); ++i) {

@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <mutex>
 #include <stdexcept>
 #include <utility>
 
 #include "host/messages/Failure.h"
-#include "host/messages/QuietStandardError.h"
+#include "host/messages/QuietCall.h"
 #include "host/playback/RtAudioVersions.h"
+#include "host/playback/SoundSystems.h"
 
 namespace host {
 namespace {
@@ -40,16 +42,19 @@ void appendDevices(RtAudio::Api system, std::vector<Device>& devices) {
 }  // namespace
 
 std::vector<Device> outputDevices() {
-  const QuietStandardError quiet;
+  const std::lock_guard lock(soundSystemsMutex());
   std::vector<Device> devices;
-  for (const auto system : systems) {
-    try {
-      appendDevices(system, devices);
-    } catch (const std::runtime_error&) {
-      // A system that does not answer has no devices.
-      continue;
+  // Everything that looking opens is closed again.
+  callQuietly([&] {
+    for (const auto system : systems) {
+      try {
+        appendDevices(system, devices);
+      } catch (const std::runtime_error&) {
+        // A system that does not answer has no devices.
+        continue;
+      }
     }
-  }
+  });
   return devices;
 }
 

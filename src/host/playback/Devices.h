@@ -29,7 +29,8 @@ struct Device {
   unsigned preferredRate = 0;
 };
 
-/// Every device of JACK, PulseAudio and ALSA, in this order. Takes a moment. Main thread.
+/// Every device of JACK, PulseAudio and ALSA, in this order. Takes a moment, and waits while
+/// another thread looks or a device is being opened or closed. Any thread.
 std::vector<Device> outputDevices();
 
 /// The device with that name, or else the first whose name contains it, ignoring case. Nothing when
@@ -57,7 +58,8 @@ std::vector<Device> inOrderOfPreference(std::vector<Device> devices, std::uint32
 using OpenDevice = std::function<std::unique_ptr<Output>(const Device& device, AudioFormat format,
                                                          BlockRenderer& renderer)>;
 
-/// The default `OpenDevice`; uses RtAudio.
+/// The default `OpenDevice`; uses RtAudio. Like the destructor of what it gives, it waits while
+/// devices are looked for. Main thread.
 std::unique_ptr<Output> openDevice(const Device& device, AudioFormat format,
                                    BlockRenderer& renderer);
 

@@ -8,9 +8,9 @@
 #include <stdexcept>
 
 #include "host/messages/Failure.h"
-#include "host/messages/QuietStandardError.h"
 #include "host/playback/Devices.h"
 #include "host/playback/RtAudioVersions.h"
+#include "host/playback/SoundSystems.h"
 
 namespace host {
 namespace {
@@ -107,7 +107,7 @@ void RtAudioOutput::start(const Device& device) {
 }
 
 RtAudioOutput::~RtAudioOutput() {
-  const QuietStandardError quiet;
+  const std::lock_guard lock(soundSystemsMutex());
   try {
     if (audio_.isStreamOpen()) audio_.closeStream();
   } catch (const std::runtime_error&) {
@@ -153,7 +153,8 @@ Message RtAudioOutput::failure() {
 
 std::unique_ptr<Output> openDevice(const Device& device, AudioFormat format,
                                    BlockRenderer& renderer) {
-  const QuietStandardError quiet;
+  silenceAlsa();
+  const std::lock_guard lock(soundSystemsMutex());
   return std::make_unique<RtAudioOutput>(device, format, renderer);
 }
 

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "programs/audition/Words.h"
+#include "programs/audition/ProgramTerminal.h"
 
 namespace host::audition {
 
@@ -10,7 +10,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   try {
     return QApplication::notify(receiver, event);
   } catch (const std::exception& error) {
-    warn(error.what());
+    terminal().warn(error.what());
     return true;
   }
 }

@@ -9,8 +9,8 @@
 #include "converter/unit/ConverterUnit.h"
 #include "host/messages/Failure.h"
 #include "programs/audition/Languages.h"
+#include "programs/audition/ProgramTerminal.h"
 #include "programs/audition/StatusText.h"
-#include "programs/audition/Words.h"
 
 namespace host::audition {
 namespace {
@@ -131,7 +131,7 @@ void Audition::startFirstDevice() {
       inOrderOfPreference(*devices_, session_->format().sampleRate, chosenDevice_));
   showRateNotice();
   if (why.empty()) return;
-  warn(why.english() + "; playing to nobody");
+  terminal().warn(why.english() + "; playing to nobody");
   setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
 }
 
@@ -144,7 +144,7 @@ void Audition::recordFrom(Session& session) {
   if (recordedFormat_ == session.format()) {
     session.setTap(recorder_.get());
   } else {
-    warn("the recording pauses: this file has another sample rate or channel count");
+    terminal().warn("the recording pauses: this file has another sample rate or channel count");
   }
 }
 
@@ -196,7 +196,7 @@ void Audition::setDevice(const std::optional<Device>& device) {
     session_->setDevice(device);
     showRateNotice();
   } catch (const Failure& failure) {
-    warn(failure.what());
+    terminal().warn(failure.what());
     setNotice(tr("Silent: %1").arg(inUsersLanguage(failure.message())));
   }
   refresh();
@@ -235,7 +235,7 @@ void Audition::refreshTransport() {
 void Audition::refreshOutput() {
   const auto why = session_->checkOutput();
   if (!why.empty()) {
-    warn(why.english() + "; playing to nobody");
+    terminal().warn(why.english() + "; playing to nobody");
     setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
   }
   // During a listening test a notice would tell which signal is the encoded one.
@@ -254,8 +254,9 @@ void Audition::refreshOutput() {
 void Audition::warnOfTruncation() {
   if (warnedOfTruncation_ || !session_->fileIsTruncated()) return;
   warnedOfTruncation_ = true;
-  warn("the file '" + session_->path().string() +
-       "' is damaged or cut off: it holds less than it promises; what is there is played");
+  terminal().warn(
+      "the file '" + session_->path().string() +
+      "' is damaged or cut off: it holds less than it promises; what is there is played");
   setNotice(tr("The file is damaged or cut off"));
 }
 

@@ -21,7 +21,7 @@ std::optional<SavedSession> Audition::sessionToSave() {
 
 void Audition::restore(const SavedSession& saved) {
   chosenDevice_ = saved.device;
-  open(openedForPlaying(saved.file, saved.channels));
+  open(openForPlaying(saved.file, saved.channels));
   const bool settingIsNamed = options_.setting || options_.preset;
   if (saved.setting && !settingIsNamed) applyEncoderSetting(&session_->unit(), *saved.setting);
   if (saved.loop) loop_.choose(saved.loop);

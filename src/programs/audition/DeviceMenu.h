@@ -18,6 +18,7 @@ class DeviceMenu : public QObject {
   Q_OBJECT
 
  public:
+  /// Called on other threads.
   using Look = std::function<std::vector<Device>()>;
 
   /// How often it looks while the menu is open, in milliseconds.

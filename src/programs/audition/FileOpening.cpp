@@ -44,7 +44,7 @@ void FileOpening::openChannels(const QString& path, const ChannelChoice& channel
   // A new view would silently end the listening test.
   if (!enabled_) return;
   try {
-    take_(openedForPlaying(path.toStdString(), channels));
+    take_(openForPlaying(path.toStdString(), channels));
     if (recent_) recent_->add(path);
   } catch (const TooManyChannels& many) {
     askForChannels(path, many.channels());

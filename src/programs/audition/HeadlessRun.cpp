@@ -8,9 +8,9 @@
 #include "converter/unit/ConverterUnit.h"
 #include "host/messages/Failure.h"
 #include "host/unit/CarriedSetting.h"
-#include "programs/audition/Report.h"
+#include "programs/audition/ProgramTerminal.h"
 #include "programs/audition/Run.h"
-#include "programs/audition/Words.h"
+#include "programs/audition/RunEnd.h"
 
 namespace host::audition {
 namespace {
@@ -82,7 +82,7 @@ void requireDevice(const std::optional<std::string>& name) {
 int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
   // No device plays, but a wrong name is an error all the same.
   requireDevice(options.device);
-  auto file = openedForPlaying(*options.file, options.channels);
+  auto file = openForPlaying(*options.file, options.channels);
   Audition audition(options, std::move(files.record), std::nullopt);
   // The screenshot shows the whole waveform.
   audition.setAnalysing(files.screenshot != nullptr);
@@ -118,9 +118,9 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   audition.refresh();
   audition.finish();
   const auto readings = readingsAfter(audition);
-  if (const auto carried = carriedOtherwise(&audition.session()->unit())) warn(*carried);
+  if (const auto carried = carriedOtherwise(&audition.session()->unit())) terminal().warn(*carried);
   if (files.screenshot) writeScreenshot(audition.window(), *files.screenshot);
-  say(options.json ? asJson(readings) + "\n" : asText(readings));
+  terminal().say(options.json ? asJson(readings) + "\n" : asText(readings));
   return 0;
 }
 

@@ -8,14 +8,14 @@
 namespace host::audition {
 namespace {
 
-std::unique_ptr<AtomicFile> claimed(const std::optional<std::filesystem::path>& path) {
+std::unique_ptr<AtomicFile> claim(const std::optional<std::filesystem::path>& path) {
   return path ? std::make_unique<AtomicFile>(*path) : nullptr;
 }
 
 }  // namespace
 
 OutputFiles claimOutputFiles(const AuditionOptions& options) {
-  return {claimed(options.screenshot), claimed(options.record)};
+  return {claim(options.screenshot), claim(options.record)};
 }
 
 void writeScreenshot(QWidget& window, AtomicFile& file) {

@@ -24,7 +24,7 @@ void OverviewControl::setFile(Session& session, bool analyses) {
   if (analyses) {
     analysis_ = std::make_unique<Analysis>(
         [path = session.path(), channels = session.channels()] {
-          return openedForPlaying(path, channels).source;
+          return openForPlaying(path, channels).source;
         },
         session.format());
   }

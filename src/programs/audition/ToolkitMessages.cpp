@@ -6,17 +6,17 @@
 #include <QtGlobal>
 #include <cstdlib>
 
-#include "programs/audition/Words.h"
+#include "programs/audition/ProgramTerminal.h"
 
 namespace host::audition {
 namespace {
 
 void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-  if (type == QtCriticalMsg) warn(text.toStdString());
+  if (type == QtCriticalMsg) terminal().warn(text.toStdString());
   if (type != QtFatalMsg) return;
-  complain(text.contains("platform plugin")
-               ? "the display cannot be reached; check DISPLAY, or add --headless FILE"
-               : text.simplified().toStdString());
+  terminal().complain(text.contains("platform plugin")
+                          ? "the display cannot be reached; check DISPLAY, or add --headless FILE"
+                          : text.simplified().toStdString());
   // The toolkit itself would abort and leave a core file behind.
   ::_exit(EXIT_FAILURE);
 }

@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "host/messages/Failure.h"
-#include "programs/audition/Report.h"
+#include "programs/audition/ProgramTerminal.h"
 #include "programs/audition/Run.h"
+#include "programs/audition/RunEnd.h"
 #include "programs/audition/SavedSession.h"
-#include "programs/audition/Words.h"
 
 namespace host::audition {
 namespace {
@@ -34,13 +34,13 @@ std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& 
   try {
     if (last != nullptr) audition.restore(*last);
     if (!options.file) return std::nullopt;
-    audition.open(openedForPlaying(*options.file, options.channels));
+    audition.open(openForPlaying(*options.file, options.channels));
     return std::nullopt;
   } catch (const TooManyChannels&) {
     return last != nullptr ? last->file : options.file->string();
   } catch (const Failure& failure) {
     if (last == nullptr) throw;
-    warn(failure.what());
+    terminal().warn(failure.what());
     return last->file;
   }
 }
@@ -50,7 +50,7 @@ std::optional<std::string> openFirst(Audition& audition, const AuditionOptions& 
 int runWithWindow(const AuditionOptions& options, OutputFiles files, TerminationSignals& signals) {
   QSettings settings(QSettings::IniFormat, QSettings::UserScope, "aac-audition", "aac-audition");
   const auto last = options.restore ? savedSession(settings) : std::nullopt;
-  if (options.restore && !last) warn("there is no session to restore");
+  if (options.restore && !last) terminal().warn("there is no session to restore");
   const auto* const restored = last ? &*last : nullptr;
   Audition audition(options, std::move(files.record), wantedDevices(options.device, restored));
   auto& window = audition.window();
@@ -86,7 +86,8 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
   if (const auto session = audition.sessionToSave()) save(*session, settings);
   audition.finish();
   if (error) std::rethrow_exception(error);
-  if (options.json && audition.session() != nullptr) say(asJson(readingsAfter(audition)) + "\n");
+  if (options.json && audition.session() != nullptr)
+    terminal().say(asJson(readingsAfter(audition)) + "\n");
   return 0;
 }
 

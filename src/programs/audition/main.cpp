@@ -7,9 +7,9 @@
 #include "programs/audition/Application.h"
 #include "programs/audition/CommandLine.h"
 #include "programs/audition/Languages.h"
+#include "programs/audition/ProgramTerminal.h"
 #include "programs/audition/Run.h"
 #include "programs/audition/ToolkitMessages.h"
-#include "programs/audition/Words.h"
 
 namespace {
 
@@ -56,15 +56,16 @@ int main(int argc, char** argv) {
   try {
     const auto parsed = host::parseAuditionArguments(argc, argv);
     if (const auto* const help = std::get_if<host::HelpText>(&parsed)) {
-      host::audition::say(help->text);
+      host::audition::terminal().say(help->text);
       return EXIT_SUCCESS;
     }
     return run(std::get<host::AuditionOptions>(parsed), argv[0]);
   } catch (const host::UsageError& error) {
-    host::audition::complain(std::string(error.what()) + " (aac-audition --help tells more)");
+    host::audition::terminal().complain(std::string(error.what()) +
+                                        " (aac-audition --help tells more)");
     return 2;
   } catch (const std::exception& error) {
-    host::audition::complain(error.what());
+    host::audition::terminal().complain(error.what());
     return EXIT_FAILURE;
   }
 }

@@ -62,7 +62,7 @@ Parts played(std::size_t frames) {
   return parts;
 }
 
-/// What bass and chords are turned down to while the kick sounds.
+/// The gain of bass and chords while the kick sounds.
 double ducking(double seconds) {
   constexpr double beat = kSecondsPerSixteenth * kSixteenthsPerBeat;
   return 1 - 0.75 * std::exp(-std::fmod(seconds, beat) / 0.1);

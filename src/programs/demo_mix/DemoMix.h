@@ -4,8 +4,8 @@
 
 namespace host::demo_mix {
 
-/// A loud master of the piece, which fades out at the end. Its largest sample is full scale exactly
-/// and negative, as 16-bit samples reach full scale on that side only.
+/// A loud master of the piece, which fades out at the end. Its largest sample is exactly full scale
+/// and negative, because 16-bit samples reach full scale on that side only.
 Stereo demoMix(double seconds);
 
 }  // namespace host::demo_mix

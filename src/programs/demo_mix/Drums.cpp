@@ -9,7 +9,7 @@
 namespace host::demo_mix {
 namespace {
 
-/// Noise between 7.5 and 13 kHz or so.
+/// Noise between about 7.5 and 13 kHz.
 class Cymbal {
  public:
   explicit Cymbal(std::uint32_t seed) : noise_(seed) {}
@@ -41,7 +41,7 @@ void playKick(Stereo& mix, std::size_t at) {
 }
 
 void playClap(Stereo& mix, std::size_t at, std::uint32_t seed) {
-  // Several hands, each side its own, some milliseconds apart.
+  // Several hands, different ones on each side, a few milliseconds apart.
   Noise noiseLeft(2 * seed);
   Noise noiseRight(2 * seed + 1);
   Filter left(1500, 0.9);

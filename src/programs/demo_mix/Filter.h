@@ -7,7 +7,7 @@
 
 namespace host::demo_mix {
 
-/// A state-variable filter of second order with trapezoidal integrators.
+/// A second-order state-variable filter with trapezoidal integrators.
 class Filter {
  public:
   struct Outputs {

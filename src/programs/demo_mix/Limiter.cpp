@@ -11,10 +11,10 @@ namespace {
 constexpr double kLookAheadSeconds = 0.0015;
 constexpr double kReleaseSeconds = 0.06;
 
-/// The least of each value and the `count - 1` that follow it.
+/// For each value the least of itself and the `count - 1` that follow it.
 std::vector<double> leastAhead(const std::vector<double>& values, std::size_t count) {
   std::vector<double> least(values.size());
-  // Positions of values that nothing to their left undercuts, the least at the back.
+  // Positions of values that are less than all before them in the window; the least is at the back.
   std::deque<std::size_t> rising;
   for (std::size_t i = values.size(); i-- > 0;) {
     while (!rising.empty() && values[rising.front()] >= values[i]) rising.pop_front();
@@ -46,7 +46,7 @@ void limit(Stereo& mix) {
   }
   gains = leastAhead(gains, ahead);
   recoverSlowly(gains);
-  // Every gain in the mean looked as far ahead as this frame, so the mean suffices for it.
+  // Each gain in the mean has looked ahead to this frame, so the mean is low enough for it.
   double sum = static_cast<double>(ahead) * (gains.empty() ? 1 : gains.front());
   for (std::size_t i = 0; i < mix.frames(); ++i) {
     sum += gains[i] - (i < ahead ? gains.front() : gains[i - ahead]);

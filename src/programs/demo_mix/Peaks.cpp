@@ -11,11 +11,11 @@ namespace {
 
 constexpr std::size_t kPoints = 4;
 constexpr std::size_t kReach = 12;
-/// No wave of music goes from here beyond full scale and back within a sample.
+/// In music no waveform rises from here beyond full scale and falls back within one sample.
 constexpr double kLow = 0.4;
 using Taps = std::array<double, 2 * kReach>;
 
-/// The ideal interpolator between two samples under a raised cosine.
+/// The ideal interpolator for a point between two samples, windowed with a raised cosine.
 Taps tapsAt(double between) {
   Taps taps{};
   for (std::size_t i = 0; i < taps.size(); ++i) {

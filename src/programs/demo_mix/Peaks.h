@@ -4,9 +4,9 @@
 
 namespace host::demo_mix {
 
-/// For each sample the largest magnitude that the wave reaches there or on its way to the next one,
-/// seen four times as finely as the samples are. Far below full scale, which is 1, the sample's own
-/// magnitude has to do.
+/// For each sample the largest magnitude that the waveform reaches there or on the way to the next
+/// sample, at four times the resolution. Far below full scale, which is 1, it is just the sample's
+/// own magnitude.
 std::vector<double> peaksOf(const std::vector<double>& samples);
 
 }  // namespace host::demo_mix

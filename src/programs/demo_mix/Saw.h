@@ -4,11 +4,11 @@
 
 namespace host::demo_mix {
 
-/// A sawtooth whose step is rounded off by the integral of a triangle as wide as two samples, which
-/// keeps most of its aliases down.
+/// A sawtooth whose step is rounded off with the integral of a triangle two samples wide, which
+/// keeps most of the aliasing down.
 class Saw {
  public:
-  /// The phase is a fraction of the period.
+  /// `phase` is a fraction of the period.
   explicit Saw(double hertz, double phase = 0) : step_(hertz / kSampleRate), phase_(phase) {}
 
   double next() {

@@ -9,15 +9,15 @@ inline constexpr double kSecondsPerSixteenth = 0.125;
 inline constexpr std::size_t kSixteenthsPerBeat = 4;
 inline constexpr std::size_t kSixteenthsPerBar = 16;
 
-/// What is played in one bar. Notes are numbered in semitones, 69 is the A of 440 Hz.
+/// What is played in one bar. Notes are numbered in semitones; 69 is the A at 440 Hz.
 struct Bar {
   int root;
   std::array<int, 4> chord;
-  /// The first bars hold claps, open hats and the arpeggio back.
+  /// Whether claps, open hats and the arpeggio play, which the first bars hold back.
   bool isFull;
 };
 
-/// The bars of the piece, which starts over at its end.
+/// A bar of the piece, which starts over at its end.
 Bar barAt(std::size_t number);
 
 double hertzOf(int note);

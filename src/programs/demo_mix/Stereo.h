@@ -9,12 +9,12 @@ namespace host::demo_mix {
 
 inline constexpr int kSampleRate = 44100;
 
-/// Two channels of samples, full scale at 1.
+/// Two channels of samples; full scale is 1.
 struct Stereo {
   explicit Stereo(std::size_t frames) : left(frames), right(frames) {}
 
   std::size_t frames() const { return left.size(); }
-  /// Adds a sample; what lies behind the end is dropped.
+  /// Adds a sample; beyond the end it is dropped.
   void add(std::size_t frame, double toLeft, double toRight) {
     if (frame >= frames()) return;
     left[frame] += toLeft;

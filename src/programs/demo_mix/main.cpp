@@ -1,5 +1,4 @@
 #include <charconv>
-#include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <string>
@@ -7,6 +6,7 @@
 #include <vector>
 
 #include "host/messages/Failure.h"
+#include "host/messages/Terminal.h"
 #include "programs/demo_mix/DemoMix.h"
 #include "programs/demo_mix/Pcm16File.h"
 
@@ -31,11 +31,11 @@ double parsedSeconds(std::string_view text) {
   return seconds;
 }
 
-int run(const std::vector<std::string>& arguments) {
+int run(const std::vector<std::string>& arguments, host::Terminal& terminal) {
   for (const auto& argument : arguments) {
     if (argument == "--help" || argument == "-h") {
-      return std::fputs(kHelp, stdout) < 0 || std::fflush(stdout) != 0 ? EXIT_FAILURE
-                                                                       : EXIT_SUCCESS;
+      terminal.say(kHelp);
+      return EXIT_SUCCESS;
     }
   }
   if (arguments.empty() || arguments.size() > 2 || arguments[0].empty() || arguments[0][0] == '-') {
@@ -46,19 +46,17 @@ int run(const std::vector<std::string>& arguments) {
   return EXIT_SUCCESS;
 }
 
-int complain(const std::exception& error, int status) {
-  std::fprintf(stderr, "demo-mix: %s\n", error.what());
-  return status;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
+  host::Terminal terminal("demo-mix");
   try {
-    return run({argv + 1, argv + argc});
+    return run({argv + 1, argv + argc}, terminal);
   } catch (const host::UsageError& error) {
-    return complain(error, 2);
+    terminal.complain(error.what());
+    return 2;
   } catch (const std::exception& error) {
-    return complain(error, EXIT_FAILURE);
+    terminal.complain(error.what());
+    return EXIT_FAILURE;
   }
 }

@@ -6,13 +6,12 @@
 #include <utility>
 
 #include "host/messages/Failure.h"
-#include "programs/measure/Console.h"
 #include "programs/measure/Inputs.h"
 #include "programs/measure/Interruption.h"
 #include "programs/measure/JobQueue.h"
 #include "programs/measure/Outputs.h"
 #include "programs/measure/ProgressLine.h"
-#include "programs/measure/Report.h"
+#include "programs/measure/RowJson.h"
 #include "programs/measure/Table.h"
 
 namespace host::measure {
@@ -45,34 +44,33 @@ std::string count(std::size_t number, const char* one, const char* many) {
   return std::to_string(number) + " " + (number == 1 ? one : many);
 }
 
-/// Tells of jobs in their order as they end.
+/// Prints the jobs' results in their order, and keeps count of them.
 class Account {
  public:
-  Account(const Options& options, std::vector<std::filesystem::path> files)
+  Account(const Options& options, std::vector<std::filesystem::path> files, Terminal& terminal)
       : options_(options),
         files_(std::move(files)),
-        table_(texts(files_), Console::outputWidth(), options.findTrim, options.interSample,
-               Console::isColored()) {}
-
-  Console& console() { return console_; }
+        terminal_(terminal),
+        table_(texts(files_), Terminal::outputWidth(), options.findTrim, options.interSample,
+               Terminal::isColored()) {}
 
   void fail(const std::string& complaint) {
     failed_ = true;
-    // Every setting meets the same fault of a file.
-    if (complaint != lastComplaint_) console_.complain(complaint);
+    // A faulty file fails with every setting, but is complained of once.
+    if (complaint != lastComplaint_) terminal_.complain(complaint);
     lastComplaint_ = complaint;
   }
 
   void add(const Row& row) {
-    for (const auto& warning : row.warnings) console_.complain("warning: " + warning);
+    for (const auto& warning : row.warnings) terminal_.warn(warning);
     if (row.isCutOff) {
       fail("the file '" + row.readings.file +
            "' is damaged or cut off: it holds less than it promises; what is there was measured");
     }
     if (options_.json) {
-      console_.say(asJson(row) + "\n");
+      terminal_.say(asJson(row) + "\n");
     } else {
-      console_.say((rows_ == 0 ? table_.head() : "") + table_.lines(row));
+      terminal_.say((rows_ == 0 ? table_.head() : "") + table_.lines(row));
     }
     ++rows_;
     const bool needsTrim = row.trim && row.trim->reduction > 0;
@@ -92,7 +90,7 @@ class Account {
  private:
   const Options& options_;
   const std::vector<std::filesystem::path> files_;
-  Console console_;
+  Terminal& terminal_;
   Table table_;
   std::string lastComplaint_;
   std::size_t rows_ = 0;
@@ -118,18 +116,20 @@ ProgressState stateOf(JobQueue& queue, const std::vector<Job>& jobs, const Optio
   return state;
 }
 
-JobEnd awaited(JobQueue& queue, const std::vector<Job>& jobs, const Options& options,
-               std::size_t job, std::chrono::steady_clock::time_point begin, Console& console) {
+/// Waits until the job has ended, and shows how far all of them are in the meantime.
+JobEnd waitForJob(JobQueue& queue, const std::vector<Job>& jobs, const Options& options,
+                  std::size_t job, std::chrono::steady_clock::time_point begin,
+                  Terminal& terminal) {
   for (;;) {
     if (auto end = queue.waitFor(job, kLookAgain)) return std::move(*end);
-    if (!console.showsProgress()) continue;
+    if (!terminal.showsProgress()) continue;
     auto state = stateOf(queue, jobs, options, job);
     state.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-    console.setProgress(progressLine(state, Console::errorWidth()));
+    terminal.setProgress(progressLine(state, Terminal::errorWidth()));
   }
 }
 
-void tellOf(const Job& job, JobEnd end, Account& account) {
+void report(const Job& job, const JobEnd& end, Account& account) {
   if (end.row) return account.add(*end.row);
   try {
     std::rethrow_exception(end.error);
@@ -142,22 +142,21 @@ void tellOf(const Job& job, JobEnd end, Account& account) {
 
 }  // namespace
 
-int measureAll(const Options& options) {
+int measureAll(const Options& options, Terminal& terminal) {
   if (options.bitStreams) makeFolder(*options.bitStreams);
   if (options.pictures) makeFolder(*options.pictures);
   auto inputs = inputsOf(options.inputs);
   const auto jobs = jobsFor(inputs.files, options);
-  Account account(options, inputs.files);
+  Account account(options, inputs.files, terminal);
   for (const auto& complaint : inputs.complaints) account.fail(complaint);
   const auto begin = std::chrono::steady_clock::now();
   JobQueue queue(jobs, options);
   try {
     for (std::size_t job = 0; job < jobs.size(); ++job) {
-      tellOf(jobs[job], awaited(queue, jobs, options, job, begin, account.console()), account);
+      report(jobs[job], waitForJob(queue, jobs, options, job, begin, terminal), account);
     }
   } catch (const Interrupted&) {
-    account.console().complain("interrupted after " + account.summary() +
-                               "; nothing half-written was left");
+    terminal.complain("interrupted after " + account.summary() + "; nothing half-written was left");
     return kKilledBy + interruption();
   }
   return account.status();

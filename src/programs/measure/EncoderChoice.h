@@ -21,13 +21,13 @@ struct EncoderChoice {
 EncoderChoice presetChoice(std::string_view name);
 /// "FORMAT,STRATEGY,RATE". Throws `UsageError`.
 EncoderChoice settingChoice(std::string_view text);
-/// All presets in their order.
+/// All presets, in order.
 std::vector<EncoderChoice> everyPreset();
 
 /// Adds the choice unless its setting is among them: the same setting would only be measured twice.
 void addUnlessThere(std::vector<EncoderChoice>& choices, const EncoderChoice& choice);
 
-/// Throws `Failure` when the unit does not do it.
+/// Chooses it on the unit. Throws `Failure` when the unit cannot do it.
 void apply(const EncoderChoice& choice, AudioUnit unit);
 
 }  // namespace host::measure

@@ -39,7 +39,7 @@ void addFolder(const fs::path& folder, Inputs& inputs) {
     if (isHidden(path)) {
       each.disable_recursion_pending();
     } else if (each->is_directory(unknown)) {
-      // One folder that may not be read must not hide those behind it.
+      // A folder that may not be read must not hide those after it.
       std::error_code closed;
       const fs::directory_iterator trial(path, closed);
       if (closed) {

@@ -20,7 +20,7 @@ void catchInterruptions() {
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     struct sigaction before = {};
     ::sigaction(signal, nullptr, &before);
-    // What a parent has set aside, as nohup does, stays so.
+    // What the parent has ignored, as nohup does, stays ignored.
     if (before.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
   }
   action.sa_handler = SIG_IGN;

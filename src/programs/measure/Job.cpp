@@ -4,12 +4,12 @@
 #include <cmath>
 #include <memory>
 
+#include "host/analysis/OfflineRun.h"
 #include "host/files/OpenedFile.h"
 #include "host/messages/Failure.h"
 #include "host/unit/CarriedSetting.h"
 #include "programs/measure/Interruption.h"
 #include "programs/measure/JobOutputs.h"
-#include "programs/measure/Pass.h"
 #include "programs/measure/TrimSearch.h"
 
 namespace host::measure {
@@ -29,13 +29,13 @@ bool hasOvers(const velk::PeakStatistics& peaks, bool interSample) {
                      });
 }
 
-/// The reduction that would do if the encoder did the same at every level.
+/// The reduction that would suffice if the encoder behaved the same at every level.
 int guessedTrim(const Readings& readings, bool interSample) {
   double peak = 0;
   for (const auto& channel : readings.encoded) {
     peak = std::max(peak, interSample ? channel.interSamplePeakDbtp : channel.samplePeakDbfs);
   }
-  // What is above full scale is clipped before it is encoded, and shows in the source alone.
+  // What is above full scale is clipped before it is encoded, so only the source shows it.
   for (const auto& channel : readings.source) peak = std::max(peak, channel.samplePeakDbfs);
   return static_cast<int>(std::ceil(std::min(peak * kTenthsPerDecibel, double{kGreatestTrim})));
 }
@@ -45,14 +45,14 @@ std::string quoted(const std::filesystem::path& file) {
   return name.append(file.string()).append("'");
 }
 
-/// A job at work.
+/// A job while it is being done.
 class Work {
  public:
   Work(const Job& job, const Options& options, JobProgress& progress)
       : job_(job),
         options_(options),
         progress_(progress),
-        file_(openedForPlaying(job.file, options.channels)) {}
+        file_(openForPlaying(job.file, options.channels)) {}
 
   Row run() {
     if (options_.findTrim) {
@@ -70,23 +70,26 @@ class Work {
     return std::make_unique<JobOutputs>(job_, options_, *file_.source);
   }
 
-  /// Encodes the file reduced by so many tenths, and keeps the readings when it got to the end.
-  /// With `stopAtOvers` it gives up at the first over. Whether there was none.
+  /// Encodes the file reduced by so many tenths of a decibel. Returns whether there was no over.
+  /// Keeps the readings unless it gave up at the first over, which `stopAtOvers` asks for.
   bool encode(int tenths, bool stopAtOvers, JobOutputs* outputs) {
     progress_.reduction = tenths;
     progress_.done = 0;
-    Pass pass(*file_.source, job_.encoder, gainOf(tenths),
-              outputs != nullptr ? outputs->bitStream() : nullptr);
-    if (outputs != nullptr) pass.setBlockFrames(outputs->blockFrames());
-    const auto frames = std::max<std::int64_t>(file_.source->frames(), 1);
+    OfflineRunOptions run;
+    run.chooseEncoder = [&](AudioUnit unit) { apply(job_.encoder, unit); };
+    run.gain = gainOf(tenths);
+    run.sink = outputs != nullptr ? outputs->bitStream() : nullptr;
+    run.locatesOvers = outputs != nullptr && outputs->drawsPicture();
+    OfflineRun pass(*file_.source, run);
     while (pass.step()) {
       stopIfInterrupted();
       if (progress_.isUnwanted) throw Interrupted();
-      progress_.done = static_cast<int>(std::min(pass.taken(), frames) * 1000 / frames);
+      progress_.done = static_cast<int>(pass.share() * 1000);
       if (outputs != nullptr) outputs->follow(pass);
       if (stopAtOvers && hasOvers(pass.peaks(), options_.interSample)) return false;
     }
     auto readings = pass.finish();
+    if (outputs != nullptr) outputs->follow(pass);
     readings.file = job_.file.string();
     if (const auto carried = carriedOtherwise(pass.unit()); carried && row_.warnings.empty()) {
       row_.warnings.push_back(quoted(job_.file) + ": " + *carried);
@@ -106,7 +109,7 @@ class Work {
     Trim trim{0, options_.interSample, 0};
     const auto isClean = [&](int tenths) {
       progress_.encode = trim.encodes++;
-      // The first one tells where to look.
+      // The first encode runs to its end: its peaks tell where to look.
       return encode(tenths, tenths > 0, nullptr);
     };
     if (!isClean(0)) {
@@ -117,7 +120,7 @@ class Work {
                       "': no reduction up to 60 dB lets it come out without overs");
       trim.reduction = *found;
     }
-    // The last one that was clean was the smallest: `row_` has its readings.
+    // The last clean encode was the one with the smallest reduction: `row_` has its readings.
     row_.trim = trim;
     if (options_.pictures || options_.bitStreams) encodeOnce(trim.reduction);
   }
@@ -138,7 +141,7 @@ bool hasOvers(const Readings& readings, bool interSample) {
       });
 }
 
-Row done(const Job& job, const Options& options, JobProgress& progress) {
+Row runJob(const Job& job, const Options& options, JobProgress& progress) {
   try {
     return Work(job, options, progress).run();
   } catch (const Failure& failure) {

@@ -16,46 +16,46 @@ namespace host::measure {
 struct Job {
   std::filesystem::path file;
   EncoderChoice encoder;
-  /// Of what is written of the file, see `outputNames`.
+  /// Names the files that are written, see `outputNames`.
   std::string outputName;
 };
 
 /// The reduction that `--find-trim` has found.
 struct Trim {
-  /// Tenths of a decibel, from 0 on.
+  /// In tenths of a decibel, 0 or more.
   int reduction = 0;
   bool interSample = false;
-  /// Of the whole file, or as much of it as showed an over.
+  /// How often the file was encoded, to its end or to its first over.
   int encodes = 0;
 };
 
-/// What a job came to.
+/// The result of a job.
 struct Row {
-  /// Of the reduced file where there is a trim.
+  /// Those of the reduced file if there is a trim.
   Readings readings;
   std::optional<Trim> trim;
   /// Lines for the user.
   std::vector<std::string> warnings;
-  /// Whether the file held less than it promises.
+  /// Whether the file holds less than it promises.
   bool isCutOff = false;
 };
 
-/// How far a job is, for other threads to look at, and whether it is still wanted.
+/// How far a job has got, for other threads to see, and whether it is still wanted.
 struct JobProgress {
-  /// Of the encode that runs, in thousandths.
+  /// Thousandths of the current encode.
   std::atomic<int> done{0};
-  /// Which encode runs, from 0 on, and its reduction in tenths of a decibel.
+  /// The number of the current encode, from 0, and its reduction in tenths of a decibel.
   std::atomic<int> encode{0};
   std::atomic<int> reduction{0};
   /// Makes the job end with `Interrupted`.
   std::atomic<bool> isUnwanted{false};
 };
 
-/// Whether there are overs of the kind that counts after encoding.
+/// Whether the encoded signal has clips, or with `interSample` inter-sample overs.
 bool hasOvers(const Readings& readings, bool interSample);
 
-/// Throws `Failure`, which names the file, when it cannot be measured or an output not be written,
-/// and `Interrupted`.
-Row done(const Job& job, const Options& options, JobProgress& progress);
+/// Measures the file and writes what the options ask for. Throws a `Failure` that names the file
+/// when it cannot be measured or an output cannot be written, and `Interrupted`.
+Row runJob(const Job& job, const Options& options, JobProgress& progress);
 
 }  // namespace host::measure

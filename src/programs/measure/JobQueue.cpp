@@ -31,7 +31,7 @@ void JobQueue::work() {
     lock.unlock();
     JobEnd end;
     try {
-      end.row = done(jobs_[job], options_, *progress_[job]);
+      end.row = runJob(jobs_[job], options_, *progress_[job]);
     } catch (...) {
       end.error = std::current_exception();
     }

@@ -14,30 +14,30 @@
 
 namespace host::measure {
 
-/// How a job ended: a row, or why there is none.
+/// How a job ended: with a row, or with an exception.
 struct JobEnd {
   std::optional<Row> row;
-  /// What was thrown in its place.
   std::exception_ptr error;
 };
 
-/// Works through jobs on several threads, begun in their order. Main thread only but for the work.
+/// Does jobs on several threads, started in their order. Everything here is for the thread that
+/// made the queue.
 class JobQueue {
  public:
   /// `jobs` and `options` outlive the queue.
   JobQueue(const std::vector<Job>& jobs, const Options& options);
   JobQueue(const JobQueue&) = delete;
   JobQueue& operator=(const JobQueue&) = delete;
-  /// Begins no more jobs, and ends those that run.
+  /// Starts no more jobs, and stops those that run.
   ~JobQueue();
 
-  /// How the job ended; nothing when it has not within the time.
+  /// Waits for the job to end; nothing if it does not within this time.
   std::optional<JobEnd> waitFor(std::size_t job, std::chrono::milliseconds time);
 
-  /// Whether it runs now.
+  /// Whether the job is running.
   bool runs(std::size_t job);
   const JobProgress& progress(std::size_t job) const { return *progress_[job]; }
-  /// How many have ended.
+  /// How many jobs have ended.
   std::size_t ended();
 
  private:

@@ -19,8 +19,8 @@ std::string reason(int error) {
   return av_make_error_string(text.data(), text.size(), error);
 }
 
-/// Of the signal that is coded without band replication, which doubles the rate. The track counts
-/// time in its samples: players disagree about what else an edit list would mean.
+/// Samples per access unit of the core signal, whose rate band replication doubles. The track
+/// counts time in core samples: players disagree about what an edit list means in any others.
 constexpr int coreFrameLength = 1024;
 
 struct FreePacket {
@@ -39,9 +39,9 @@ struct M4aFile::Muxer {
     avformat_free_context(context);
   }
 
-  /// Each returns 0 or a negative error of the library.
+  /// These return 0 or a negative error code of the library.
   int open(const char* path, const converter::BitStream& stream) {
-    // The name only keeps the library from remarks about that of the temporary file.
+    // A made-up name, because the library would remark on that of the temporary file.
     int error = avformat_alloc_output_context2(&context, nullptr, "ipod", "bits.m4a");
     if (error < 0) return error;
     // The same input gives the same file.
@@ -65,7 +65,7 @@ struct M4aFile::Muxer {
     track->time_base = {1, rate};
     error = avio_open(&context->pb, path, AVIO_FLAG_WRITE);
     if (error < 0) return error;
-    // The edit list ends to the sample, not to the millisecond.
+    // So that the edit list is exact to the sample, not just to the millisecond.
     AVDictionary* options = nullptr;
     av_dict_set_int(&options, "movie_timescale", rate, 0);
     error = avformat_write_header(context, &options);
@@ -77,10 +77,10 @@ struct M4aFile::Muxer {
     const auto inTrack = [&](std::int64_t frame, AVRounding rounding) {
       return av_rescale_q_rnd(frame, source, track->time_base, rounding);
     };
-    // The muxer takes its own copy: the bytes are not counted by reference.
+    // The bytes are not reference-counted, so the muxer makes its own copy.
     packet->data = const_cast<std::uint8_t*>(unit.bytes.data());
     packet->size = static_cast<int>(unit.bytes.size());
-    // The source may end amid a unit of the track.
+    // The source may end between two samples of the track.
     packet->pts = packet->dts = inTrack(unit.position, AV_ROUND_UP);
     packet->duration = inTrack(end, AV_ROUND_UP) - packet->pts;
     packet->flags = AV_PKT_FLAG_KEY;
@@ -115,7 +115,7 @@ void M4aFile::startStream(const converter::BitStream& stream) noexcept {
 }
 
 void M4aFile::writeAccessUnit(const converter::AccessUnit& unit) noexcept {
-  // What comes behind the last frame is nothing that a player needs.
+  // A player needs nothing that comes after the last frame.
   if (!error_.empty() || unit.position >= frames_) return;
   int error = 0;
   if (!muxer_) {

@@ -39,11 +39,11 @@ class M4aFile final : public converter::BitStreamSink {
   converter::BitStream stream_{};
   /// The source's length at the stream's rate.
   std::int64_t frames_ = 0;
-  /// Made for the first access unit, whose place tells how long the run-up is.
+  /// Made for the first access unit, whose position tells how long the run-up is.
   std::unique_ptr<Muxer> muxer_;
-  /// Where the next access unit has to begin.
+  /// Where the next access unit has to start.
   std::int64_t next_ = 0;
-  /// What went wrong first.
+  /// The first thing that went wrong.
   std::string error_;
 };
 

@@ -76,7 +76,7 @@ std::variant<Options, HelpText> parsedArguments(int argc, const char* const* arg
   std::optional<std::string> channels;
   bool all = false;
   app.add_option("FILE|FOLDER", options.inputs, "What to measure");
-  // One word each, so that a file that follows is a file.
+  // One word each, so that a file after the option is not taken for another preset or setting.
   app.add_option("--preset", presets, "An encoder preset; may be given several times")
       ->type_name("plus|128k|streaming|high")
       ->allow_extra_args(false);

@@ -16,17 +16,17 @@ namespace host::measure {
 struct Options {
   /// Files and folders, at least one.
   std::vector<std::filesystem::path> inputs;
-  /// At least one, none twice.
+  /// At least one, and none twice.
   std::vector<EncoderChoice> encoders;
-  /// Of files with more than two.
+  /// Which channels to take of files with more than two.
   ChannelChoice channels;
   bool findTrim = false;
-  /// Whether inter-sample overs count as overs, too.
+  /// Whether inter-sample overs count as overs too.
   bool interSample = false;
   unsigned jobs = 1;
   bool json = false;
   bool failOnOvers = false;
-  /// Folders for a picture, and for the bit stream, of every file and setting.
+  /// Folders for a picture and for the bit stream of every file and setting.
   std::optional<std::filesystem::path> pictures;
   std::optional<std::filesystem::path> bitStreams;
 };

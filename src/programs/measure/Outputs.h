@@ -8,8 +8,8 @@
 
 namespace host::measure {
 
-/// Names for what is written of each file, in one folder however the files lie: the file's own name
-/// without its ending; where two files would share one, the later ones get a number.
+/// Names for what is written for each file, all in one folder wherever the files are: the file's
+/// own name without its extension; where files would share a name, the later ones get a number.
 std::vector<std::string> outputNames(const std::vector<std::filesystem::path>& files);
 
 /// "mix.aac-vbrc-256.m4a" for "mix" and ".m4a".

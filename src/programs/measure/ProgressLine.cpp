@@ -3,26 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/messages/ClockText.h"
 #include "host/messages/Decimal.h"
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
 namespace host::measure {
 namespace {
 
 constexpr int kBarWidth = 20;
-/// Before which nothing can be said of the rest.
+/// Before that, the time left cannot be estimated.
 constexpr double kSecondsToJudge = 2;
-
-std::string clock(double seconds) {
-  const auto whole = std::llround(seconds);
-  const auto two = [](long long number) {
-    const auto digits = std::to_string(number);
-    return std::string(digits.size() < 2 ? 1 : 0, '0').append(digits);
-  };
-  const auto minutes = whole / 60;
-  if (minutes < 60) return std::to_string(minutes) + ":" + two(whole % 60);
-  return std::to_string(minutes / 60) + ":" + two(minutes % 60) + ":" + two(whole % 60);
-}
 
 }  // namespace
 
@@ -37,7 +27,8 @@ std::string progressLine(const ProgressState& state, std::size_t width) {
   const auto ended = std::min(static_cast<std::size_t>(state.done) + 1, state.jobs);
   line += std::to_string(ended) + " of " + std::to_string(state.jobs);
   if (state.seconds >= kSecondsToJudge && part > 0.01) {
-    line += "  " + clock(state.seconds * (1 - part) / part) + " left";
+    const auto left = std::llround(state.seconds * (1 - part) / part);
+    line += "  " + clockText(left * 1000, 0) + " left";
   }
   if (!state.file.empty()) {
     auto what = state.setting;
@@ -49,7 +40,7 @@ std::string progressLine(const ProgressState& state, std::size_t width) {
 }
 
 double searchProgress(int encodes, double part) {
-  // Five or so are usual; each further one takes a share of what is left.
+  // Five or so are usual; each further one takes a fixed share of what is left.
   constexpr double shrink = 0.7;
   const auto before = 1 - std::pow(shrink, encodes);
   const auto after = 1 - std::pow(shrink, encodes + 1);

@@ -5,24 +5,24 @@
 
 namespace host::measure {
 
-/// What a progress line tells.
+/// What a progress line shows.
 struct ProgressState {
   std::size_t jobs = 0;
-  /// Jobs that have ended, and the parts of those that run.
+  /// Jobs that have ended, plus the finished parts of those that are running.
   double done = 0;
   double seconds = 0;
-  /// Of the job that runs and was begun first.
+  /// Of the running job that was started first.
   std::string file;
   std::string setting;
-  /// What is being tried of a search for a trim, in tenths of a decibel; -1 for none.
+  /// The reduction that a search for a trim is trying, in tenths of a decibel; -1 without one.
   int reduction = -1;
 };
 
 /// "[######········]  42 %  5 of 12  0:31 left  mix.wav  AAC VBRC 256", at most `width` columns.
 std::string progressLine(const ProgressState& state, std::size_t width);
 
-/// How far a search for a trim is that has ended `encodes` encodes and is amid the next; it never
-/// says that it is at the end before it is.
+/// How far a search for a trim has got that has finished `encodes` encodes and the part `part` of
+/// the next, from 0 to below 1, because nobody knows how many encodes it will take.
 double searchProgress(int encodes, double part);
 
 }  // namespace host::measure

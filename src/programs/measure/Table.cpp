@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/messages/Decimal.h"
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
 namespace host::measure {
 namespace {

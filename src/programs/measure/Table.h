@@ -8,12 +8,12 @@
 
 namespace host::measure {
 
-/// The rows as people read them, aligned, with a head that names the units: a line each, or two
-/// where the terminal is too narrow for that. Names give way first; figures are always whole.
+/// Formats rows for people: aligned, under a head that names the units, a line each, or two where
+/// the terminal is too narrow. Names are elided first; figures are always whole.
 class Table {
  public:
-  /// `files` are all that will come. `width` is that of the terminal, or 0 where nothing limits it.
-  /// With `colored` overs are drawn in red.
+  /// `files` are all files that rows will name. `width` is that of the terminal, or 0 for no limit.
+  /// With `colored` the word OVER is red.
   Table(const std::vector<std::string>& files, std::size_t width, bool withTrim, bool interSample,
         bool colored);
 
@@ -23,7 +23,7 @@ class Table {
 
  private:
   std::size_t fileWidth_;
-  /// Between a line's halves: nothing, or a line's end and what the second half begins with.
+  /// Between a row's halves: nothing, or a line break and the indentation of the second half.
   std::string lineBreak_;
   bool withTrim_;
   bool interSample_;

@@ -6,7 +6,7 @@
 namespace host::measure {
 namespace {
 
-/// Tries no reduction twice.
+/// Remembers results, so that no reduction is tried twice.
 class Tries {
  public:
   explicit Tries(const IsClean& isClean) : isClean_(isClean) { known_[0] = false; }
@@ -22,7 +22,7 @@ class Tries {
   std::map<int, bool> known_;
 };
 
-/// A clean reduction of `from` or more; the steps grow as it gets further away.
+/// A clean reduction of at least `from`; the steps grow with the distance.
 std::optional<int> someCleanTrim(int from, Tries& tries) {
   for (int step = 1;; step *= 2) {
     if (tries.isClean(from)) return from;
@@ -31,7 +31,7 @@ std::optional<int> someCleanTrim(int from, Tries& tries) {
   }
 }
 
-/// A clean reduction up to `clean` the next smaller one of which is not.
+/// A clean reduction, at most `clean`, whose next smaller neighbour is not clean.
 int edgeBelow(int clean, Tries& tries) {
   int over = std::max(clean - 1, 0);
   for (int step = 1; tries.isClean(over); step *= 2) {

@@ -7,6 +7,7 @@
 #include <thread>
 #include <vector>
 
+#include "DyingCodec.h"
 #include "MemorySource.h"
 #include "Sound.h"
 #include "contract/ConverterInterface.h"
@@ -18,6 +19,7 @@ using host::Analysis;
 using host::EncoderSetting;
 using host::Signal;
 using testing::Gt;
+using testing::HasSubstr;
 
 namespace {
 
@@ -70,6 +72,19 @@ TEST(SourceScan, MarksTheOversOfTheSourceWhereTheyAre) {
   EXPECT_THAT(overs(overview, Signal::Source, 99500, 100000, 0), Gt(0U));
 }
 
+TEST(SourceScan, MarksOversAtTheMiddleOfTheirStretch) {
+  auto sound = silence(48000, 1, 1000);
+  // In the stretch from 384 to 512.
+  sound.planes[0][400] = 1.2F;
+  MemorySource source(sound);
+  host::SharedOverview overview(1);
+  host::Progress progress;
+  host::scanSource(source, overview, progress);
+  EXPECT_THAT(overs(overview, Signal::Source, 448, 449), Gt(0U));
+  EXPECT_EQ(overs(overview, Signal::Source, 0, 448), 0U);
+  EXPECT_EQ(overs(overview, Signal::Source, 449, 1000), 0U);
+}
+
 TEST(SourceScan, EndsWhenItIsStopped) {
   MemorySource source(silence(48000, 2, 100000));
   host::SharedOverview overview(2);
@@ -86,10 +101,9 @@ TEST(EncodedScan, MarksTheEncodedOversAndNothingElse) {
   MemorySource source(sound);
   host::SharedOverview overview(2);
   host::Progress progress;
-  const auto peaks = host::scanEncoded(source, kLow, overview, progress);
-  const auto counted = peaks[velk::kPeakStatsSlot_EncodedLeft].mInterSampleClipCount;
+  const auto readings = host::scanEncoded(source, kLow, overview, progress);
+  const auto counted = readings.value().encoded[0].interSampleOvers;
   EXPECT_THAT(counted, Gt(0));
-  // Blocks are up to 256 frames long here.
   EXPECT_EQ(overs(overview, Signal::Encoded, 60000 - 512, 80000 + 512), counted);
   EXPECT_EQ(overs(overview, Signal::Encoded, 0, 150000), counted);
   EXPECT_EQ(overs(overview, Signal::Encoded, 0, 150000, 1), 0U);
@@ -102,11 +116,19 @@ TEST(EncodedScan, ReadsTheSameWhateverTheLength) {
     MemorySource source(loud(frames, 1));
     host::SharedOverview overview(1);
     host::Progress progress;
-    const auto peaks = host::scanEncoded(source, kHigh, overview, progress);
+    const auto readings = host::scanEncoded(source, kHigh, overview, progress);
     EXPECT_EQ(overs(overview, Signal::Encoded, 0, static_cast<std::int64_t>(frames)),
-              peaks[velk::kPeakStatsSlot_EncodedLeft].mInterSampleClipCount)
+              readings.value().encoded[0].interSampleOvers)
         << frames;
   }
+}
+
+TEST(EncodedScan, GivesNothingWhenItIsStopped) {
+  MemorySource source(loud(30000));
+  host::SharedOverview overview(2);
+  host::Progress progress;
+  progress.stop();
+  EXPECT_FALSE(host::scanEncoded(source, kLow, overview, progress));
 }
 
 /// The analysis of a loud file.
@@ -121,7 +143,7 @@ class Analysing : public testing::Test {
           if (missing_) throw host::Failure("gone");
           return std::make_unique<MemorySource>(sound_);
         },
-        host::AudioFormat{48000, 2});
+        host::AudioFormat{48000, 2}, make_);
     return *analysis_;
   }
   void update(const EncoderSetting& setting = kLow, bool testRuns = false) {
@@ -147,6 +169,7 @@ class Analysing : public testing::Test {
   }
 
   Sound sound_;
+  host::MakeUnit make_ = host::unitFor;
   std::atomic<int> opened_ = 0;
   std::atomic<bool> missing_ = false;
   Analysis::Clock::time_point now_{};
@@ -265,6 +288,14 @@ TEST_F(Analysing, SaysWhyItFailed) {
   missing_ = false;
   analysis_->restart();
   wait(Step::Done);
+}
+
+TEST_F(Analysing, FailsWhenTheCodecDies) {
+  make_ = unitWithDyingCodec;
+  start();
+  wait(Step::Failed);
+  EXPECT_THAT(analysis_->state().failure.english(), HasSubstr("the encoder failed"));
+  EXPECT_EQ(analysis_->state().encodedOvers, 0);
 }
 
 class AnalysingAnHour : public Analysing {

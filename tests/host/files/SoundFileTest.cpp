@@ -1,10 +1,13 @@
 #include <gmock/gmock.h>
 #include <sndfile.h>
 
+#include <atomic>
 #include <cmath>
+#include <cstdio>
 #include <iterator>
 #include <limits>
 #include <string>
+#include <thread>
 
 #include "Sound.h"
 #include "host/files/OpenedFile.h"
@@ -321,6 +324,78 @@ TEST(SoundFile, RefusesWhatCannotBePlayedAndSaysWhatToDo) {
   says("", "it is a folder");
 }
 
+/// An MP3 file's frames.
+std::string mp3Bytes(const TemporaryFolder& folder) {
+  writeSound(folder / "whole.mp3", noise(44100, 2, 44100),
+             SF_FORMAT_MPEG | SF_FORMAT_MPEG_LAYER_III);
+  return readBytes(folder / "whole.mp3");
+}
+
+/// What opening a file prints on standard error.
+std::string printedBy(const std::filesystem::path& path) {
+  testing::internal::CaptureStderr();
+  static_cast<void>(whyNot(path));
+  return testing::internal::GetCapturedStderr();
+}
+
+TEST(SoundFile, OpensWithoutAWordOfTheDecoder) {
+  const TemporaryFolder folder;
+  const auto mp3 = mp3Bytes(folder);
+  // The decoder remarks on each of them.
+  writeBytes(folder / "cut.mp3", mp3.substr(0, 100));
+  writeBytes(folder / "empty frames.mp3", "\xff\xfb\x90" + std::string(4000, '\0'));
+  writeBytes(folder / "only a tag.mp3",
+             std::string("ID3\3\0\0\0\0\x10\0", 10) + std::string(4000, '\0'));
+  writeBytes(folder / "shortened.mp3", mp3.substr(0, 3000) + mp3.substr(8000));
+  for (const auto& name : folder.names()) EXPECT_EQ(printedBy(folder / name), "") << name;
+  EXPECT_THAT(whyNot(folder / "cut.mp3"), HasSubstr("cannot read"));
+  EXPECT_THAT(whyNot(folder / "only a tag.mp3"), HasSubstr("cannot read"));
+  EXPECT_EQ(whyNot(folder / "shortened.mp3"), "it opens");
+}
+
+TEST(SoundFile, LetsOtherThreadsPrintWhileItOpens) {
+  const TemporaryFolder folder;
+  writeBytes(folder / "cut.mp3", mp3Bytes(folder).substr(0, 100));
+  testing::internal::CaptureStderr();
+  std::atomic<bool> stop{false};
+  std::thread opening([&] {
+    while (!stop) static_cast<void>(whyNot(folder / "cut.mp3"));
+  });
+  std::string printed;
+  for (int i = 0; i < 2000; ++i) {
+    const auto line = std::to_string(i) + "\n";
+    std::fputs(line.c_str(), stderr);
+    printed += line;
+  }
+  stop = true;
+  opening.join();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), printed);
+}
+
+TEST(SoundFile, KnowsByItsNameWhatItsContentDoesNotShow) {
+  const TemporaryFolder folder;
+  writeBytes(folder / "behind.mp3", std::string(22, 'x') + mp3Bytes(folder));
+  writeSound(folder / "headerless.vox", noise(8000, 1, 8000), SF_FORMAT_RAW | SF_FORMAT_VOX_ADPCM);
+  for (const auto& name : folder.names()) EXPECT_EQ(whyNot(folder / name), "it opens") << name;
+}
+
+TEST(SoundFile, ClosesItsDescriptors) {
+  const TemporaryFolder folder;
+  writeSound(folder / "mix.wav", noise(44100, 2, 100));
+  const auto openOnes = [] {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+  };
+  const auto before = openOnes();
+  for (int i = 0; i < 3; ++i) {
+    const SoundFile file(folder / "mix.wav");
+    EXPECT_EQ(openOnes(), before + 1);
+    static_cast<void>(whyNot("/dev/null"));
+    writeBytes(folder / "text.wav", "No sound.");
+    static_cast<void>(whyNot(folder / "text.wav"));
+  }
+  EXPECT_EQ(openOnes(), before);
+}
+
 TEST(ChannelChoice, IsOneNumberOrTwo) {
   EXPECT_EQ(host::parsedChannelChoice("1,2"), (host::ChannelChoice{1, 2}));
   EXPECT_EQ(host::parsedChannelChoice("12"), host::ChannelChoice{12});
@@ -338,7 +413,7 @@ TEST(SoundFile, TellsARateOfWhichTheUnitIsCapableFromOneToBeConverted) {
       {352800, 176400}, {384000, 192000}, {705600, 176400}, {768000, 192000}};
   for (const auto& [file, unit] : rates) {
     writeSound(folder / "sound.wav", noise(file, 2, file / 10));
-    const auto opened = host::openedForPlaying(folder / "sound.wav");
+    const auto opened = host::openForPlaying(folder / "sound.wav");
     EXPECT_EQ(opened.original.sampleRate, file);
     EXPECT_EQ(opened.source->format(), (host::AudioFormat{unit, 2}));
     EXPECT_EQ(opened.source->frames(), std::int64_t{file / 10} * unit / file);

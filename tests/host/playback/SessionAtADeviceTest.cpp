@@ -20,7 +20,7 @@ class SessionAtADevice : public testing::Test {
  protected:
   SessionAtADevice() {
     writeSound(folder_ / "mix.wav", sound_);
-    session_.emplace(host::openedForPlaying(folder_ / "mix.wav"), devices_.open());
+    session_.emplace(host::openForPlaying(folder_ / "mix.wav"), devices_.open());
     writeProperty(&session_->unit(), velk::kConverterProperty_MonitorSource, 1);
     session_->player().setOffline(true);
     session_->player().seek(0);
@@ -103,7 +103,7 @@ TEST_F(SessionAtADevice, GoesOnAtTheFilesRateWithoutADevice) {
 
 TEST_F(SessionAtADevice, ConvertsTheNextFileToo) {
   session_->setDevice(FakeDevices::device("Server", {48000}));
-  session_->load(host::openedForPlaying(folder_ / "mix.wav"));
+  session_->load(host::openForPlaying(folder_ / "mix.wav"));
   EXPECT_EQ(session_->output()->sampleRate(), 48000U);
   session_->player().setOffline(true);
   session_->player().play();

@@ -17,7 +17,7 @@ class SessionOfAFile : public testing::Test {
  protected:
   SessionOfAFile() {
     writeSound(folder_ / "mix.wav", noise(48000, 2, 9600));
-    session_.emplace(host::openedForPlaying(folder_ / "mix.wav"));
+    session_.emplace(host::openForPlaying(folder_ / "mix.wav"));
   }
   /// A device that no sound system knows.
   static host::Device ghost() {
@@ -72,7 +72,7 @@ TEST_F(SessionOfAFile, TakesOnlyFilesOfItsOwnFormat) {
   writeSound(folder_ / "slow.wav", noise(44100, 2, 480));
   writeSound(folder_ / "fast.wav", noise(192000, 2, 480));
   const auto canLoad = [&](const char* name) {
-    return session_->canLoad(host::openedForPlaying(folder_ / name));
+    return session_->canLoad(host::openForPlaying(folder_ / name));
   };
   EXPECT_TRUE(canLoad("mix.wav"));
   EXPECT_FALSE(canLoad("mono.wav"));
@@ -84,7 +84,7 @@ TEST_F(SessionOfAFile, KeepsPlayingToTheSameWhenItLoadsAnotherFile) {
   writeSound(folder_ / "other.wav", noise(48000, 2, 4800));
   session_->setDevice(std::nullopt);
   session_->player().play();
-  session_->load(host::openedForPlaying(folder_ / "other.wav"));
+  session_->load(host::openForPlaying(folder_ / "other.wav"));
   ASSERT_NE(session_->output(), nullptr);
   EXPECT_FALSE(session_->player().isPlaying());
   session_->player().play();

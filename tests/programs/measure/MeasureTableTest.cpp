@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <sstream>
 
+#include "host/messages/TextWidth.h"
 #include "programs/measure/Table.h"
-#include "programs/measure/TextWidth.h"
 
 using namespace host::measure;
+using host::elidedInTheMiddle;
+using host::textWidth;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
+#include "host/messages/TextWidth.h"
 #include "programs/measure/ProgressLine.h"
-#include "programs/measure/TextWidth.h"
 
 using namespace host::measure;
 using testing::HasSubstr;
@@ -34,7 +34,7 @@ TEST(ProgressLine, SaysNothingOfTheRestBeforeItCanBeJudged) {
 
 TEST(ProgressLine, FitsAnyTerminal) {
   for (std::size_t width = 0; width < 120; ++width) {
-    EXPECT_LE(textWidth(progressLine(half(), width)), width);
+    EXPECT_LE(host::textWidth(progressLine(half(), width)), width);
   }
 }
 

@@ -67,7 +67,7 @@ class Auditioning : public testing::Test {
     audition_->window().show();
   }
   void open(const std::string& name) {
-    audition_->open(host::openedForPlaying(path(name)));
+    audition_->open(host::openForPlaying(path(name)));
     QCoreApplication::processEvents();
   }
   /// Plays to the end of the file, as fast as possible.

@@ -179,7 +179,7 @@ TEST_P(Language, IsThatOfWhatCannotBeDone) {
   const Speaking speaking{QLocale(QString(GetParam()))};
   const bool german = std::string(GetParam()) == "de";
   try {
-    host::openedForPlaying("/no/such/100 %1.wav", {});
+    host::openForPlaying("/no/such/100 %1.wav", {});
     FAIL();
   } catch (const host::Failure& failure) {
     EXPECT_STREQ(failure.what(),

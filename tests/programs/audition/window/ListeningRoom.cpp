@@ -48,7 +48,7 @@ ListeningRoom::ListeningRoom(const std::filesystem::path& file,
     : pumping_(takeOverEvents()),
       time_(std::chrono::steady_clock::now()),
       audition_(options, fileFor(recording), std::nullopt) {
-  audition_.open(host::openedForPlaying(file));
+  audition_.open(host::openForPlaying(file));
   audition_.session()->player().setOffline(true);
   window().show();
   window().activateWindow();

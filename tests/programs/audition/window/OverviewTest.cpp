@@ -49,7 +49,7 @@ class Overview : public testing::Test {
   }
   QString path(const std::string& name) const { return QString::fromStdString(folder_ / name); }
   void open(const std::string& name) {
-    audition_->open(host::openedForPlaying(folder_ / name));
+    audition_->open(host::openForPlaying(folder_ / name));
     audition_->refresh();
     QCoreApplication::processEvents();
   }

@@ -1,4 +1,4 @@
-#include "programs/measure/Report.h"
+#include "programs/measure/RowJson.h"
 
 #include <nlohmann/json.hpp>
 

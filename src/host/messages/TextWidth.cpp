@@ -1,11 +1,11 @@
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
 #include <locale.h>
 #include <wchar.h>
 
 #include <vector>
 
-namespace host::measure {
+namespace host {
 namespace {
 
 constexpr std::string_view kEllipsis = "…";
@@ -15,7 +15,7 @@ struct Character {
   std::size_t width;
 };
 
-/// Widths do not depend on the user's language, so that a table looks the same in every one.
+/// Classifies characters alike whatever the user's locale, so that a table always looks the same.
 class CharacterTypes {
  public:
   CharacterTypes() : locale_(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)) {
@@ -69,7 +69,7 @@ std::string joined(const std::vector<Character>& characters) {
   return text;
 }
 
-/// As many characters of the end as fit.
+/// As many characters from the end as fit.
 std::string endOf(const std::vector<Character>& characters, std::size_t width) {
   auto begin = characters.end();
   std::size_t taken = 0;
@@ -123,4 +123,4 @@ std::string padded(std::string text, std::size_t width) {
   return text;
 }
 
-}  // namespace host::measure
+}  // namespace host

@@ -1,4 +1,4 @@
-#include "programs/audition/Report.h"
+#include "programs/audition/RunEnd.h"
 
 #include <cmath>
 

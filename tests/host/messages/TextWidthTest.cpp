@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
-using namespace host::measure;
+using namespace host;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "programs/measure/WaveformPicture.h"
+#include "programs/measure/WaveformPng.h"
 
 #include <cairo.h>
 
@@ -10,9 +10,10 @@
 #include <string>
 #include <vector>
 
+#include "host/messages/ClockText.h"
 #include "host/messages/Decimal.h"
 #include "host/messages/Failure.h"
-#include "programs/measure/TextWidth.h"
+#include "host/messages/TextWidth.h"
 
 namespace host::measure {
 namespace {
@@ -38,7 +39,7 @@ constexpr Color kInk{0.13, 0.15, 0.18};
 constexpr Color kFaint{0.84, 0.86, 0.88};
 constexpr Color kQuiet{0.40, 0.43, 0.47};
 constexpr Color kWave{0.36, 0.50, 0.66};
-// Told apart by those who see no red or green, too, and by their places.
+// Distinguishable for the red-green colour-blind too, and by their positions.
 constexpr Color kSourceOver{0.85, 0.53, 0.0};
 constexpr Color kEncodedOver{0.76, 0.08, 0.30};
 
@@ -77,7 +78,7 @@ class Canvas {
     cairo_text_extents(context_.get(), text.c_str(), &extents);
     return extents.x_advance;
   }
-  /// `alignment` 0 begins at x, 1 ends there, 0.5 is centred.
+  /// `alignment`: 0 starts at x, 1 ends there, 0.5 is centred on it.
   void text(double x, double baseline, const std::string& text, double size, const Color& color,
             double alignment = 0) {
     const auto length = textLength(text, size);
@@ -107,12 +108,12 @@ double place(int column) {
   return kLeft + column;
 }
 
-/// Marks stand in their lane and point to the waveform, whose column they colour.
+/// Marks lie in their lane and point at the waveform.
 void drawChannel(Canvas& canvas, const char* name, const std::vector<WaveformColumn>& columns,
                  double top) {
   const double waveTop = top + kLaneHeight;
   const double middle = waveTop + kWaveHeight / 2.0;
-  // A little room above full scale shows by how much a float file exceeds it.
+  // A little headroom above full scale shows how far a float file exceeds it.
   constexpr double fullScale = kWaveHeight / 2.0 / 1.12;
   const auto height = [=](float sample) {
     return std::clamp(static_cast<double>(sample) * fullScale, -kWaveHeight / 2.0,
@@ -145,12 +146,9 @@ void drawChannel(Canvas& canvas, const char* name, const std::vector<WaveformCol
   canvas.text(kLeft - 8, middle + 5, name, large, kInk, 1);
 }
 
-std::string clock(double seconds) {
-  const auto whole = static_cast<long long>(seconds);
-  auto text =
-      std::to_string(whole / 60) + ":" + (whole % 60 < 10 ? "0" : "") + std::to_string(whole % 60);
-  if (seconds != std::floor(seconds)) text += decimal(seconds - std::floor(seconds), 2).substr(1);
-  return text;
+std::string timeAt(double seconds) {
+  const auto milliseconds = std::llround(seconds * 1000);
+  return clockText(milliseconds, milliseconds % 1000 == 0 ? 0 : 2);
 }
 
 void drawTime(Canvas& canvas, double seconds, double baseline) {
@@ -162,12 +160,12 @@ void drawTime(Canvas& canvas, double seconds, double baseline) {
   for (double at = 0; at <= seconds; at += *step) {
     const double x = place(0) + kColumnCount * (seconds > 0 ? at / seconds : 0);
     canvas.rectangle(x, baseline - 20, 1, 6, kQuiet);
-    canvas.text(x, baseline, clock(at), 12, kQuiet, 0.5);
+    canvas.text(x, baseline, timeAt(at), 12, kQuiet, 0.5);
     if (seconds <= 0) break;
   }
 }
 
-/// The largest of the channels, and all of their overs.
+/// The highest peaks of the channels, and the sums of their overs.
 std::string summary(const char* signal, const std::vector<ChannelReading>& channels) {
   auto peak = channels.front();
   peak.interSampleOvers = peak.sampleClips = 0;

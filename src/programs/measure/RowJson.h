@@ -6,8 +6,8 @@
 
 namespace host::measure {
 
-/// The row as one JSON object on one line, without a line end: that of the readings, and of the
-/// trim where there is one.
+/// The row as one JSON object on one line, without a line end: the readings, and the trim if there
+/// is one.
 std::string asJson(const Row& row);
 
 }  // namespace host::measure

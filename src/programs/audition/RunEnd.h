@@ -5,7 +5,8 @@
 
 namespace host::audition {
 
-/// What the unit reads after the run, when nothing renders any more. Throws `Failure`.
+/// What the unit has metered by the end of the run. Call it once nothing renders any more. Throws
+/// `Failure`.
 Readings readingsAfter(Audition& audition);
 
 /// Ends the run at `seconds` of the file at the latest.

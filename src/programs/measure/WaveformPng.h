@@ -7,8 +7,8 @@
 
 namespace host::measure {
 
-/// Draws a whole file as a PNG: for each channel the waveform between two lanes of marks, those
-/// above for overs of the source, those below for overs of the encoded signal. `reduction` is what
+/// Draws a whole file as a PNG: for each channel the waveform between two lanes of marks, above it
+/// for overs of the source, below it for overs of the encoded signal. `reduction` is what
 /// the file was reduced by, in tenths of a decibel. Throws `Failure`.
 void drawWaveform(const WaveformOverview& overview, const Readings& readings, int reduction,
                   const std::filesystem::path& file);
