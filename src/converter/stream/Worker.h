@@ -17,7 +17,7 @@ class Worker {
   Worker(const UnitFormat& unit, std::size_t queueBlocks, OpenEncoder open = openEncoder);
   ~Worker() { stop(); }
 
-  /// Main thread, while the audio thread does not use the queues. Starting empties everything.
+  /// The unit's thread, while the audio thread does not use the queues. Starting empties it all.
   /// Throws `std::system_error` when no thread can be started; the source is then never encoded,
   /// and `waitUntil` does not wait.
   void start();

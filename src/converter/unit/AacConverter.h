@@ -11,8 +11,8 @@
 
 namespace converter {
 
-/// The unit: parameters for every thread, properties on the main thread, a renderer for the audio
-/// thread.
+/// The unit: parameters for every thread, properties for the one that uses the unit, a renderer for
+/// the audio thread.
 class AacConverter final : public ConverterUnit {
  public:
   /// The format has been found good.

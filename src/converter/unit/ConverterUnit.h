@@ -15,8 +15,8 @@ namespace converter {
 /// Encodes the audio passing through it to AAC and decodes it again at once. Source and encoded
 /// signal come out sample-aligned, delayed by one constant latency.
 ///
-/// Main thread, but `render` on the audio thread and parameters on any; also while `render` runs,
-/// unless an operation says otherwise. Parameters read back as written.
+/// One thread (with a view, the main one), but `render` on the audio thread and parameters on any;
+/// also while `render` runs, unless an operation says otherwise. Parameters read back as written.
 class ConverterUnit : public audio_unit::Unit {
  public:
   /// Throws `std::invalid_argument` for a format that the unit does not do, naming what is wrong,
