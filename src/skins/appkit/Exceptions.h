@@ -7,7 +7,7 @@ extern "C" {
 #endif
 
 /// Runs the work and returns the NSException that it raises, or nil. Written in plain Objective-C
-/// because Objective-C++ on GNUstep cannot catch one.
+/// because `@catch` does not work in GNU's Objective-C++.
 NSException* Velk_catchException(void (*work)(void* context), void* context);
 
 #ifdef __cplusplus

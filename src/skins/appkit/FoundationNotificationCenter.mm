@@ -62,14 +62,14 @@ Representatives& representatives() {
   return all;
 }
 
-/// Where the innermost `post` keeps what an observer throws, which must not pass through
-/// Foundation. Null while nobody posts through this class; a host may post without it.
+/// Where the innermost `post` keeps what an observer throws, because a C++ exception must not pass
+/// through Foundation. Null outside `post`: a host may post directly to NSNotificationCenter.
 std::exception_ptr*& failure() {
   static std::exception_ptr* exception = nullptr;
   return exception;
 }
 
-/// Takes what is thrown during one `post`.
+/// Catches what is thrown during one `post`.
 class Failure {
  public:
   Failure() : outer_(std::exchange(failure(), &thrown_)) {}
@@ -84,7 +84,7 @@ class Failure {
   std::exception_ptr* outer_;
 };
 
-/// Throws what the observer throws only where no `post` is there to take it.
+/// Keeps what the observer throws for the current `post`; without one the exception propagates.
 void receive(NSNotification* notification, const Deliver& deliver) {
   std::exception_ptr* const kept = failure();
   if (kept != nullptr && *kept) {

@@ -76,7 +76,7 @@ class ConnectedObject final : public InterfaceObject {
     for (const Connections::NamedAction& action : declared_->actions()) {
       if (action.selector == selector) {
         guarded([&] {
-          // What it does may destroy this object and the place where it is kept.
+          // Call a copy, because the action may destroy this object.
           const Action work = action.action;
           work(controls_->control(sender));
         });

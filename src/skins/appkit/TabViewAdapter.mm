@@ -5,9 +5,9 @@
 
 #include "ui/Log.h"
 
-/// Passes the tab view's questions on to the core's delegate. A delegate that throws when asked
-/// refuses the change. Its exception must not pass through the toolkit: it is kept for the code
-/// that selects, or logged when a user does.
+/// Passes the tab view's questions on to the core's delegate. If that throws when asked whether it
+/// allows a change, the change is refused. No exception may pass through the toolkit: it is kept
+/// for the code that made the selection, or logged if the user made it.
 @interface Velk_TabViewDelegate : NSObject
 #ifndef GNUSTEP
                                   <NSTabViewDelegate>
@@ -18,7 +18,7 @@
   std::exception_ptr* _failure;
 }
 - (void)setDelegate:(ui::TabViewDelegate*)delegate ofTabs:(ui::TabView*)tabs;
-/// Null logs exceptions. Returns the earlier place.
+/// Sets where exceptions are kept; null logs them. Returns the previous place.
 - (std::exception_ptr*)keepFailureIn:(std::exception_ptr*)failure;
 @end
 
@@ -79,10 +79,10 @@ namespace ui::appkit {
 
 namespace {
 
-/// Takes what the delegate throws during one selection.
+/// Catches what the delegate throws during one selection.
 class Failure {
  public:
-  /// The delegate is retained: what the selection leads to may destroy the adapter.
+  /// Retains the delegate, because the selection may destroy the adapter.
   explicit Failure(Retained<Velk_TabViewDelegate*> delegate)
       : delegate_(std::move(delegate)), outer_([delegate_.get() keepFailureIn:&thrown_]) {}
   Failure(const Failure&) = delete;

@@ -184,7 +184,7 @@ TEST(NotificationCenter, LogsAnExceptionWhenAHostPostsWithoutIt) {
     });
     [[NSNotificationCenter defaultCenter] postNotificationName:@"one" object:nil];
     EXPECT_THAT(log.lines(), testing::ElementsAre(testing::HasSubstr("observer")));
-    // It still hears what comes later.
+    // The observer still gets later notifications.
     [[NSNotificationCenter defaultCenter] postNotificationName:@"one" object:nil];
     EXPECT_THROW(center.post("one", &heard), std::runtime_error);
     EXPECT_EQ(heard, 3);
@@ -192,7 +192,7 @@ TEST(NotificationCenter, LogsAnExceptionWhenAHostPostsWithoutIt) {
   });
 }
 
-TEST(Boundary, EndsAnExceptionOfFoundationToo) {
+TEST(Boundary, CatchesAnExceptionOfFoundation) {
   onMain([] {
     fakes::CallLog calls;
     const fakes::LogCapture log(calls);
@@ -201,7 +201,7 @@ TEST(Boundary, EndsAnExceptionOfFoundationToo) {
   });
 }
 
-TEST(LevelFormatter, ShowsThePlainNumberWhereTheTextCannotBeMade) {
+TEST(LevelFormatter, ShowsThePlainNumberIfFormattingFails) {
   class NoText final : public ui::appkit::LevelText {
    public:
     std::string text(double /*level*/) const override { throw std::runtime_error("no text"); }
@@ -217,7 +217,7 @@ TEST(LevelFormatter, ShowsThePlainNumberWhereTheTextCannotBeMade) {
   });
 }
 
-TEST(RunLoop, FiresATimerAgainAndAgainAndLaterWorkOnce) {
+TEST(RunLoop, FiresATimerRepeatedlyAndDoesDeferredWorkOnce) {
   ui::appkit::AppKitRunLoop loop;
   std::unique_ptr<ui::Timer> timer;
   std::unique_ptr<ui::Deferred> later;

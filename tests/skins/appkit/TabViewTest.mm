@@ -16,7 +16,7 @@ using appkit_test::onMain;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-/// Two pages, and a delegate that writes down what it is asked.
+/// Two pages, and a delegate that records what it is asked.
 class TabView : public ui::TabViewDelegate {
  public:
   TabView() {
@@ -44,7 +44,7 @@ class TabView : public ui::TabViewDelegate {
     }
   }
 
-  /// What a click on a tab leads to.
+  /// Does what a click on a tab does.
   void userSelects(int index) { [native_.get() selectTabViewItemAtIndex:index]; }
   ui::appkit::TabViewAdapter& adapter() { return *adapter_; }
 
@@ -93,7 +93,7 @@ TEST(TabView, LetsCodeThatSelectsHaveTheExceptionAndKeepsThePage) {
     EXPECT_THROW(tabs.adapter().selectItemAtIndex(1), std::runtime_error);
     EXPECT_EQ(tabs.adapter().indexOfSelectedItem(), 0);
     EXPECT_THAT(log.lines(), ElementsAre());
-    // From then on a user's exceptions are logged again.
+    // After that, exceptions from the user's selections are logged again.
     tabs.userSelects(1);
     EXPECT_EQ(log.lines().size(), 1U);
   });

@@ -16,7 +16,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Two tabs in a window, and a delegate that writes down what it is asked.
+/// Two tabs in a window, and a delegate that records what it is asked.
 class TabView : public testing::Test, public ui::TabViewDelegate {
  protected:
   TabView() {
