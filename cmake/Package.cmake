@@ -71,6 +71,10 @@ install(FILES
 
 file(RELATIVE_PATH prefix_from_pc /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
 string(REGEX REPLACE "/$" "" prefix_from_pc ${prefix_from_pc})
+set(bundle_variable "")
+if(VELK_BUNDLE_BELOW_PREFIX)
+  set(bundle_variable "bundle=\${prefix}/${VELK_BUNDLE_BELOW_PREFIX}")
+endif()
 configure_file(cmake/package/pkgconfig.pc.in ${package_folder}/${VELK_PACKAGE}.pc @ONLY)
 install(FILES ${package_folder}/${VELK_PACKAGE}.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

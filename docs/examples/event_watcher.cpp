@@ -2,6 +2,7 @@
 // itself.
 #include <poll.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
@@ -17,12 +18,19 @@ namespace {
 
 constexpr float kLastRate = velk::bitRates.size() - 1;
 
-/// Says what the rate is when the callback runs, as a view does; other threads may have gone on by
-/// then.
+struct Heard {
+  float rate = -1;
+  std::atomic<bool> anything = false;
+};
+
+/// Asks for the rate as it is when the callback runs, as a view does: other threads go on
+/// meanwhile.
 void hear(void* userData, void* /*object*/, const AudioUnitEvent* event, UInt64 /*hostTime*/,
           AudioUnitParameterValue /*newest*/) {
+  auto& heard = *static_cast<Heard*>(userData);
   AudioUnitGetParameter(event->mArgument.mParameter.mAudioUnit, velk::kConverterParam_RateQuality,
-                        kAudioUnitScope_Global, 0, static_cast<float*>(userData));
+                        kAudioUnitScope_Global, 0, &heard.rate);
+  heard.anything = true;
 }
 
 using Wait = std::optional<std::chrono::steady_clock::duration>;
@@ -35,11 +43,15 @@ void waitForEvents(const audio_unit::LoopPump& pump, const Wait& longest) {
   poll(&wakeUp, 1, static_cast<int>(milliseconds));
 }
 
-/// Goes through every rate. Listeners hear of it every 50 ms at most, and always of the last.
-void automate(const AudioUnitParameter& rate) {
-  for (float index = 0; index <= kLastRate; ++index) {
-    AUParameterSet(nullptr, nullptr, &rate, index, 0);
-  }
+/// Goes through all rates again and again until it has been heard. Listeners hear of a change every
+/// 50 ms at most, and always of the last.
+void automate(const AudioUnitParameter& rate, const std::atomic<bool>& isHeard) {
+  do {
+    for (float index = 0; index <= kLastRate; ++index) {
+      AUParameterSet(nullptr, nullptr, &rate, index, 0);
+      std::this_thread::yield();
+    }
+  } while (!isHeard);
 }
 
 }  // namespace
@@ -47,7 +59,7 @@ void automate(const AudioUnitParameter& rate) {
 int main() {
   MinimalUnit unit;
   audio_unit::LoopPump pump;  // of this thread's run loop
-  float heard = -1;
+  Heard heard;
   AUEventListenerRef listener = nullptr;
   if (AUEventListenerCreate(hear, &heard, CFRunLoopGetCurrent(), kCFRunLoopCommonModes, 0.05F,
                             0.05F, &listener) != noErr) {
@@ -59,12 +71,12 @@ int main() {
   event.mArgument.mParameter = rate;
   AUEventListenerAddEventType(listener, nullptr, &event);
 
-  std::thread automation(automate, std::cref(rate));
-  for (Wait wait = pump.pump(); heard != kLastRate; wait = pump.pump()) {
+  std::thread automation(automate, std::cref(rate), std::cref(heard.anything));
+  for (Wait wait = pump.pump(); heard.rate != kLastRate; wait = pump.pump()) {
     waitForEvents(pump, wait);
   }
   automation.join();
-  std::printf("the rate is %u kbit/s now\n", velk::bitRates[static_cast<std::size_t>(heard)]);
+  std::printf("the rate is %u kbit/s now\n", velk::bitRates[static_cast<std::size_t>(heard.rate)]);
 
   AUListenerDispose(listener);  // nothing arrives from here on; then the unit may go
   return 0;
