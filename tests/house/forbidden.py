@@ -18,6 +18,8 @@ PROGRAM_WALLS = ("view/factory/Velk_AUAACConverterFactory.h", "view/main/Notific
 FORBIDDEN = {
     "audio_unit": ("contract/ConverterInterface.h", "ui/Log.h", "converter/unit/ConverterUnit.h", "QTimer"),
     "contract": ("ui/Log.h", "view/main/Notifications.h", "converter/codec/Setting.h", "audio_unit/Mailbox.h"),
+    "realtime": ("audio_unit/RunLoop.h", "contract/ConverterInterface.h", "converter/stream/Worker.h", "ui/Log.h",
+                 "QThread", "libavcodec/avcodec.h"),
     "ui": ("audio_unit/RunLoop.h", "contract/ConverterInterface.h", "view/main/Notifications.h",
            "skins/qt/QtView.h", "QWidget", "AppKit/AppKit.h", "unicode/unistr.h"),
     "view/main": VIEW_WALLS,
@@ -40,7 +42,7 @@ FORBIDDEN = {
     "converter/unit": (*CONVERTER_WALLS, "libavcodec/avcodec.h", "fdk-aac/aacenc_lib.h", "soxr.h"),
     "host/messages": (*HOST_WALLS, "host/files/SoundFile.h", "host/unit/ViewBundle.h", "audio_unit/Unit.h",
                       "ui/Log.h", "CLI/CLI.hpp", "sndfile.h"),
-    "host/files": (*HOST_WALLS, "host/unit/ViewBundle.h", "audio_unit/Unit.h", "ui/Log.h",
+    "host/files": (*HOST_WALLS, "host/unit/ViewBundle.h", "audio_unit/Unit.h",
                    "converter/unit/ConverterUnit.h", "nlohmann/json.hpp"),
     "host/unit": (*HOST_WALLS, "host/playback/Session.h", "host/analysis/Analysis.h", "audio_unit/Mailbox.h",
                   "sndfile.h"),
