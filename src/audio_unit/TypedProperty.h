@@ -41,7 +41,7 @@ inline constexpr Property<UInt32> offlineRenderProperty{kAudioUnitProperty_Offli
 template <class Data>
 OSStatus readPropertyInto(Data& data, AudioUnit unit, const Property<Data>& property,
                           AudioUnitElement element = 0) {
-  UInt32 size = sizeof(Data);
+  UInt32 size = sizeof(Data);  // NOLINT(bugprone-sizeof-expression): may be a pointer
   return AudioUnitGetProperty(unit, property.id, property.scope, element, &data, &size);
 }
 

@@ -37,7 +37,7 @@ MAY_INCLUDE = {
     "host/analysis": ("host/unit", "host/files", "host/messages", *UNIT, "converter/meters",
                       "contract", "audio_unit", "system"),
     "programs/audition": (*HOST, *UNIT, "ui", "contract", "audio_unit", "qt", "cli", "system"),
-    "programs/measure": (*HOST, *UNIT, "converter/unit/Presets.h", "ui", "contract", "audio_unit",
+    "programs/measure": (*HOST, *UNIT, "ui", "contract", "audio_unit",
                          "cairo", "cli", "json", "libav", "libavformat", "system"),
     "programs/demo_mix": (*HOST, *UNIT, "ui", "contract", "audio_unit", "sndfile", "system"),
 }

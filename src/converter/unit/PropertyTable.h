@@ -75,14 +75,18 @@ class PropertyDeclaration {
   template <class Data>
   constexpr PropertyDeclaration(const audio_unit::Property<Data>& property, PropertyPlace place,
                                 ReadInto read, WriteFrom write)
-      : id_(property.id), size_(sizeof(Data)), place_(place), read_(read), write_(write) {}
+      : id_(property.id),
+        size_(sizeof(Data)),  // NOLINT(bugprone-sizeof-expression): may be a pointer
+        place_(place),
+        read_(read),
+        write_(write) {}
 
   template <class Data, class Read>
   static void readOf(AacConverter& unit, AudioUnitElement element, void* data) {
     // Only the property's own type, so that neither a wider nor a narrower one fills the data.
     static_assert(std::same_as<std::invoke_result_t<Read, AacConverter&, AudioUnitElement>, Data>);
     const Data value = Read{}(unit, element);
-    std::memcpy(data, &value, sizeof value);
+    std::memcpy(data, &value, sizeof value);  // NOLINT(bugprone-sizeof-expression)
   }
   template <class Data, class Write>
   static OSStatus writeOf(AacConverter& unit, const void* data) {

@@ -118,7 +118,7 @@ std::string settingWords(const EncoderSetting& setting) {
 }
 
 std::string settingName(const EncoderSetting& setting) {
-  const auto name = formatName(setting.format) + " " + strategyName(setting.strategy);
+  auto name = formatName(setting.format) + " " + strategyName(setting.strategy);
   if (const auto quality = setting.quality()) return name + " q" + std::to_string(*quality);
   if (const auto kbps = setting.rateKbps()) return name + " " + std::to_string(*kbps);
   return name;
