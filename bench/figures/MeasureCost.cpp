@@ -96,7 +96,7 @@ double measuredSeconds(const EncoderChoice& choice, const std::filesystem::path&
   const host::measure::Options options;
   host::measure::JobProgress progress;
   const double start = processorSeconds();
-  host::measure::done(Job{file, choice, "mix"}, options, progress);
+  host::measure::runJob(Job{file, choice, "mix"}, options, progress);
   return processorSeconds() - start;
 }
 

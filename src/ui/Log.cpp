@@ -68,7 +68,7 @@ LogSink setLogSink(LogSink sink) {
   return earlier ? *earlier : LogSink();
 }
 
-void guarded(const std::function<void()>& work) noexcept {
+void runGuarded(const std::function<void()>& work) noexcept {
   // The outer block catches what the log itself throws: nobody is left to tell.
   try {
     try {

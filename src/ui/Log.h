@@ -19,6 +19,6 @@ UI_EXPORT LogSink setLogSink(LogSink sink);
 
 /// Runs `work`; whatever it throws is logged and goes no further. Everything that a toolkit, a host
 /// or a listener calls runs inside it.
-UI_EXPORT void guarded(const std::function<void()>& work) noexcept;
+UI_EXPORT void runGuarded(const std::function<void()>& work) noexcept;
 
 }  // namespace ui

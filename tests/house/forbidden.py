@@ -52,8 +52,3 @@ FORBIDDEN = {
     "programs/measure": (*PROGRAM_WALLS, "programs/audition/MainWindow.h", "programs/demo_mix/Score.h", "QString"),
     "programs/demo_mix": (*PROGRAM_WALLS, "programs/audition/MainWindow.h", "programs/measure/Options.h", "QString"),
 }
-
-# What the compiler finds all the same, because the room links another's internals for a header of MAY_INCLUDE.
-FOUND_ALL_THE_SAME = {
-    "programs/measure": ("converter/unit/AacConverter.h", "converter/codec/Setting.h"),
-}

@@ -113,19 +113,19 @@ TEST_F(LogTest, LetsASinkLogAndReplaceItself) {
 }
 
 TEST_F(LogTest, TellsOfAnExceptionThatGuardedWorkThrows) {
-  ui::guarded([] { throw std::runtime_error("no such item"); });
+  ui::runGuarded([] { throw std::runtime_error("no such item"); });
   EXPECT_THAT(lines, ElementsAre(HasSubstr("no such item")));
 }
 
 TEST_F(LogTest, TellsOfAnythingElseThatGuardedWorkThrows) {
-  ui::guarded([] { throw 5; });
-  ui::guarded({});
+  ui::runGuarded([] { throw 5; });
+  ui::runGuarded({});
   EXPECT_THAT(lines, SizeIs(2));
 }
 
 TEST_F(LogTest, IsSilentWhenGuardedWorkSucceeds) {
   bool isDone = false;
-  ui::guarded([&isDone] { isDone = true; });
+  ui::runGuarded([&isDone] { isDone = true; });
   EXPECT_TRUE(isDone);
   EXPECT_THAT(lines, IsEmpty());
 }
@@ -136,7 +136,7 @@ TEST_F(LogTest, ThatThrowsItselfIsStoppedByTheGuard) {
     ++calls;
     throw std::runtime_error("disk full");
   });
-  ui::guarded([] { throw std::runtime_error("no such item"); });
+  ui::runGuarded([] { throw std::runtime_error("no such item"); });
   ui::setLogSink(earlier);
   EXPECT_EQ(calls, 1);
 }

@@ -54,8 +54,9 @@ Readings finalReadingsOf(converter::ConverterUnit& unit, AudioFormat format) {
 }
 
 velk::PeakStatistics peakStatisticsOf(converter::ConverterUnit& unit) {
-  return readOrThrow(&unit, velk::kConverterProperty_PeakStats,
-                     Message::words("the converter does not tell its peak statistics (status %1)"));
+  return readOrThrow(
+      &unit, velk::kConverterProperty_PeakStats,
+      host::Message::words("the converter does not tell its peak statistics (status %1)"));
 }
 
 }  // namespace host

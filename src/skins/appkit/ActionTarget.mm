@@ -11,7 +11,7 @@
 - (void)perform:(id)sender {
   ui::appkit::ActionReceiver* const receiver = _receiver;
   if (receiver != nullptr) {
-    ui::guarded([&] { receiver->receive(sender); });
+    ui::runGuarded([&] { receiver->receive(sender); });
   }
 }
 

@@ -37,7 +37,7 @@ class AlertReceiver {
 - (void)alert:(id)alert returnCode:(NSInteger)code contextInfo:(void*)contextInfo {
   ui::appkit::AlertReceiver* const receiver = _receiver;
   if (receiver != nullptr) {
-    ui::guarded([&] { receiver->alertDidEnd(static_cast<int>(code)); });
+    ui::runGuarded([&] { receiver->alertDidEnd(static_cast<int>(code)); });
   }
 }
 

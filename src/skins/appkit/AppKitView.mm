@@ -25,7 +25,7 @@ AppKitView::~AppKitView() {
   // The teardown must no longer resize the view.
   isTearingDown_ = true;
   const void* const coreView = objects_ ? identityOf(objects_->view()) : nullptr;
-  guarded([this] { objects_.reset(); });
+  runGuarded([this] { objects_.reset(); });
   representObject(coreView, nil);
   services_.sheets().cancelAll();
   for (const auto& object : connected_) {
@@ -67,18 +67,18 @@ Velk_View* AppKitView::handOver(std::unique_ptr<NativeView> native) {
 }
 
 void AppKitView::viewWillMoveToSuperview(bool hasNewSuperview) {
-  guarded([&] { objects_->view().viewWillMoveToSuperview(hasNewSuperview); });
+  runGuarded([&] { objects_->view().viewWillMoveToSuperview(hasNewSuperview); });
   if (!hasNewSuperview) {
     services_.sheets().cancelAll();
   }
 }
 
 void AppKitView::viewDidMoveToWindow() {
-  guarded([this] { objects_->view().viewDidMoveToWindow(); });
+  runGuarded([this] { objects_->view().viewDidMoveToWindow(); });
 }
 
 void AppKitView::keyDown(NSEvent* event) {
-  guarded([&] { objects_->view().keyDown({positionCode(event), event}); });
+  runGuarded([&] { objects_->view().keyDown({positionCode(event), event}); });
 }
 
 void AppKitView::requestFrameSize(NSSize size) {
@@ -87,7 +87,7 @@ void AppKitView::requestFrameSize(NSSize size) {
 
 void AppKitView::setFrameSize(Size size) {
   if (objects_) {
-    guarded([&] { objects_->view().setFrameSize(size); });
+    runGuarded([&] { objects_->view().setFrameSize(size); });
   } else {
     applyFrameSize(size);
   }
@@ -109,7 +109,7 @@ void AppKitView::applyFrameSize(Size size) {
   [view_ applyFrameSize:nsSize(size)];
   if (changed && frameSizeObserver_) {
     const std::function<void(Size)> observer = frameSizeObserver_;
-    guarded([&] { observer(size); });
+    runGuarded([&] { observer(size); });
   }
 }
 

@@ -63,7 +63,7 @@ class AudioUnitPump final : public ActionReceiver {
   }
 
   void receive(id /*sender*/) override {
-    guarded([this] {
+    runGuarded([this] {
       const auto wait = pump_.pump();
       due_ = wait ? runLoop_.performAfter(std::chrono::duration<double>(*wait).count(),
                                           [this] { receive(nil); })

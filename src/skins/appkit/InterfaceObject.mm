@@ -75,7 +75,7 @@ class ConnectedObject final : public InterfaceObject {
     }
     for (const Connections::NamedAction& action : declared_->actions()) {
       if (action.selector == selector) {
-        guarded([&] {
+        runGuarded([&] {
           // Call a copy, because the action may destroy this object.
           const Action work = action.action;
           work(controls_->control(sender));

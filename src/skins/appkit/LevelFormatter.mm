@@ -15,7 +15,7 @@
   }
   const ui::appkit::LevelText& levelText = *_levelText;
   NSString* text = [object description];
-  ui::guarded([&] { text = ui::appkit::nsString(levelText.text([object doubleValue])); });
+  ui::runGuarded([&] { text = ui::appkit::nsString(levelText.text([object doubleValue])); });
   return text;
 }
 

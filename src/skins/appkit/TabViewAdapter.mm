@@ -27,7 +27,7 @@ namespace {
 template <class Question>
 void ask(std::exception_ptr* failure, const Question& question) {
   if (failure == nullptr) {
-    ui::guarded(question);
+    ui::runGuarded(question);
     return;
   }
   try {

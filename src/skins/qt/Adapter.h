@@ -21,7 +21,7 @@ class ActionSource {
 /// action may destroy its sender and with it the stored action.
 inline void send(Action action, Object* sender) {
   if (action) {
-    guarded([&] { action(sender); });
+    runGuarded([&] { action(sender); });
   }
 }
 

@@ -28,7 +28,7 @@ class AudioUnitPump final : public QObject {
 
  private:
   void pump() {
-    guarded([this] {
+    runGuarded([this] {
       if (const auto wait = pump_.pump()) {
         timer_.start(std::chrono::ceil<std::chrono::milliseconds>(*wait));
       } else {

@@ -17,7 +17,7 @@ class RepeatingTimer final : public Timer {
     timer_.setInterval(static_cast<int>(std::lround(interval * 1000.0)));
     // Call a copy, because the work may destroy this timer.
     QObject::connect(&timer_, &QTimer::timeout,
-                     [fire = std::move(fire)] { guarded(std::function<void()>(fire)); });
+                     [fire = std::move(fire)] { runGuarded(std::function<void()>(fire)); });
     timer_.start();
   }
 
@@ -33,7 +33,7 @@ class DeferredCall final : public Deferred {
   explicit DeferredCall(std::function<void()> work) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout,
-                     [work = std::move(work)] { guarded(std::function<void()>(work)); });
+                     [work = std::move(work)] { runGuarded(std::function<void()>(work)); });
     timer_.start(0);
   }
 

@@ -89,7 +89,7 @@ void QtSheets::beginAlertSheet(const AlertTexts& texts, View& /*control*/,
         box->deleteLater();
         alert_.clear();
         AlertWindow window;
-        guarded([&] { didEnd(window, chosen ? kAlertAlternateReturn : kAlertDefaultReturn); });
+        runGuarded([&] { didEnd(window, chosen ? kAlertAlternateReturn : kAlertDefaultReturn); });
         if (view != nullptr) {
           didClose_();
         }

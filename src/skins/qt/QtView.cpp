@@ -22,7 +22,7 @@ QtView::~QtView() {
   for (QWidget* control : findChildren<QWidget*>()) {
     control->removeEventFilter(this);
   }
-  guarded([this] { objects_.reset(); });
+  runGuarded([this] { objects_.reset(); });
   services_.reset();
   controls_.clear();
 }
@@ -57,7 +57,7 @@ void QtView::watchControls() {
 }
 
 void QtView::setFrameSize(Size size) {
-  guarded([&] { objects_->view().setFrameSize(size); });
+  runGuarded([&] { objects_->view().setFrameSize(size); });
 }
 
 void QtView::setFrameSizeObserver(std::function<void(Size)> observer) {
@@ -75,7 +75,7 @@ void QtView::applyFrameSize(Size size) {
                std::max(0, static_cast<int>(std::lround(size.height))));
   if (changed && frameSizeObserver_) {
     const std::function<void(Size)> observer = frameSizeObserver_;
-    guarded([&] { observer(size); });
+    runGuarded([&] { observer(size); });
   }
 }
 
@@ -142,7 +142,7 @@ void QtView::handleParentChange() {
     return;
   }
   const bool hasNewSuperview = parentWidget() != nullptr;
-  guarded([&] { objects_->view().viewWillMoveToSuperview(hasNewSuperview); });
+  runGuarded([&] { objects_->view().viewWillMoveToSuperview(hasNewSuperview); });
   if (hasNewSuperview) {
     announceWindow();
   } else {
@@ -153,7 +153,7 @@ void QtView::handleParentChange() {
 
 void QtView::announceWindow() {
   if (objects_ && hasWindow() && std::exchange(window_, window()) != window()) {
-    guarded([this] { objects_->view().viewDidMoveToWindow(); });
+    runGuarded([this] { objects_->view().viewDidMoveToWindow(); });
   }
 }
 
@@ -173,7 +173,7 @@ bool QtView::dispatch(QKeyEvent& event) {
   // The key press may destroy this view.
   const QPointer<QtView> self = this;
   passedOn_ = nullptr;
-  guarded([&] { objects_->view().keyDown({positionCode(event), &event}); });
+  runGuarded([&] { objects_->view().keyDown({positionCode(event), &event}); });
   return self != nullptr && std::exchange(passedOn_, nullptr) == &event;
 }
 

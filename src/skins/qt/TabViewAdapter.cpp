@@ -10,7 +10,7 @@ TabViewAdapter::TabViewAdapter(QTabWidget& tabs) : Adapter(tabs), tabs_(&tabs) {
   // Qt emits no change for a click on the current tab, but the delegate must be asked.
   QObject::connect(&tabs, &QTabWidget::tabBarClicked, receiver(), [this](int index) {
     if (index >= 0 && index == selected_) {
-      guarded([&] { selectItemAtIndex(index); });
+      runGuarded([&] { selectItemAtIndex(index); });
     }
   });
 }
@@ -56,7 +56,7 @@ void TabViewAdapter::handleUserSelection(int index) {
     return;
   }
   showPage(selected_);
-  guarded([&] { selectItemAtIndex(index); });
+  runGuarded([&] { selectItemAtIndex(index); });
 }
 
 }  // namespace ui::qt

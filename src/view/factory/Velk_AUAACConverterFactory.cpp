@@ -46,7 +46,7 @@ std::unique_ptr<ui::NativeView> Velk_AUAACConverterFactory::uiViewForAudioUnit(
     audio_unit::Unit* unit, ui::Size /*size*/) {
   std::unique_ptr<ui::NativeView> bound;
   // Nothing may reach the host, not even what the log throws.
-  ui::guarded([&] {
+  ui::runGuarded([&] {
     std::unique_ptr<ui::NativeView> loaded = loadView();
     Velk_AUAACConverterCustomView* const view = std::exchange(uiFreshlyLoadedView, nullptr);
     if (loaded && bind(*view, unit)) {

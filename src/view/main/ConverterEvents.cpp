@@ -19,7 +19,7 @@ constexpr Float32 kValueChangeGranularity = 0.05F;
 void ConverterEventListenerDispatcher(void* inUserData, void* inObject,
                                       const AudioUnitEvent* inEvent, UInt64 /*inEventHostTime*/,
                                       AudioUnitParameterValue inParameterValue) {
-  ui::guarded([&] {
+  ui::runGuarded([&] {
     static_cast<Velk_AUAACConverterCustomView*>(inUserData)
         ->priv_eventListener(inObject, *inEvent, inParameterValue);
   });

@@ -18,7 +18,7 @@ Velk_AUAACConverterCustomView::Velk_AUAACConverterCustomView(ui::NativeView& nat
 
 Velk_AUAACConverterCustomView::~Velk_AUAACConverterCustomView() {
   if (!isTornDown()) {
-    ui::guarded([this] { cleanup(); });
+    ui::runGuarded([this] { cleanup(); });
   }
   // A unit may have been bound after the teardown.
   priv_removeListeners();

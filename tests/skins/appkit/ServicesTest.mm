@@ -196,7 +196,7 @@ TEST(Boundary, CatchesAnExceptionOfFoundation) {
   onMain([] {
     fakes::CallLog calls;
     const fakes::LogCapture log(calls);
-    ui::guarded([] { [NSException raise:NSGenericException format:@"no luck"]; });
+    ui::runGuarded([] { [NSException raise:NSGenericException format:@"no luck"]; });
     EXPECT_EQ(log.lines().size(), 1U);
   });
 }

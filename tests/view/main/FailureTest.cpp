@@ -76,7 +76,7 @@ TEST_P(EveryRefusedCall, LeavesAViewThatWorks) {
         unit.failOnce(GetParam().call, GetParam().id, -10851);
       }
       // The boundary that every skin puts around what a user or a timer starts.
-      ui::guarded(steps[step]);
+      ui::runGuarded(steps[step]);
       settle();
     }
 

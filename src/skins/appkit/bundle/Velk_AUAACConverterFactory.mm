@@ -26,7 +26,7 @@ using ui::appkit::AppKitView;
     NSBundle* const bundle = [NSBundle bundleForClass:[self class]];
     const id owner = self;
     AUCocoaUIBase* factory = nullptr;
-    ui::guarded([&] {
+    ui::runGuarded([&] {
       ui::appkit::useFoundationServices();
       factory = new velk::Velk_AUAACConverterFactory(
           std::make_unique<AppKitInterfaceLoader>(AppKitInterfaceLoader::Files{
@@ -64,7 +64,7 @@ using ui::appkit::AppKitView;
 - (NSView*)uiViewForAudioUnit:(AudioUnit)unit withSize:(NSSize)size {
   AUCocoaUIBase& factory = *_factory;
   NSView* view = nil;
-  ui::guarded([&] {
+  ui::runGuarded([&] {
     if (auto native = factory.uiViewForAudioUnit(unit, ui::appkit::sizeOf(size))) {
       view = AppKitView::handOver(std::move(native));
     }

@@ -31,7 +31,7 @@ extern "C" UI_EXPORT AUCocoaUIBase* VelkInstantiateClass(const char* className) 
     return nullptr;
   }
   AUCocoaUIBase* factory = nullptr;
-  ui::guarded([&] {
+  ui::runGuarded([&] {
     factory = std::make_unique<velk::Velk_AUAACConverterFactory>(
                   std::make_unique<ui::qt::QtInterfaceLoader>(ui::qt::userEnvironment(resources())))
                   .release();
