@@ -62,6 +62,7 @@ void scanSource(AudioSource& source, SharedOverview& overview, Progress& progres
   const std::size_t channels = source.format().channels;
   const auto length = static_cast<double>(std::max<std::int64_t>(source.frames(), 1));
   std::vector<OverFinder> finders;
+  finders.reserve(channels);
   for (std::uint32_t channel = 0; channel < channels; ++channel) {
     finders.emplace_back(channel, overview);
   }

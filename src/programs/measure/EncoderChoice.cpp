@@ -21,6 +21,7 @@ EncoderChoice settingChoice(std::string_view text) {
 
 std::vector<EncoderChoice> everyPreset() {
   std::vector<EncoderChoice> choices;
+  choices.reserve(velk::encoderPresets.size());
   for (const auto& preset : velk::encoderPresets) choices.push_back(choiceOf(preset));
   return choices;
 }
