@@ -1,13 +1,12 @@
 # Tests wait for their compilation longer than for themselves.
-set(VELK_TEST_OPTIONS $<$<CONFIG:Release>:-O1> $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+set(VELK_TEST_OPTIONS $<$<CONFIG:Release>:-O1> ${VELK_PARSED_HEADERS_OPTIONS})
 
 # velk_test_headers(<name> LINK <target...> HEADERS <header...>)
 # Parses headers once for all tests that are compiled as this says. Parsing GoogleTest takes half of a small
 # test's compilation, and Qt takes more.
-set(CMAKE_PCH_WARN_INVALID OFF)
 function(velk_test_headers name)
   cmake_parse_arguments(TEST "" "" "LINK;HEADERS" ${ARGN})
-  if(TARGET ${name} OR VELK_SANITIZE OR NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  if(TARGET ${name} OR NOT VELK_PARSES_HEADERS_ONCE)
     return()
   endif()
   set(main ${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp)
