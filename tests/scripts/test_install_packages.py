@@ -43,7 +43,7 @@ esac""")
         return self.run_here("scripts/install-packages", group, **variables)
 
     def installs(self):
-        return [call.split("APT::Status-Fd=2 ")[1].split() for call in self.calls("apt-get") if " install " in call]
+        return [call.split("APT::Status-Fd=3 ")[1].split() for call in self.calls("apt-get") if " install " in call]
 
     def test_stay_as_they_are_where_none_is_missing(self):
         result = self.install()
@@ -56,6 +56,22 @@ esac""")
         self.assertEqual(result.returncode, 0)
         self.assertIn("packages: to be installed: libsoxr-dev\n", result.stdout)
         self.assertEqual(self.installs(), [["libsoxr-dev"]])
+
+    def test_have_scripts_that_can_write_to_standard_error(self):
+        self.lose("libsoxr-dev")
+        # As dpkg does: what a package's script is given has no descriptor of the status any more.
+        self.fake("apt-get", """
+for word in "$@"; do
+  case "$word" in
+    APT::Status-Fd=*)
+      status=${word#*=}
+      eval "echo pmstatus:libsoxr-dev:50:Unpacking >&$status" || exit 1
+      eval "sh -c 'echo the package has a word to say >&2 && echo and goes on' $status>&-" || exit 1 ;;
+  esac
+done""")
+        result = self.install()
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertIn("packages: 50 %", result.stdout)
 
     def test_that_were_removed_but_for_their_settings_are_missing(self):
         self.fake("dpkg-query", "\n".join(
