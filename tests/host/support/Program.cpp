@@ -49,11 +49,13 @@ std::vector<std::string> Program::environment() const {
     const std::string_view variable = *each;
     bool isOurs = false;
     for (const auto* const name : {"QT_QPA_PLATFORM=", "DISPLAY=", "WAYLAND_DISPLAY=",
-                                   "XDG_RUNTIME_DIR=", "XDG_CONFIG_HOME=", "LANGUAGE="}) {
+                                   "XDG_RUNTIME_DIR=", "XDG_CONFIG_HOME=", "LANGUAGE=", "TERM="}) {
       if (variable.starts_with(name)) isOurs = true;
     }
     if (!isOurs) variables.emplace_back(variable);
   }
+  // Whoever starts the tests may have a terminal that shows nothing in place.
+  variables.emplace_back("TERM=xterm");
   variables.push_back("XDG_CONFIG_HOME=" + folder_.string() + ".config");
   if (!languages_.empty()) variables.push_back("LANGUAGE=" + languages_);
   if (hasDisplay_) variables.emplace_back("QT_QPA_PLATFORM=offscreen");
