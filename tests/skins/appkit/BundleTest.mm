@@ -1,5 +1,5 @@
 #include <dlfcn.h>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 #include <optional>

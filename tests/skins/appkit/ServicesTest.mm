@@ -1,5 +1,5 @@
 #import <AppKit/AppKit.h>
-#include <gmock/gmock.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
