@@ -6,6 +6,8 @@ namespace host::audition {
 
 /// A line of text with an ellipsis where it does not fit; the tool tip shows all of it.
 class ElidedLabel : public QLabel {
+  Q_OBJECT
+
  public:
   explicit ElidedLabel(Qt::TextElideMode mode, QWidget* parent = nullptr);
 
