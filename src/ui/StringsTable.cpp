@@ -86,6 +86,7 @@ class Parser {
       line += text_[i] == '\n' || (text_[i] == '\r' && text_.substr(i + 1, 1) != "\n") ? 1U : 0U;
       UChar32 character = 0;
       const auto* bytes = reinterpret_cast<const std::uint8_t*>(text_.data());
+      // NOLINTNEXTLINE(bugprone-inc-dec-in-conditions): the macro is ICU's.
       U8_NEXT(bytes, i, text_.size(), character);
       if (character < 0) {
         throw StringsTableError(line, "bytes that are not UTF-8");

@@ -52,7 +52,7 @@ MAY_INCLUDE_ALONE = {
 # Library -> how its headers are included, and what its symbols look like to a reader of `nm --demangle`.
 LIBRARIES = {
     "qt": (r"Q[A-Z]\w+|Qt\w+/\w+|QtGlobal", r"\bQ[A-Z]\w+::|\bq(t_|Version|Warning|Debug)|vtable for Q[A-Z]"),
-    "cocoa": (r"(AppKit|Foundation|Cocoa|objc|AudioUnit)/\w+\.h", r"\bobjc_msg|_OBJC_|__objc_|\bNS[A-Z]\w+"),
+    "cocoa": (r"(AppKit|Foundation|Cocoa|GNUstepGUI|objc|AudioUnit)/\w+\.h", r"\bobjc_msg|_OBJC_|__objc_|\bNS[A-Z]\w+"),
     "frameworks": (r"(AudioToolbox|CoreFoundation)/\w+\.h", None),
     "icu": (r"unicode/\w+\.h", r"\bicu_\d+::|\bu(cnv|loc|num|dat|_\w+)_\w+_\d+$"),
     "libav": (r"libav(codec|util)/\w+\.h", r"\bav(codec)?_[a-z]"),
@@ -67,7 +67,7 @@ LIBRARIES = {
     "system": (r"(dlfcn|fcntl|locale|poll|pthread|sched|semaphore|signal|spawn|termios|time|unistd|wchar)\.h"
                r"|(sys|linux)/\w+\.h", None),
     # Only tests and benchmarks have these.
-    "test": (r"g(test|mock)/\w+\.h|benchmark/benchmark\.h|ebur128\.h|malloc\.h|ucontext\.h", r"\btesting::"),
+    "test": (r"g(test|mock)/[\w-]+\.h|benchmark/benchmark\.h|ebur128\.h|malloc\.h|ucontext\.h", r"\btesting::"),
 }
 STANDARD = frozenset("""
     algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
