@@ -50,12 +50,18 @@ function(velk_room_headers target visibility)
   endif()
 endfunction()
 
-# velk_room(<target> <STATIC|SHARED|OBJECT|MODULE> FOLDERS <folder...> [PUBLIC <folder/header...>] SOURCES <file...>)
+# velk_room(<target> <STATIC|SHARED|OBJECT|MODULE> FOLDERS <folder...> [PUBLIC <folder/header...>] SOURCES <file...>
+#           [PARSED <header...>])
+# PARSED names what most of the sources include beside the standard library.
 function(velk_room target kind)
-  cmake_parse_arguments(ROOM "" "" "FOLDERS;PUBLIC;SOURCES" ${ARGN})
+  cmake_parse_arguments(ROOM "" "" "FOLDERS;PUBLIC;SOURCES;PARSED" ${ARGN})
   add_library(${target} ${kind} ${ROOM_SOURCES})
   velk_room_headers(${target} PUBLIC FOLDERS ${ROOM_FOLDERS} PUBLIC ${ROOM_PUBLIC})
   target_link_libraries(${target} PRIVATE velk_warnings)
+  # A module has a few sources only.
+  if(NOT kind STREQUAL "MODULE")
+    velk_parse_once(${target} ${ROOM_PARSED})
+  endif()
 endfunction()
 
 # velk_write_rooms(<file>)

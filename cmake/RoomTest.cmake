@@ -1,5 +1,5 @@
 # Tests wait for their compilation longer than for themselves.
-set(VELK_TEST_OPTIONS $<$<CONFIG:Release>:-O1> ${VELK_PARSED_HEADERS_OPTIONS})
+set(VELK_TEST_OPTIONS $<$<CONFIG:Release>:-Og> ${VELK_PARSED_HEADERS_OPTIONS})
 
 # velk_test_headers(<name> LINK <target...> HEADERS <header...>)
 # Parses headers once for all tests that are compiled as this says. Parsing GoogleTest takes half of a small
@@ -23,7 +23,8 @@ velk_test_headers(velk_test_headers)
 # velk_test(<name> LABELS <room...> SOURCES <file...> LINK <target...> [AS_PRODUCT]
 #           [PARSED <target>] [PROPERTIES <ctest properties...>])
 # One small GoogleTest program; every test of it carries the rooms' labels. AS_PRODUCT compiles it with the
-# products' options, where g++ 12 warns of what is not there at -O1. PARSED names other headers than the usual.
+# products' options, where g++ 12 warns of what is not there at -Og. PARSED names other headers than the usual, or "nothing"
+# where the options are those of no other test.
 # Programs with tests that take seconds say so by the property COST: those start first, so that none is left to
 # run alone at the end.
 function(velk_test name)

@@ -21,7 +21,7 @@ class LoggingAndThrowingHandler final : public AssertionHandler {
   }
 };
 
-std::atomic<AssertionHandler*>& replacement() {
+std::atomic<AssertionHandler*>& handlerInPlaceOfOurs() {
   static std::atomic<AssertionHandler*> handler = nullptr;
   return handler;
 }
@@ -37,12 +37,12 @@ AssertionHandler::~AssertionHandler() = default;
 
 AssertionHandler& AssertionHandler::currentHandler() {
   static LoggingAndThrowingHandler defaultHandler;
-  AssertionHandler* const handler = replacement();
+  AssertionHandler* const handler = handlerInPlaceOfOurs();
   return handler != nullptr ? *handler : defaultHandler;
 }
 
 void AssertionHandler::setCurrentHandler(AssertionHandler* handler) {
-  replacement() = handler;
+  handlerInPlaceOfOurs() = handler;
 }
 
 }  // namespace ui

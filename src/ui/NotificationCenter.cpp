@@ -21,7 +21,7 @@ struct Registration {
   }
 };
 
-NotificationCenter*& replacement() {
+NotificationCenter*& centerInPlaceOfOurs() {
   static NotificationCenter* center = nullptr;
   return center;
 }
@@ -37,11 +37,11 @@ class NotificationCenter::Registry {
 NotificationCenter& NotificationCenter::defaultCenter() {
   // Never destroyed: observers may outlive every static object.
   static NotificationCenter& center = *new NotificationCenter;
-  return replacement() != nullptr ? *replacement() : center;
+  return centerInPlaceOfOurs() != nullptr ? *centerInPlaceOfOurs() : center;
 }
 
 void NotificationCenter::setDefaultCenter(NotificationCenter* center) {
-  replacement() = center;
+  centerInPlaceOfOurs() = center;
 }
 
 NotificationCenter::NotificationCenter() : registry_(std::make_unique<Registry>()) {}

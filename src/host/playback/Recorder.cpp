@@ -12,9 +12,9 @@ namespace host {
 namespace {
 
 constexpr std::size_t kSecondsOfRoom = 4;
-constexpr std::size_t kBlockFrames = 4096;
+constexpr std::size_t kFramesPerWrite = 4096;
 /// The audio thread never wakes the writer, so the writer looks this often.
-constexpr auto kLookAgain = std::chrono::milliseconds(20);
+constexpr auto kWriterLooksEvery = std::chrono::milliseconds(20);
 
 SNDFILE* handle(void* file) {
   return static_cast<SNDFILE*>(file);
@@ -30,8 +30,8 @@ Recorder::Recorder(std::unique_ptr<AtomicFile> file, AudioFormat format)
     : target_(std::move(file)),
       format_(format),
       ring_(kSecondsOfRoom * format.sampleRate * format.channels),
-      incoming_(kBlockFrames * format.channels),
-      outgoing_(kBlockFrames * format.channels) {
+      incoming_(kFramesPerWrite * format.channels),
+      outgoing_(kFramesPerWrite * format.channels) {
   SF_INFO info{};
   info.samplerate = static_cast<int>(format.sampleRate);
   info.channels = static_cast<int>(format.channels);
@@ -54,7 +54,7 @@ Recorder::~Recorder() {
 void Recorder::hear(const float* const* planes, std::uint32_t frames) noexcept {
   const auto channels = format_.channels;
   for (std::uint32_t start = 0; start < frames;) {
-    const auto count = std::min<std::uint32_t>(frames - start, kBlockFrames);
+    const auto count = std::min<std::uint32_t>(frames - start, kFramesPerWrite);
     if (ring_.writable() < std::size_t{count} * channels) {
       lostFrames_ += frames - start;
       return;
@@ -104,7 +104,7 @@ void Recorder::write() {
   std::unique_lock lock(mutex_);
   while (!stop_) {
     writeReadable(lock);
-    if (!stop_) wakeWriter_.wait_for(lock, kLookAgain);
+    if (!stop_) wakeWriter_.wait_for(lock, kWriterLooksEvery);
   }
   writeReadable(lock);
 }

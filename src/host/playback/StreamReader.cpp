@@ -7,10 +7,10 @@
 namespace host {
 namespace {
 
-constexpr std::size_t kBlockFrames = 4096;
+constexpr std::size_t kFramesPerRead = 4096;
 constexpr std::size_t kSecondsAhead = 2;
 /// The audio thread never wakes the decoder when there is room, so the decoder looks this often.
-constexpr auto kLookAgain = std::chrono::milliseconds(20);
+constexpr auto kDecoderLooksEvery = std::chrono::milliseconds(20);
 
 }  // namespace
 
@@ -18,8 +18,8 @@ StreamReader::StreamReader(std::unique_ptr<AudioSource> source)
     : source_(std::move(source)),
       format_(source_.format()),
       frames_(source_.frames()),
-      ring_((kSecondsAhead * format_.sampleRate + kBlockFrames) * format_.channels),
-      block_(kBlockFrames * format_.channels),
+      ring_((kSecondsAhead * format_.sampleRate + kFramesPerRead) * format_.channels),
+      block_(kFramesPerRead * format_.channels),
       decoder_([this] { decode(); }) {}
 
 StreamReader::~StreamReader() {
@@ -42,14 +42,14 @@ void StreamReader::decode() {
       if (ended_) {
         wakeDecoder_.wait(lock);
       } else {
-        wakeDecoder_.wait_for(lock, kLookAgain);
+        wakeDecoder_.wait_for(lock, kDecoderLooksEvery);
       }
       continue;
     }
     // The mutex guards the source, so a seek waits for at most one block.
-    const auto got = source_.read(block_.data(), kBlockFrames);
+    const auto got = source_.read(block_.data(), kFramesPerRead);
     ring_.write(block_.data(), got * format_.channels);
-    if (got < kBlockFrames) ended_.store(true, std::memory_order_release);
+    if (got < kFramesPerRead) ended_.store(true, std::memory_order_release);
     madeProgress_.notify_all();
     // Let a waiting seek have its turn.
     lock.unlock();

@@ -6,10 +6,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "programs/audition/Spacing.h"
+
 namespace host::audition {
 namespace {
 
-constexpr int kGrid = 8;
 constexpr int kMessageWidth = 352;
 
 }  // namespace

@@ -20,7 +20,7 @@ constexpr std::uint32_t kBlockFrames = 1024;
 constexpr int kBlocksPerTurn = 20;
 /// Long enough for the last readings to show: the view polls its meters every 75 ms.
 constexpr int kSettlingMilliseconds = 250;
-constexpr int kRefreshMilliseconds = 50;
+constexpr int kLineRefreshMilliseconds = 50;
 constexpr int kRestingMilliseconds = 10;
 
 /// Renders block after block, a few in each turn of the event loop.
@@ -96,7 +96,7 @@ int runHeadless(const AuditionOptions& options, OutputFiles files, TerminationSi
   audition.window().show();
   QTimer refresh;
   QObject::connect(&refresh, &QTimer::timeout, [&] { audition.refresh(); });
-  refresh.start(kRefreshMilliseconds);
+  refresh.start(kLineRefreshMilliseconds);
 
   Pump pump(*audition.session(), audition.recorder());
   audition.session()->player().play();

@@ -2,13 +2,9 @@
 
 #include <QHBoxLayout>
 
+#include "programs/audition/Spacing.h"
+
 namespace host::audition {
-namespace {
-
-constexpr int kGrid = 8;
-
-}  // namespace
-
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
       encoder_(new ElidedLabel(Qt::ElideRight, this)),

@@ -4,13 +4,13 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "programs/audition/Spacing.h"
 #include "programs/audition/TimeText.h"
 #include "ui/ReadableColor.h"
 
 namespace host::audition {
 namespace {
 
-constexpr int kGrid = 8;
 constexpr int kDeviceWidth = 176;
 constexpr int kLoopWidth = 128;
 

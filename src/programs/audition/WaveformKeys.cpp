@@ -8,7 +8,6 @@ namespace host::audition {
 namespace {
 
 constexpr std::int64_t kStepsOfAPage = 20;
-constexpr double kZoomStep = 0.5;
 
 }  // namespace
 
@@ -100,10 +99,10 @@ bool WaveformView::loopByKey(const QKeyEvent& event) {
       cancelGesture();
       return true;
     case Qt::Key_Plus:
-      zoom(kZoomStep);
+      zoom(WaveformView::kZoomStep);
       return true;
     case Qt::Key_Minus:
-      zoom(1 / kZoomStep);
+      zoom(1 / WaveformView::kZoomStep);
       return true;
     default:
       return false;

@@ -42,6 +42,8 @@ class WaveformView : public QWidget {
   std::int64_t step() const;
   /// Zooms around the playhead, or around the middle if the playhead is not visible.
   void zoom(double factor);
+  /// The factor of one step in, by key or menu.
+  static constexpr double kZoomStep = 0.5;
 
   QSize sizeHint() const override;
 

@@ -10,7 +10,6 @@ namespace host::audition {
 namespace {
 
 constexpr int kStep = 5000;
-constexpr double kZoomStep = 0.5;
 
 QKeySequence withCtrl(Qt::Key key) {
   return QKeySequence(Qt::CTRL | key);
@@ -64,12 +63,12 @@ void MainWindow::addLoop(QMenu& menu) {
 }
 
 void MainWindow::addZoom(QMenu& menu) {
-  auto* const in =
-      menu.addAction(tr("Zoom &In"), this, [this] { transport_->waveform().zoom(kZoomStep); });
+  auto* const in = menu.addAction(tr("Zoom &In"), this,
+                                  [this] { transport_->waveform().zoom(WaveformView::kZoomStep); });
   // = as well, for layouts where + needs Shift.
   in->setShortcuts({withCtrl(Qt::Key_Plus), withCtrl(Qt::Key_Equal)});
   transportActions_ << in << menu.addAction(tr("Zoom &Out"), withCtrl(Qt::Key_Minus), this, [this] {
-    transport_->waveform().zoom(1 / kZoomStep);
+    transport_->waveform().zoom(1 / WaveformView::kZoomStep);
   });
 }
 

@@ -14,7 +14,7 @@
 namespace host::audition {
 namespace {
 
-constexpr int kRefreshMilliseconds = 40;
+constexpr int kWindowRefreshMilliseconds = 40;
 
 /// The devices to try: none for silent playing, the one named, or all.
 std::vector<Device> wantedDevices(const std::optional<std::string>& name,
@@ -75,7 +75,7 @@ int runWithWindow(const AuditionOptions& options, OutputFiles files, Termination
                        audition.session()->player().isFinished();
     if (atEnd) window.close();
   });
-  refresh.start(kRefreshMilliseconds);
+  refresh.start(kWindowRefreshMilliseconds);
   window.show();
   if (questionable) audition.openAndPlay(QString::fromStdString(*questionable));
   // A restored file waits for the user.

@@ -74,13 +74,14 @@ double fading(std::size_t frame, std::size_t frames) {
   return left < fade ? static_cast<double>(left) / static_cast<double>(fade) : 1;
 }
 
-using Side = std::vector<double> Stereo::*;
+using Channel = std::vector<double> Stereo::*;
 
-double mixed(const Parts& parts, Side side, std::size_t i) {
+double mixed(const Parts& parts, Channel channel, std::size_t i) {
   const double duck = ducking(static_cast<double>(i) / kSampleRate);
-  return kKickLevel * (parts.kick.*side)[i] + duck * kBassLevel * (parts.bass.*side)[i] +
-         duck * kChordLevel * (parts.chords.*side)[i] + kArpeggioLevel * (parts.arpeggio.*side)[i] +
-         kClapLevel * (parts.claps.*side)[i] + kHatLevel * (parts.hats.*side)[i];
+  return kKickLevel * (parts.kick.*channel)[i] + duck * kBassLevel * (parts.bass.*channel)[i] +
+         duck * kChordLevel * (parts.chords.*channel)[i] +
+         kArpeggioLevel * (parts.arpeggio.*channel)[i] + kClapLevel * (parts.claps.*channel)[i] +
+         kHatLevel * (parts.hats.*channel)[i];
 }
 
 void scaleToFullScale(Stereo& mix) {
