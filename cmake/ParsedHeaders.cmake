@@ -12,14 +12,18 @@ set(VELK_STANDARD_HEADERS
   <algorithm> <array> <atomic> <chrono> <cmath> <cstdint> <filesystem> <functional> <memory> <mutex> <optional>
   <string> <string_view> <thread> <utility> <vector>)
 
-# velk_parse_once(<target> [<header...>])
+# velk_parse_once(<target> [<header...>|<other target>])
 # Parses the standard library once for all targets that name no headers and are compiled with the usual options;
-# once more for a target that names what else most of its sources include.
+# once more for a target that names what else most of its sources include. Naming such a target shares its headers.
 function(velk_parse_once target)
   if(NOT VELK_PARSES_HEADERS_ONCE)
     return()
   endif()
   target_compile_options(${target} PRIVATE ${VELK_PARSED_HEADERS_OPTIONS})
+  if(TARGET "${ARGN}")
+    target_precompile_headers(${target} REUSE_FROM ${ARGN})
+    return()
+  endif()
   if(ARGN)
     set(headers ${VELK_STANDARD_HEADERS} ${ARGN})
     # Objective-C by itself has none of these.

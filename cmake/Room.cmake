@@ -51,8 +51,8 @@ function(velk_room_headers target visibility)
 endfunction()
 
 # velk_room(<target> <STATIC|SHARED|OBJECT|MODULE> FOLDERS <folder...> [PUBLIC <folder/header...>] SOURCES <file...>
-#           [PARSED <header...>])
-# PARSED names what most of the sources include beside the standard library.
+#           [PARSED <header...>|<target>])
+# PARSED names what most of the sources include beside the standard library, or who includes the same.
 function(velk_room target kind)
   cmake_parse_arguments(ROOM "" "" "FOLDERS;PUBLIC;SOURCES;PARSED" ${ARGN})
   add_library(${target} ${kind} ${ROOM_SOURCES})
@@ -73,7 +73,9 @@ function(velk_write_rooms file)
   foreach(target IN LISTS rooms)
     get_target_property(kind ${target} TYPE)
     if(kind STREQUAL "OBJECT_LIBRARY")
-      list(APPEND lines "file ${target} $<JOIN:$<TARGET_OBJECTS:${target}>,\nfile ${target} >")
+      # Headers that are parsed once are among the objects.
+      set(objects $<FILTER:$<TARGET_OBJECTS:${target}>,EXCLUDE,gch$>)
+      list(APPEND lines "file ${target} $<JOIN:${objects},\nfile ${target} >")
     elseif(NOT kind STREQUAL "INTERFACE_LIBRARY")
       list(APPEND lines "file ${target} $<TARGET_FILE:${target}>")
     endif()

@@ -8,9 +8,9 @@
 #include "contract/ConverterInterface.h"
 #include "converter/unit/ConverterUnit.h"
 #include "host/messages/Failure.h"
-#include "programs/audition/Languages.h"
 #include "programs/audition/ProgramTerminal.h"
-#include "programs/audition/StatusText.h"
+#include "programs/audition/window/Languages.h"
+#include "programs/audition/window/StatusText.h"
 
 namespace host::audition {
 namespace {

@@ -9,12 +9,12 @@
 #include "host/playback/Session.h"
 #include "host/unit/ViewBundle.h"
 #include "programs/audition/CommandLine.h"
-#include "programs/audition/DeviceMenu.h"
-#include "programs/audition/FileOpening.h"
-#include "programs/audition/LoopControl.h"
-#include "programs/audition/MainWindow.h"
-#include "programs/audition/OverviewControl.h"
 #include "programs/audition/SavedSession.h"
+#include "programs/audition/window/DeviceMenu.h"
+#include "programs/audition/window/FileOpening.h"
+#include "programs/audition/window/LoopControl.h"
+#include "programs/audition/window/MainWindow.h"
+#include "programs/audition/window/OverviewControl.h"
 
 namespace host::audition {
 

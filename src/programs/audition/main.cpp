@@ -6,10 +6,10 @@
 #include "host/messages/Failure.h"
 #include "programs/audition/Application.h"
 #include "programs/audition/CommandLine.h"
-#include "programs/audition/Languages.h"
 #include "programs/audition/ProgramTerminal.h"
 #include "programs/audition/Run.h"
 #include "programs/audition/ToolkitMessages.h"
+#include "programs/audition/window/Languages.h"
 
 namespace {
 

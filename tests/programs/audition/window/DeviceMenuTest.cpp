@@ -6,7 +6,7 @@
 #include <atomic>
 #include <mutex>
 
-#include "programs/audition/DeviceMenu.h"
+#include "programs/audition/window/DeviceMenu.h"
 
 using host::Device;
 using host::audition::DeviceMenu;

@@ -20,9 +20,9 @@
 
 #include "host/files/OpenedFile.h"
 #include "host/messages/Failure.h"
-#include "programs/audition/ChannelDialog.h"
-#include "programs/audition/Languages.h"
-#include "programs/audition/MainWindow.h"
+#include "programs/audition/window/ChannelDialog.h"
+#include "programs/audition/window/Languages.h"
+#include "programs/audition/window/MainWindow.h"
 
 namespace {
 

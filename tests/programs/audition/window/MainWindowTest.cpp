@@ -17,7 +17,7 @@
 #include "PlainView.h"
 #include "host/messages/Failure.h"
 #include "host/messages/Version.h"
-#include "programs/audition/MainWindow.h"
+#include "programs/audition/window/MainWindow.h"
 
 using host::audition::MainWindow;
 

@@ -14,8 +14,8 @@
 #include "contract/ConverterInterface.h"
 #include "converter/unit/ConverterUnit.h"
 #include "programs/audition/Audition.h"
-#include "programs/audition/ChannelDialog.h"
-#include "programs/audition/WaveformPicture.h"
+#include "programs/audition/waveform/WaveformPicture.h"
+#include "programs/audition/window/ChannelDialog.h"
 #include "ui/TemporaryFolder.h"
 
 using host::LoopRange;

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "programs/audition/RecentFiles.h"
 #include "programs/audition/SavedSession.h"
+#include "programs/audition/window/RecentFiles.h"
 #include "ui/TemporaryFolder.h"
 
 using host::audition::RecentFiles;

@@ -5,7 +5,7 @@
 
 #include "converter/unit/ConverterUnit.h"
 #include "host/unit/EncoderSetting.h"
-#include "programs/audition/StatusText.h"
+#include "programs/audition/window/StatusText.h"
 
 using testing::HasSubstr;
 using testing::Not;

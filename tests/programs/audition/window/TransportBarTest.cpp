@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "programs/audition/TransportBar.h"
+#include "programs/audition/window/TransportBar.h"
 
 using host::audition::TransportBar;
 
