@@ -49,7 +49,7 @@ FORBIDDEN = {
     "host/playback": (*HOST_WALLS, "host/analysis/Analysis.h", "audio_unit/Mailbox.h", "nlohmann/json.hpp"),
     "host/analysis": (*HOST_WALLS, "host/playback/Session.h", "audio_unit/Mailbox.h", "sndfile.h"),
     "programs/audition/waveform": (*PROGRAM_WALLS, "programs/audition/window/MainWindow.h",
-                                   "programs/audition/Audition.h", "host/unit/ViewBundle.h", "sndfile.h"),
+                                   "programs/audition/Audition.h", "sndfile.h"),
     "programs/audition/window": (*PROGRAM_WALLS, "programs/audition/Audition.h", "CLI/CLI.hpp", "sndfile.h"),
     "programs/audition": (*PROGRAM_WALLS, "programs/measure/Options.h", "programs/demo_mix/Score.h", "sndfile.h"),
     "programs/measure": (*PROGRAM_WALLS, "programs/audition/window/MainWindow.h", "programs/demo_mix/Score.h", "QString"),

@@ -9,6 +9,7 @@
 #include <system_error>
 #include <utility>
 
+#include "host/files/OggEnd.h"
 #include "host/messages/Failure.h"
 
 namespace host {
@@ -84,10 +85,11 @@ SoundFile::SoundFile(const std::filesystem::path& path, ChannelChoice choice)
   std::array<char, 16384> log{};
   sf_command(handle(file_.get()), SFC_GET_LOG_INFO, log.data(), static_cast<int>(log.size()));
   if (promisesMoreThanItHolds(log.data())) *truncated_ = true;
+  // Not every version of the library tells.
+  if (isOgg_ && !endsWithLastOggPage(path)) *truncated_ = true;
   if (frames_ == SF_COUNT_MAX) {
-    // An Ogg file's last page is marked as the last, and here it is missing. A FLAC stream written
-    // to a pipe merely never learnt its length.
-    if (isOgg_) *truncated_ = true;
+    // An Ogg file whose end is missing, or a FLAC stream written to a pipe, which never learnt its
+    // length.
     const auto held = countFrames();
     open();
     frames_ = held;
