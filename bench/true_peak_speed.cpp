@@ -71,7 +71,8 @@ double measureMeteringLoad(const std::vector<float>& samples, std::size_t block,
       converter::SignalMeters meters(2);
       inBlocks(samples, block, [&](const float* plane, std::size_t frames) {
         const std::array<const float*, 2> planes{plane, plane};
-        meters.process(planes.data(), planes.data(), frames);
+        const std::array whole{converter::Stretch{frames, converter::Soundness::sound}};
+        meters.process(planes.data(), planes.data(), frames, whole);
       });
     }));
   }

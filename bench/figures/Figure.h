@@ -32,6 +32,8 @@ Family meteringLoad();
 Family callTime();
 Family audioThreadCalls();
 Family difference();
+Family gaps();
+Family rates();
 Family steps();
 Family unitMemory();
 Family manyUnits();

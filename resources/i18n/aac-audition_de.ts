@@ -304,6 +304,10 @@ MIT-Lizenz. Codiert mit FDK AAC und decodiert mit libavcodec von FFmpeg, die eig
         <translation>Die Datei lässt sich nicht schnell genug lesen</translation>
     </message>
     <message>
+        <source>%1 samples were missing during the test: do not trust its result</source>
+        <translation>Während des Tests fehlten %1 Samples: Das Ergebnis ist nicht verlässlich</translation>
+    </message>
+    <message>
         <source>The encoder cannot keep up</source>
         <translation>Der Encoder kommt nicht mit</translation>
     </message>

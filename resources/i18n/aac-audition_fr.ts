@@ -304,6 +304,10 @@ Licence MIT. Encode avec FDK AAC et décode avec libavcodec de FFmpeg, qui ont l
         <translation>Le fichier ne peut être lu assez vite</translation>
     </message>
     <message>
+        <source>%1 samples were missing during the test: do not trust its result</source>
+        <translation>%1 échantillons ont manqué pendant le test : ne pas se fier au résultat</translation>
+    </message>
+    <message>
         <source>The encoder cannot keep up</source>
         <translation>L’encodeur ne suit pas</translation>
     </message>

@@ -14,7 +14,7 @@ inline constexpr UInt32 kHighestQuality = 127;
 struct EffectiveSetting {
   UInt32 format;
   UInt32 strategy;
-  /// ABR: the encoder's target. VBRC: the peak rate. VBR: 0. bit/s.
+  /// ABR and VBRC: what the stream averages. VBR: 0. bit/s.
   UInt32 bitRate;
   /// VBR: the encoder's mode, 1 to 5. Otherwise 0.
   UInt32 vbrMode;

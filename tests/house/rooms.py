@@ -28,7 +28,7 @@ MAY_INCLUDE = {
     "converter/transcoder": ("converter/codec/*", "audio_unit", "soxr"),
     "converter/meters": ("contract",),
     "converter/stream": ("converter/transcoder/*", "converter/codec/*", "converter/meters/*", "realtime", "system"),
-    "converter/unit": (*(f"{room}/*" for room in CONVERTER), "contract", "audio_unit"),
+    "converter/unit": (*(f"{room}/*" for room in CONVERTER), "realtime", "contract", "audio_unit"),
     "host/messages": ("system",),
     "host/files": ("host/messages", "ui", "sndfile", "soxr", "system"),
     "host/unit": ("host/files", "host/messages", *UNIT, "ui", "contract", "audio_unit", "json", "system"),

@@ -78,16 +78,16 @@ void configure(AACENCODER* encoder, const Setting& setting, const UnitFormat& un
   set(encoder, AACENC_TRANSMUX, TT_MP4_RAW);
   set(encoder, AACENC_AFTERBURNER, 1);
   switch (setting.strategy) {
+    // The constant mode, whose access units vary as far as the decoder's buffer allows, is the only
+    // one whose average holds. A peak rate on top of a VBR mode holds a cap, and averages half of
+    // it on music.
     case Strategy::abr:
+    case Strategy::constrainedVbr:
       set(encoder, AACENC_BITRATE, setting.bitRate);
       if (setting.format == Format::lc) {
         set(encoder, AACENC_BANDWIDTH,
             lcBandwidth(setting.bitRate / unit.channels, unit.sampleRate));
       }
-      break;
-    case Strategy::constrainedVbr:
-      set(encoder, AACENC_BITRATEMODE, 5);
-      set(encoder, AACENC_PEAK_BITRATE, setting.bitRate);
       break;
     case Strategy::vbr:
       set(encoder, AACENC_BITRATEMODE, setting.vbrMode);
@@ -165,7 +165,7 @@ std::unique_ptr<Encoder> openEncoder(const Setting& setting, const UnitFormat& u
 }
 
 EncoderAbilities encoderAbilities() {
-  return {.highEfficiency = true, .constrainedVbr = true};
+  return {.highEfficiency = true};
 }
 
 CodecLibrary encoderLibrary() {

@@ -52,15 +52,6 @@ std::uint32_t lowestRate(Format format, const UnitFormat& unit) {
   return unit.sampleRate < 96000 ? 32000 : 36000;
 }
 
-/// The peak rates between which FDK AAC 2.0.2 initialises and obeys the constraint. With band
-/// replication on a single core channel, 256 kbit/s gets poorer tuning or is not obeyed.
-std::uint32_t lowestPeak(Format format, const UnitFormat& unit) {
-  return coreOf(format, unit).channels == 1 ? 32000 : 40000;
-}
-std::uint32_t highestPeak(Format format, const UnitFormat& unit) {
-  return format != Format::lc && coreOf(format, unit).channels == 1 ? 224000 : 320000;
-}
-
 /// Maps the range of qualities evenly to the five modes.
 std::uint8_t vbrModeOf(float quality) {
   return static_cast<std::uint8_t>(1 +
@@ -87,13 +78,8 @@ Setting nearestSetting(const velk::EncoderSetting& asked, const UnitFormat& unit
   }
   const std::uint32_t rate =
       1000 * velk::bitRates[codeOf(asked.rateOrQuality, velk::bitRates.size() - 1)];
-  if (setting.strategy == Strategy::constrainedVbr && !abilities.constrainedVbr) {
-    setting.strategy = Strategy::abr;
-  }
   setting.bitRate =
-      setting.strategy == Strategy::abr
-          ? std::clamp(rate, lowestRate(setting.format, unit), highestRate(setting.format, unit))
-          : std::clamp(rate, lowestPeak(setting.format, unit), highestPeak(setting.format, unit));
+      std::clamp(rate, lowestRate(setting.format, unit), highestRate(setting.format, unit));
   return setting;
 }
 

@@ -15,7 +15,7 @@ using velk::Strategy;
 /// A setting that the encoder can carry out, made from a `velk::EncoderSetting`, which is only what
 /// the parameters ask for. Aligned so that threads can exchange it as one word.
 struct alignas(8) Setting {
-  /// bit/s. `abr`: the target. `constrainedVbr`: the peak rate. `vbr`: 0.
+  /// bit/s. `abr` and `constrainedVbr`: what the stream averages. `vbr`: 0.
   std::uint32_t bitRate = 0;
   Format format = Format::lc;
   Strategy strategy = Strategy::abr;
@@ -28,10 +28,9 @@ struct alignas(8) Setting {
 };
 static_assert(sizeof(Setting) == 8 && std::atomic<Setting>::is_always_lock_free);
 
-/// What an encoder offers beyond LC with ABR and VBR.
+/// What an encoder offers beyond LC.
 struct EncoderAbilities {
   bool highEfficiency = false;
-  bool constrainedVbr = false;
 };
 
 /// Highest format available: `heV2` in stereo, `he` in mono, `lc` without high efficiency.

@@ -3,16 +3,36 @@
 #include <algorithm>
 
 namespace converter {
+namespace {
+
+void meterStretches(TruePeakMeter& meter, const float* samples, Stretches stretches) noexcept {
+  for (const auto& stretch : stretches) {
+    switch (stretch.soundness) {
+      case Soundness::sound:
+        meter.process(samples, stretch.frames);
+        break;
+      case Soundness::unsound:
+        meter.pass(samples, stretch.frames);
+        break;
+      case Soundness::missing:
+        meter.leaveOut();
+        break;
+    }
+    samples += stretch.frames;
+  }
+}
+
+}  // namespace
 
 SignalMeters::SignalMeters(std::size_t channels) noexcept
     : channels_(std::min(channels, kChannels)) {}
 
 void SignalMeters::process(const float* const* source, const float* const* encoded,
-                           std::size_t frames) noexcept {
+                           std::size_t frames, Stretches ofEncoded) noexcept {
   takeReset();
   for (std::size_t channel = 0; channel < channels_; ++channel) {
     source_[channel].process(source[channel], frames);
-    encoded_[channel].process(encoded[channel], frames);
+    meterStretches(encoded_[channel], encoded[channel], ofEncoded);
   }
   publish();
 }

@@ -5,6 +5,7 @@
 
 #include "contract/ConverterInterface.h"
 #include "converter/meters/PeakStatisticsExchange.h"
+#include "converter/meters/Soundness.h"
 #include "converter/meters/TruePeakMeter.h"
 
 namespace converter {
@@ -18,9 +19,10 @@ class SignalMeters {
   explicit SignalMeters(std::size_t channels) noexcept;
 
   /// Carries out a pending reset, then meters one block of both signals and publishes the readings.
+  /// Of the encoded signal, whose stretches are as long as the block, only what is sound counts.
   /// Audio thread; never allocates, locks or waits.
-  void process(const float* const* source, const float* const* encoded,
-               std::size_t frames) noexcept;
+  void process(const float* const* source, const float* const* encoded, std::size_t frames,
+               Stretches ofEncoded) noexcept;
 
   /// Takes one block of both signals without metering it; see `TruePeakMeter::pass`. Carries out a
   /// pending reset, too. Audio thread; never allocates, locks or waits.

@@ -89,6 +89,11 @@ void TruePeakMeter::finish() noexcept {
   abandon();
 }
 
+void TruePeakMeter::leaveOut() noexcept {
+  signal_.fill(0);
+  intervalsToSkip_ = kHistory;
+}
+
 void TruePeakMeter::abandon() noexcept {
   signal_.fill(0);
   intervalsToSkip_ = kDelay;

@@ -56,6 +56,10 @@ class TruePeakMeter {
   /// Takes samples without metering them; they only serve the interpolation of the next ones.
   void pass(const float* samples, std::size_t frames) noexcept;
 
+  /// Leaves out a stretch that is missing: no interval is metered whose interpolation would reach
+  /// into it from either side. Keeps the readings.
+  void leaveOut() noexcept;
+
   /// Ends the signal as if silence followed: meters its last intervals. The next sample starts a
   /// new signal. Keeps the readings.
   void finish() noexcept;

@@ -4,39 +4,59 @@
 
 namespace converter {
 
-UInt32 EncodedReader::read(Position position, UInt32 frames, float* const* output, UInt32 channels,
-                           bool wait) {
-  UInt32 missing = 0;
+EncodedReader::EncodedReader(Worker& worker, UInt32 maximumFrames) : worker_(worker) {
+  // At most one for each grain that the read touches, and two more where a block starts or ends.
+  const std::size_t blocks = maximumFrames / kBlockFrames + 2;
+  stretches_.reserve(maximumFrames / AudioBlock::kGrain + 2 + 2 * blocks);
+}
+
+Stretches EncodedReader::read(Position position, UInt32 frames, float* const* output,
+                              UInt32 channels, Patience patience) {
+  stretches_.clear();
   for (UInt32 done = 0; done < frames;) {
     const Position at = position + done;
-    UInt32 step = frames - done;
-    const AudioBlock* block = at < 0 ? nullptr : blockAt(at, wait);
-    const bool here = block != nullptr && block->validFrom <= at;
-    if (here) {
-      step = static_cast<UInt32>(std::min<Position>(step, block->end() - at));
-    } else if (at < 0) {
-      step = static_cast<UInt32>(std::min<Position>(step, -at));
-    } else {
-      if (block != nullptr) {
-        step = static_cast<UInt32>(std::min<Position>(step, block->validFrom - at));
+    Position step = frames - done;
+    const AudioBlock* block = at < 0 ? nullptr : blockAt(at, patience);
+    const bool isHere = block != nullptr && block->validFrom <= at;
+    if (isHere) {
+      const Position offset = at - block->position;
+      const bool isSound = block->isSound(offset);
+      Position end = offset;
+      while (end < kBlockFrames && block->isSound(end) == isSound) {
+        end += AudioBlock::kGrain - end % AudioBlock::kGrain;
       }
-      missing += step;
+      step = std::min(step, end - offset);
+      note(static_cast<std::size_t>(step), isSound ? Soundness::sound : Soundness::unsound);
+    } else if (at < 0) {
+      step = std::min(step, -at);
+      note(static_cast<std::size_t>(step), Soundness::sound);
+    } else {
+      if (block != nullptr) step = std::min(step, block->validFrom - at);
+      note(static_cast<std::size_t>(step), Soundness::missing);
     }
     for (UInt32 channel = 0; channel < channels; ++channel) {
       float* to = output[channel] + done;
-      if (here) {
+      if (isHere) {
         std::copy_n(block->planes[channel].begin() + (at - block->position), step, to);
       } else {
         std::fill_n(to, step, 0.0F);
       }
     }
-    done += step;
+    done += static_cast<UInt32>(step);
   }
-  return missing;
+  return stretches_;
+}
+
+void EncodedReader::note(std::size_t frames, Soundness soundness) {
+  if (!stretches_.empty() && stretches_.back().soundness == soundness) {
+    stretches_.back().frames += frames;
+  } else {
+    stretches_.push_back({frames, soundness});
+  }
 }
 
 /// The first block that ends after `position`, or null.
-const AudioBlock* EncodedReader::blockAt(Position position, bool wait) {
+const AudioBlock* EncodedReader::blockAt(Position position, Patience patience) {
   auto& queue = worker_.encoded();
   const auto find = [&] {
     const AudioBlock* block = queue.front();
@@ -46,14 +66,14 @@ const AudioBlock* EncodedReader::blockAt(Position position, bool wait) {
     }
     return block;
   };
-  if (!wait) return find();
   const AudioBlock* block = nullptr;
-  worker_.waitUntil([&] {
+  const auto isDone = [&] {
     // In this order: the worker pushes its result before it removes the source block.
     const bool idle = worker_.source().empty();
     block = find();
     return block != nullptr || idle;
-  });
+  };
+  worker_.waitUntil(isDone, patience);
   return block;
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "converter/meters/Soundness.h"
 #include "converter/stream/Worker.h"
 
 namespace converter {
@@ -8,17 +11,21 @@ namespace converter {
 /// by silence and dropped on arrival. Audio thread.
 class EncodedReader {
  public:
-  explicit EncodedReader(Worker& worker) : worker_(worker) {}
+  /// Allocates for reads of at most `maximumFrames`; reading does not.
+  EncodedReader(Worker& worker, UInt32 maximumFrames);
 
-  /// Writes the signal at [position, position + frames); positions never go back. Returns how many
-  /// frames were missing, not counting the silence before position 0. With `wait` it first waits
-  /// for all that the worker can make of the source it has.
-  UInt32 read(Position position, UInt32 frames, float* const* output, UInt32 channels, bool wait);
+  /// Writes the signal at [position, position + frames); positions never go back. With patience it
+  /// first waits for what the worker can make of the source it has. Returns what was written, until
+  /// the next call; the silence before position 0 counts as sound.
+  Stretches read(Position position, UInt32 frames, float* const* output, UInt32 channels,
+                 Patience patience);
 
  private:
-  const AudioBlock* blockAt(Position position, bool wait);
+  const AudioBlock* blockAt(Position position, Patience patience);
+  void note(std::size_t frames, Soundness soundness);
 
   Worker& worker_;
+  std::vector<Stretch> stretches_;
 };
 
 }  // namespace converter

@@ -13,6 +13,8 @@ struct RenderControls {
   std::atomic<bool> monitorSource{false};
   std::atomic<bool> offline{false};
   std::atomic<bool> metering{true};
+  /// Whether no hole may tell which signal is heard.
+  std::atomic<bool> listeningTest{false};
   std::atomic<UInt64> missedFrames{0};
 };
 

@@ -1,6 +1,7 @@
 #include "converter/stream/Renderer.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "converter/transcoder/CodecPair.h"
 #include "converter/transcoder/Latency.h"
@@ -20,16 +21,19 @@ std::array<float*, kMaximumChannels> pointers(
 
 }  // namespace
 
-Renderer::Renderer(const UnitFormat& unit, RenderControls& controls, const OpenEncoder& open)
+Renderer::Renderer(const UnitFormat& unit, RenderControls& controls, const OpenEncoder& open,
+                   realtime::ReadClock readClock)
     : unit_(unit),
       controls_(controls),
       latency_(latencyFor(unit)),
       worker_(unit, queueBlocks(unit), open),
       feeder_(worker_, unit),
-      reader_(worker_),
+      reader_(worker_, unit.maximumFrames),
       delay_(unit.channels, latency_, unit.maximumFrames),
       meters_(unit.channels),
-      monitor_(unit.sampleRate) {
+      monitor_(unit.sampleRate),
+      mute_(unit.sampleRate),
+      lead_(unit.sampleRate, std::move(readClock)) {
   for (auto& plane : source_) plane.resize(unit.maximumFrames);
   for (auto& plane : encoded_) plane.resize(unit.maximumFrames);
   // Fails at once if the codec does not work, and takes the libraries' slow first use off the
@@ -41,6 +45,7 @@ Renderer::Renderer(const UnitFormat& unit, RenderControls& controls, const OpenE
 }
 
 void Renderer::render(const float* const* input, float* const* output, UInt32 frames) noexcept {
+  const Patience patience = patienceOf(frames);
   for (UInt32 done = 0; done < frames;) {
     const UInt32 slice = std::min(frames - done, unit_.maximumFrames);
     std::array<const float*, kMaximumChannels> in{};
@@ -49,29 +54,47 @@ void Renderer::render(const float* const* input, float* const* output, UInt32 fr
       in[channel] = input[channel] + done;
       out[channel] = output[channel] + done;
     }
-    renderSlice(in.data(), out.data(), slice);
+    renderSlice(in.data(), out.data(), slice, patience);
     done += slice;
   }
 }
 
-void Renderer::renderSlice(const float* const* input, float* const* output, UInt32 frames) {
-  const bool wait = controls_.offline.load(std::memory_order_relaxed);
+/// Once for all slices of a call, whose waits would add up.
+Patience Renderer::patienceOf(UInt32 frames) noexcept {
+  if (!controls_.offline.load(std::memory_order_relaxed)) return Patience::of(lead_.take(frames));
+  // What was rendered off line lies in no device's buffer.
+  lead_.clear();
+  return Patience::endless();
+}
+
+void Renderer::renderSlice(const float* const* input, float* const* output, UInt32 frames,
+                           Patience patience) {
   const bool monitorSource = controls_.monitorSource.load(std::memory_order_relaxed);
   const Position position = feeder_.position() - latency_;
   const auto source = pointers(source_);
   const auto encoded = pointers(encoded_);
 
   feeder_.request(controls_.setting.load(std::memory_order_relaxed));
-  feeder_.feed(input, unit_.channels, frames, wait);
+  feeder_.feed(input, unit_.channels, frames, patience);
   delay_.process(input, source.data(), frames);
-  const UInt32 missed = reader_.read(position, frames, encoded.data(), unit_.channels, wait);
-  if (missed > 0) controls_.missedFrames.fetch_add(missed, std::memory_order_relaxed);
+  const Stretches ofEncoded =
+      reader_.read(position, frames, encoded.data(), unit_.channels, patience);
+  countMissed(ofEncoded);
   if (controls_.metering.load(std::memory_order_relaxed)) {
-    meters_.process(source.data(), encoded.data(), frames);
+    meters_.process(source.data(), encoded.data(), frames, ofEncoded);
   } else {
     meters_.pass(source.data(), encoded.data(), frames);
   }
   monitor_.process(source.data(), encoded.data(), output, unit_.channels, frames, monitorSource);
+  mute_.process(output, unit_.channels, ofEncoded,
+                controls_.listeningTest.load(std::memory_order_relaxed));
+}
+
+void Renderer::countMissed(Stretches ofEncoded) {
+  for (const auto& stretch : ofEncoded) {
+    if (stretch.soundness != Soundness::missing) continue;
+    controls_.missedFrames.fetch_add(stretch.frames, std::memory_order_relaxed);
+  }
 }
 
 void Renderer::reset() {
@@ -79,11 +102,12 @@ void Renderer::reset() {
   feeder_.clear();
   delay_.clear();
   meters_.abandon();
+  lead_.clear();
   worker_.start();
 }
 
 void Renderer::waitForCodec() {
-  worker_.waitUntil([this] { return worker_.source().empty(); });
+  worker_.waitUntil([this] { return worker_.source().empty(); }, Patience::endless());
 }
 
 void Renderer::setBitStreamSink(BitStreamSink* sink) {

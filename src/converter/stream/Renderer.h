@@ -6,6 +6,8 @@
 #include "converter/meters/SignalMeters.h"
 #include "converter/stream/DelayLine.h"
 #include "converter/stream/EncodedReader.h"
+#include "converter/stream/GapMute.h"
+#include "converter/stream/Lead.h"
 #include "converter/stream/MonitorSwitch.h"
 #include "converter/stream/RenderControls.h"
 #include "converter/stream/SourceFeeder.h"
@@ -18,7 +20,8 @@ namespace converter {
 class Renderer {
  public:
   /// Throws `std::runtime_error` when a codec cannot be opened.
-  Renderer(const UnitFormat& unit, RenderControls& controls, const OpenEncoder& open);
+  Renderer(const UnitFormat& unit, RenderControls& controls, const OpenEncoder& open,
+           realtime::ReadClock readClock);
 
   /// See the operations of the same names in `ConverterUnit`.
   void render(const float* const* input, float* const* output, UInt32 frames) noexcept;
@@ -37,7 +40,10 @@ class Renderer {
  private:
   using Planes = std::array<std::vector<float>, kMaximumChannels>;
 
-  void renderSlice(const float* const* input, float* const* output, UInt32 frames);
+  Patience patienceOf(UInt32 frames) noexcept;
+  void renderSlice(const float* const* input, float* const* output, UInt32 frames,
+                   Patience patience);
+  void countMissed(Stretches ofEncoded);
 
   UnitFormat unit_;
   RenderControls& controls_;
@@ -48,6 +54,8 @@ class Renderer {
   DelayLine delay_;
   SignalMeters meters_;
   MonitorSwitch monitor_;
+  GapMute mute_;
+  Lead lead_;
   Planes source_;
   Planes encoded_;
 };

@@ -15,10 +15,11 @@ void SourceFeeder::request(const Setting& setting) {
   change_ = SettingChange{position_, setting};
 }
 
-void SourceFeeder::feed(const float* const* input, UInt32 channels, UInt32 frames, bool wait) {
+void SourceFeeder::feed(const float* const* input, UInt32 channels, UInt32 frames,
+                        Patience patience) {
   for (UInt32 done = 0; done < frames;) {
     const auto offset = static_cast<UInt32>(position_ % kBlockFrames);
-    if (offset == 0) startBlock(wait);
+    if (offset == 0) startBlock(patience);
     const UInt32 step = std::min(frames - done, kBlockFrames - offset);
     if (block_ != nullptr) {
       for (UInt32 channel = 0; channel < channels; ++channel) {
@@ -46,17 +47,17 @@ void SourceFeeder::clear() {
   dropping_ = false;
 }
 
-void SourceFeeder::startBlock(bool wait) {
+void SourceFeeder::startBlock(Patience patience) {
   auto& queue = worker_.source();
-  if (wait) {
-    worker_.waitUntil([&] { return queue.claim() != nullptr; });
-  } else if (dropping_ && !queue.empty()) {
-    // Each gap costs the worker a restart of its codec, so let an overloaded one catch up first.
+  // Each gap costs the worker a restart of its codec, so let an overloaded one catch up first.
+  const auto hasRoom = [&] { return dropping_ ? queue.empty() : queue.claim() != nullptr; };
+  worker_.waitUntil(hasRoom, patience);
+  if (!hasRoom()) {
+    dropping_ = true;
     return;
   }
+  dropping_ = false;
   block_ = queue.claim();
-  dropping_ = block_ == nullptr;
-  if (dropping_) return;
   block_->audio.position = position_;
   block_->audio.validFrom = position_;
   block_->setting = setting_;

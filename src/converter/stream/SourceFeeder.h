@@ -16,9 +16,9 @@ class SourceFeeder {
   /// change it does nothing, so callers repeat the request with every block.
   void request(const Setting& setting);
 
-  /// Passes on the next samples. Those that the queue has no room for are dropped; with `wait` it
-  /// waits for room instead.
-  void feed(const float* const* input, UInt32 channels, UInt32 frames, bool wait);
+  /// Passes on the next samples. Those that the queue has no room for are dropped; with patience
+  /// it waits for room first.
+  void feed(const float* const* input, UInt32 channels, UInt32 frames, Patience patience);
 
   /// Of the next sample.
   Position position() const { return position_; }
@@ -27,7 +27,7 @@ class SourceFeeder {
   void clear();
 
  private:
-  void startBlock(bool wait);
+  void startBlock(Patience patience);
 
   Worker& worker_;
   UInt32 accessUnit_;

@@ -9,8 +9,7 @@
 namespace converter {
 namespace {
 
-/// A waiting thread is woken when no more than this many source blocks are left: a wake-up for each
-/// block costs several percent of the codec's time.
+/// Whoever waits off line is woken when no more than this many source blocks are left.
 constexpr std::size_t kLeftWhenWaking = 1;
 
 }  // namespace
@@ -65,9 +64,22 @@ void Worker::processQueue() {
     if (encoded != nullptr) encoded_.push();
     codec_.publish(transcoder_->report());
     source_.pop();
-    const bool wakes = source_.readable() <= kLeftWhenWaking;
-    if (wakes && waiting_.exchange(false, std::memory_order_acq_rel)) progress_.release();
+    announceProgress();
   }
+}
+
+void Worker::announceProgress() {
+  const auto waiting = waiting_.load(std::memory_order_acquire);
+  if (waiting == Waiting::no) return;
+  if (waiting == Waiting::forMost && source_.readable() > kLeftWhenWaking) return;
+  if (waiting_.exchange(Waiting::no, std::memory_order_acq_rel) != Waiting::no) progress_.release();
+}
+
+/// Returns whether there was any in time.
+bool Worker::awaitProgress(Patience patience) {
+  if (!patience.isEndless()) return progress_.acquireUntil(patience.deadline());
+  progress_.acquire();
+  return true;
 }
 
 }  // namespace converter

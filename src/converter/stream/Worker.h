@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "converter/stream/CodecStatus.h"
+#include "converter/stream/Patience.h"
 #include "converter/transcoder/BlockTranscoder.h"
 #include "realtime/Semaphore.h"
 #include "realtime/SpscRing.h"
@@ -35,16 +36,21 @@ class Worker {
   realtime::SpscRing<AudioBlock>& encoded() { return encoded_; }
   void wake() { work_.release(); }
 
-  /// Waits until `ready()`, which the worker's progress must make true in the end. Without a
-  /// running worker it does not wait. Audio thread, or another while that does not render.
+  /// Waits until `ready()`, which the worker's progress must make true in the end, or until the
+  /// caller's patience ends. Without a running worker it does not wait. Audio thread, or another
+  /// while that does not render.
   template <typename Ready>
-  void waitUntil(Ready ready) {
-    while (!ready() && thread_.joinable()) {
-      waiting_.exchange(true, std::memory_order_acq_rel);
+  void waitUntil(Ready ready, Patience patience) {
+    // A token left over from a wait that timed out costs one more turn.
+    while (!ready() && !patience.isNone() && thread_.joinable()) {
+      waiting_.exchange(patience.isEndless() ? Waiting::forMost : Waiting::forNext,
+                        std::memory_order_acq_rel);
       wake();
       // Either this check sees the progress, or the worker still has to see `waiting_`.
-      if (!ready()) progress_.acquire();
-      waiting_.exchange(false, std::memory_order_acq_rel);
+      bool isInTime = true;
+      if (!ready()) isInTime = awaitProgress(patience);
+      waiting_.exchange(Waiting::no, std::memory_order_acq_rel);
+      if (!isInTime) return;
     }
   }
 
@@ -52,8 +58,14 @@ class Worker {
   const CodecStatus& codec() const { return codec_; }
 
  private:
+  /// What a waiting thread is woken for. To be woken for each block costs several percent of the
+  /// codec's time, which only counts where there is time for it.
+  enum class Waiting : std::uint8_t { no, forNext, forMost };
+
   void run();
   void processQueue();
+  bool awaitProgress(Patience patience);
+  void announceProgress();
   void updatePriority();
 
   realtime::SpscRing<SourceBlock> source_;
@@ -63,7 +75,7 @@ class Worker {
   AudioBlock surplus_;
   realtime::Semaphore work_;
   realtime::Semaphore progress_;
-  std::atomic<bool> waiting_{false};
+  std::atomic<Waiting> waiting_{Waiting::no};
   std::atomic<bool> stopping_{false};
   std::atomic<bool> urgent_{false};
   bool isUrgent_ = false;

@@ -49,6 +49,13 @@ void CodecPair::render(const SourceHistory& history, Position position, UInt32 f
   }
 }
 
+void CodecPair::markFailures(AudioBlock& block) {
+  // The next access unit overlaps with what should have been there.
+  const Position spoilt = 2 * Position{timing_.frameLength};
+  while (!failed_.empty() && failed_.front() + spoilt <= block.position) failed_.pop_front();
+  for (const Position start : failed_) block.markUnsound(start, start + spoilt);
+}
+
 void CodecPair::keepFrom(Position position) {
   const Position kept = std::min(std::max(position, decodedStart_), decodedEnd_);
   for (UInt32 channel = 0; channel < channels_; ++channel) {
@@ -75,7 +82,10 @@ void CodecPair::codeFrame(const SourceHistory& history) {
   if (decodedNext > start_) bitRate_.count(accessUnit.size());
   // Silence in place of a failed frame keeps everything after it aligned.
   const float* const* planes = accessUnit.empty() ? nullptr : decoder_->decode(accessUnit);
-  if (planes == nullptr) ++failures_;
+  if (planes == nullptr) {
+    ++failures_;
+    failed_.push_back(decodedEnd_);
+  }
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     const auto to = decoded_[channel].begin() + (decodedEnd_ - decodedStart_);
     if (planes != nullptr) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <deque>
 #include <memory>
 #include <span>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "converter/codec/BitStreamSink.h"
 #include "converter/codec/Decoder.h"
 #include "converter/codec/Encoder.h"
+#include "converter/transcoder/AudioBlock.h"
 #include "converter/transcoder/SourceHistory.h"
 
 namespace converter {
@@ -38,6 +40,9 @@ class CodecPair {
   /// Access units that could not be encoded or decoded, since the last call.
   UInt64 takeFailures() { return std::exchange(failures_, 0); }
 
+  /// Marks what such access units spoilt of the block, and forgets what lies before it.
+  void markFailures(AudioBlock& block);
+
  private:
   void codeFrame(const SourceHistory& history);
   void keepFrom(Position position);
@@ -51,6 +56,8 @@ class CodecPair {
   Position start_;
   BitStreamSink* sink_;
   UInt64 failures_ = 0;
+  /// Where the output of failed access units starts.
+  std::deque<Position> failed_;
   UInt32 lookaheadLeft_;
   /// The decoded samples at [decodedStart_, decodedEnd_).
   std::array<std::vector<float>, kMaximumChannels> decoded_;

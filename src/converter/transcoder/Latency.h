@@ -12,6 +12,11 @@ inline constexpr UInt32 kLongestCodecDelay = 7106;
 /// 0.1.3 holds back 1780 at the quality in use.
 inline constexpr UInt32 kResamplerDelay = 2048;
 
+/// How long after a start in mid-play a codec's output is not yet what it would have been without:
+/// the transform's two halves of an access unit, and as much for band replication. At the codec's
+/// rate.
+inline constexpr Position kSettlingFrames = 2 * Position{kBlockFrames};
+
 /// How far before a source block the encoded block starts that it completes; at the codec's rate.
 inline constexpr Position kEncodedBehindSource = kLongestCodecDelay;
 

@@ -54,6 +54,7 @@ void ResampledTranscoder::restart(const SourceBlock& source) {
   halvedFrames_ = static_cast<UInt32>(start - halved_.audio.position);
   for (auto& plane : halved_.audio.planes) std::fill_n(plane.begin(), halvedFrames_, 0.0F);
   for (auto& plane : doubled_) plane.clear();
+  unsound_.clear();
   doubledStart_ = kRatio * (halved_.audio.position - kEncodedBehindSource);
 }
 
@@ -89,10 +90,26 @@ void ResampledTranscoder::codeBlock() {
     std::fill_n(plane.begin(), coded_.validFrom - coded_.position, 0.0F);
     input[channel] = plane.data();
   }
+  noteUnsound();
   const std::size_t frames = up_.process(input, kBlockFrames);
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     const float* made = up_.plane(channel);
     doubled_[channel].insert(doubled_[channel].end(), made, made + frames);
+  }
+}
+
+/// A resampler spreads what is wrong as far as its filter reaches.
+void ResampledTranscoder::noteUnsound() {
+  for (Position grain = 0; grain < kBlockFrames; grain += AudioBlock::kGrain) {
+    if (coded_.isSound(grain)) continue;
+    const Position from = kRatio * (coded_.position + grain) - Position{kResamplerDelay};
+    const Position to =
+        from + kRatio * Position{AudioBlock::kGrain} + 2 * Position{kResamplerDelay};
+    if (!unsound_.empty() && from <= unsound_.back().to) {
+      unsound_.back().to = to;
+    } else {
+      unsound_.push_back({from, to});
+    }
   }
 }
 
@@ -102,6 +119,11 @@ void ResampledTranscoder::writeEncoded(AudioBlock& encoded) {
   const Position end = encoded.end();
   const bool isThere = doubledStart_ + static_cast<Position>(doubled_[0].size()) >= end;
   encoded.validFrom = isThere ? std::clamp(start_, encoded.position, end) : end;
+  encoded.unsound = 0;
+  while (!unsound_.empty() && unsound_.front().to <= encoded.position) unsound_.pop_front();
+  for (const auto& stretch : unsound_) {
+    if (stretch.from < end) encoded.markUnsound(stretch.from, stretch.to);
+  }
   if (!isThere || doubledStart_ >= end) return;
   for (UInt32 channel = 0; channel < channels_; ++channel) {
     auto& plane = doubled_[channel];

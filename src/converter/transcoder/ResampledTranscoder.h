@@ -23,6 +23,7 @@ class ResampledTranscoder final : public BlockTranscoder {
   void restart(const SourceBlock& source);
   void takeHalved(const float* const* planes, std::size_t frames);
   void codeBlock();
+  void noteUnsound();
   void writeEncoded(AudioBlock& encoded);
 
   UInt32 channels_;
@@ -42,6 +43,12 @@ class ResampledTranscoder final : public BlockTranscoder {
   /// The encoded signal at the unit's rate from `doubledStart_` on.
   std::array<std::vector<float>, kMaximumChannels> doubled_;
   Position doubledStart_ = 0;
+  /// What of it is unsound (see `AudioBlock::unsound`), in order.
+  struct Stretch {
+    Position from;
+    Position to;
+  };
+  std::deque<Stretch> unsound_;
 };
 
 }  // namespace converter

@@ -27,10 +27,12 @@ void Transcoder::process(const SourceBlock& source, AudioBlock& encoded) {
   const Position end = encoded.end();
   encoded.validFrom = std::clamp(start_, encoded.position, end);
   if (!pair_) encoded.validFrom = end;
+  encoded.unsound = 0;
+  encoded.markUnsound(start_, settled_);
   for (Position position = encoded.validFrom; position < end;) {
     position += renderStep(position, end, encoded);
   }
-  takeFailures();
+  takeFailures(encoded);
 }
 
 CodecReport Transcoder::report() const {
@@ -57,6 +59,7 @@ void Transcoder::restart(const SourceBlock& source) {
   fade_.reset();
   changes_.clear();
   start_ = source.audio.position;
+  settled_ = start_ > 0 ? start_ + kSettlingFrames : start_;
   inUse_.reset();
   pair_ = openPair(source.setting, start_);
 }
@@ -84,20 +87,23 @@ void Transcoder::beginFade(const SettingChange& change) {
   fade_.emplace(Fade{change.position + static_cast<Position>(curve_.size()), std::move(to)});
 }
 
-void Transcoder::endFade() {
-  takeFailures();
+void Transcoder::endFade(AudioBlock& encoded) {
+  takeFailures(encoded);
   pair_ = std::move(fade_->to);
   fade_.reset();
 }
 
-void Transcoder::takeFailures() {
-  if (pair_) failures_ += pair_->takeFailures();
-  if (fade_) failures_ += fade_->to->takeFailures();
+void Transcoder::takeFailures(AudioBlock& encoded) {
+  for (CodecPair* const pair : {pair_.get(), fade_ ? fade_->to.get() : nullptr}) {
+    if (pair == nullptr) continue;
+    failures_ += pair->takeFailures();
+    pair->markFailures(encoded);
+  }
 }
 
 /// Renders up to the next start or end of a fade, or to `end`; returns the number of samples.
 UInt32 Transcoder::renderStep(Position position, Position end, AudioBlock& encoded) {
-  if (fade_ && fade_->end <= position) endFade();
+  if (fade_ && fade_->end <= position) endFade(encoded);
   if (!fade_ && !changes_.empty() && changes_.front().position <= position) {
     beginFade(changes_.front());
     changes_.pop_front();

@@ -29,9 +29,9 @@ class Transcoder final : public BlockTranscoder {
 
   void restart(const SourceBlock& source);
   std::unique_ptr<CodecPair> openPair(const Setting& setting, Position start);
-  void takeFailures();
+  void takeFailures(AudioBlock& encoded);
   void beginFade(const SettingChange& change);
-  void endFade();
+  void endFade(AudioBlock& encoded);
   UInt32 renderStep(Position position, Position end, AudioBlock& encoded);
   void mix(std::span<float* const> output, UInt32 frames, Position position) const;
 
@@ -42,6 +42,8 @@ class Transcoder final : public BlockTranscoder {
   SourceHistory history_;
   std::optional<Position> expected_;
   Position start_ = 0;
+  /// No start of the codec in mid-play is heard from here on.
+  Position settled_ = 0;
   std::unique_ptr<CodecPair> pair_;
   std::optional<Fade> fade_;
   std::optional<Setting> inUse_;

@@ -1,6 +1,7 @@
 #include "converter/unit/AacConverter.h"
 
 #include <array>
+#include <utility>
 
 #include "contract/ConverterInterface.h"
 #include "converter/codec/CodecRate.h"
@@ -32,10 +33,11 @@ AudioStreamBasicDescription streamFormat(const UnitFormat& format) {
 
 }  // namespace
 
-AacConverter::AacConverter(const UnitFormat& format, const OpenEncoder& open)
+AacConverter::AacConverter(const UnitFormat& format, const OpenEncoder& open,
+                           realtime::ReadClock readClock)
     : format_(format),
       parameters_(codecFormat(format), kDefaultSetting, controls_.setting),
-      renderer_(format, controls_, open) {}
+      renderer_(format, controls_, open, std::move(readClock)) {}
 
 OSStatus AacConverter::getParameter(AudioUnitParameterID id, AudioUnitScope scope,
                                     AudioUnitElement element, AudioUnitParameterValue& value) {
@@ -108,6 +110,7 @@ std::span<const PropertyDeclaration> AacConverter::properties() {
           [](Unit& unit, Element) { return unit.listeningTestActive_; },
           [](Unit& unit, UInt32 value) {
             unit.listeningTestActive_ = value;
+            unit.controls_.listeningTest.store(value != 0, std::memory_order_relaxed);
             return OSStatus{noErr};
           }),
       Declare::readable(kConverterProperty_EffectiveSetting, kOfTheUnit,

@@ -16,7 +16,8 @@ namespace converter {
 class AacConverter final : public ConverterUnit {
  public:
   /// The format has been found good.
-  explicit AacConverter(const UnitFormat& format, const OpenEncoder& open = openEncoder);
+  explicit AacConverter(const UnitFormat& format, const OpenEncoder& open = openEncoder,
+                        realtime::ReadClock readClock = std::chrono::steady_clock::now);
 
   OSStatus getParameter(AudioUnitParameterID id, AudioUnitScope scope, AudioUnitElement element,
                         AudioUnitParameterValue& value) override;

@@ -4,6 +4,7 @@
 #include <array>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "converter/codec/Encoder.h"
 #include "converter/unit/AacConverter.h"
@@ -33,8 +34,13 @@ void validate(const UnitFormat& format) {
 }  // namespace
 
 std::unique_ptr<ConverterUnit> ConverterUnit::make(const UnitFormat& format) {
+  return make(format, std::chrono::steady_clock::now);
+}
+
+std::unique_ptr<ConverterUnit> ConverterUnit::make(const UnitFormat& format,
+                                                   realtime::ReadClock readClock) {
   validate(format);
-  return std::make_unique<AacConverter>(format);
+  return std::make_unique<AacConverter>(format, openEncoder, std::move(readClock));
 }
 
 bool hasHighEfficiencyEncoder() {

@@ -9,6 +9,7 @@
 #include "contract/ConverterInterface.h"
 #include "converter/codec/BitStreamSink.h"
 #include "converter/codec/UnitFormat.h"
+#include "realtime/ReadClock.h"
 
 namespace converter {
 
@@ -22,13 +23,19 @@ class ConverterUnit : public audio_unit::Unit {
   /// Throws `std::invalid_argument` for a format that the unit does not do, naming what is wrong,
   /// and `std::runtime_error` when a codec cannot be opened.
   static std::unique_ptr<ConverterUnit> make(const UnitFormat& format);
+  /// The same with another clock to tell who asks ahead of time, for hosts that keep their own.
+  static std::unique_ptr<ConverterUnit> make(const UnitFormat& format,
+                                             realtime::ReadClock readClock);
 
   /// Delay from input to output, whatever the setting and the monitored signal. Samples.
   virtual UInt32 latency() const = 0;
 
   /// Processes one block: `frames` samples from 1 to `maximumFrames`, of `channels` planes each.
-  /// Input and output may be the same planes. Audio thread; never allocates, locks or blocks,
-  /// except that with `kAudioUnitProperty_OfflineRender` set it waits for the codec.
+  /// Input and output may be the same planes. Audio thread; never allocates or locks. It waits for
+  /// the codec with `kAudioUnitProperty_OfflineRender` set, and for a caller who asks ahead of the
+  /// clock, as a device does that fills a large buffer at once: at most half as long as the audio
+  /// that the caller is ahead, and not at all when that is less than 20 ms. So in strict real time
+  /// it never waits.
   virtual void render(const float* const* input, float* const* output, UInt32 frames) noexcept = 0;
 
   /// Forgets the audio inside (after a seek): codec and rings, never the statistics. Not while

@@ -1,4 +1,5 @@
 #include <rtaudio/RtAudio.h>
+#include <sched.h>
 
 #include <algorithm>
 #include <array>
@@ -88,6 +89,9 @@ void RtAudioOutput::start(const Device& device) {
   parameters.nChannels = deviceChannels_;
   RtAudio::StreamOptions options;
   options.flags = RTAUDIO_NONINTERLEAVED | RTAUDIO_SCHEDULE_REALTIME;
+  // One above the codec's worker, which has the lowest: on a single core it would keep the device
+  // waiting.
+  options.priority = sched_get_priority_min(SCHED_RR) + 1;
   options.streamName = "aac-audition";
   auto frames = preferredBlock;
   rtaudio::openStream(

@@ -2,6 +2,8 @@
 
 #include <dlfcn.h>
 
+#include <cstdlib>
+
 namespace host {
 namespace {
 
@@ -16,6 +18,11 @@ void ignore(const char* /*file*/, int /*line*/, const char* /*function*/, int /*
 std::mutex& soundSystemsMutex() {
   static std::mutex mutex;
   return mutex;
+}
+
+void askForShortBuffers() {
+  // RtAudio leaves the buffer to PulseAudio's library, which reads its length here.
+  ::setenv("PULSE_LATENCY_MSEC", "100", 0);
 }
 
 void silenceAlsa() {

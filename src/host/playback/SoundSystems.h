@@ -8,6 +8,11 @@ namespace host {
 /// some of their state once for the process.
 std::mutex& soundSystemsMutex();
 
+/// Asks sound servers for a buffer of a tenth of a second in place of the two seconds that they
+/// would choose, unless the user has asked for another length. Changes the environment, so before
+/// there are other threads.
+void askForShortBuffers();
+
 /// From now on ALSA's library prints nothing on standard error by itself; RtAudio tells what went
 /// wrong. JACK's is silenced by RtAudio. Any thread.
 void silenceAlsa();

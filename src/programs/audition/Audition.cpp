@@ -239,16 +239,25 @@ void Audition::refreshOutput() {
     setNotice(tr("Silent: %1").arg(inUsersLanguage(why)));
   }
   // During a listening test a notice would tell which signal is the encoded one.
-  if (listeningTestRuns(&session_->unit())) return;
+  if (listeningTestRuns(&session_->unit())) {
+    testRan_ = true;
+    return;
+  }
   const auto missed = session_->player().missedFrames();
   const auto late = lateFrames(session_->unit());
+  const auto now = PassingNotice::Clock::now();
   if (why.empty() && missed != missedFrames_) {
-    setNotice(tr("The file cannot be read fast enough"));
+    passing_.tell(tr("The file cannot be read fast enough"), now);
+  } else if (testRan_ && late != lateFrames_) {
+    setNotice(tr("%1 samples were missing during the test: do not trust its result")
+                  .arg(QLocale().toString(static_cast<qulonglong>(late - lateFrames_))));
   } else if (why.empty() && late != lateFrames_) {
-    setNotice(tr("The encoder cannot keep up"));
+    passing_.tell(tr("The encoder cannot keep up"), now);
   }
   missedFrames_ = missed;
   lateFrames_ = late;
+  testRan_ = false;
+  showNotice();
 }
 
 void Audition::warnOfTruncation() {
@@ -282,7 +291,13 @@ void Audition::showRateNotice() {
 }
 
 void Audition::setNotice(const QString& notice) {
-  window_.status().setNotice(notice);
+  notice_ = notice;
+  showNotice();
+}
+
+void Audition::showNotice() {
+  const auto passing = passing_.shownAt(PassingNotice::Clock::now());
+  window_.status().setNotice(passing.isEmpty() ? notice_ : passing);
 }
 
 }  // namespace host::audition

@@ -15,6 +15,7 @@
 #include "programs/audition/window/LoopControl.h"
 #include "programs/audition/window/MainWindow.h"
 #include "programs/audition/window/OverviewControl.h"
+#include "programs/audition/window/PassingNotice.h"
 
 namespace host::audition {
 
@@ -75,6 +76,7 @@ class Audition : public QObject {
   /// Says in the window which sample rates are converted, if any.
   void showRateNotice();
   void setNotice(const QString& notice);
+  void showNotice();
 
   const AuditionOptions options_;
   ViewBundle bundle_;
@@ -90,6 +92,10 @@ class Audition : public QObject {
   bool warnedOfRecording_ = false;
   std::uint64_t missedFrames_ = 0;
   std::uint64_t lateFrames_ = 0;
+  /// Whether a listening test was running when the output was last looked at.
+  bool testRan_ = false;
+  QString notice_;
+  PassingNotice passing_;
   LoopControl loop_;
   bool analysing_ = false;
   /// Destroyed before session_: its view uses the session's unit.

@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "host/messages/Failure.h"
+#include "host/playback/SoundSystems.h"
 #include "programs/audition/Application.h"
 #include "programs/audition/CommandLine.h"
 #include "programs/audition/ProgramTerminal.h"
@@ -32,6 +33,7 @@ void choosePlatform(bool headless) {
 
 int run(const host::AuditionOptions& options, const char* program) {
   choosePlatform(options.headless);
+  host::askForShortBuffers();
   // First, so that a signal still cleans up the files claimed below.
   host::audition::TerminationSignals signals;
   auto files = host::audition::claimOutputFiles(options);

@@ -29,11 +29,11 @@ std::string Velk_AUAACConverterCustomView::stringForBitRate(float rate) const {
 
 void Velk_AUAACConverterCustomView::updatePopup() {
   if (isEncoderOndaraPlus()) {
-    encoderPopup->selectItemAtIndex(kOndaraPlusIndex);
+    showEncoderItem(kOndaraPlusIndex);
     return;
   }
   if (isEncoderHighQuality()) {
-    encoderPopup->selectItemAtIndex(encoderPopup->indexOfItemWithTag(kHighQualityTag));
+    showEncoderItem(encoderPopup->indexOfItemWithTag(kHighQualityTag));
     return;
   }
   const EncoderSetting setting = {getFormat(), getStrategy(),
@@ -41,7 +41,7 @@ void Velk_AUAACConverterCustomView::updatePopup() {
   const ui::Dictionary key = settingKey(setting);
   const int known = encoderPopup->indexOfItemWithRepresentedObject(key);
   if (known >= 0) {
-    encoderPopup->selectItemAtIndex(known);
+    showEncoderItem(known);
     return;
   }
 
@@ -55,7 +55,13 @@ void Velk_AUAACConverterCustomView::updatePopup() {
     item->setRepresentedObject(key);
     item->setAction([this](ui::Object* sender) { setCustomFormat(sender); });
   }
-  encoderPopup->selectItemAtIndex(kFirstCustomIndex);
+  showEncoderItem(kFirstCustomIndex);
+}
+
+/// A pick selects its item before the unit has been asked, so the one before has to be kept.
+void Velk_AUAACConverterCustomView::showEncoderItem(int index) {
+  shownEncoderItem_ = index;
+  encoderPopup->selectItemAtIndex(index);
 }
 
 void Velk_AUAACConverterCustomView::setCustomFormat(ui::Object* sender) {

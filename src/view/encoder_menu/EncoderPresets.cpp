@@ -28,19 +28,28 @@ bool Velk_AUAACConverterCustomView::isEncoderHighQuality() const {
 }
 
 void Velk_AUAACConverterCustomView::setPreset(UInt32 index) {
+  if (!applyPreset(index)) {
+    showEncoderItem(shownEncoderItem_);
+  }
+}
+
+/// Whether the unit took it. The log says what the unit answered; a preset that is not in its list
+/// is ignored.
+bool Velk_AUAACConverterCustomView::applyPreset(UInt32 index) const {
   const audio_unit::FactoryPresets presets(mAU);
   if (!presets) {
     ui::log("unable to get presets " + std::to_string(presets.status()));
-    return;
+    return false;
   }
   const AUPreset* preset = presets.at(index);
   if (preset == nullptr) {
-    return;
+    return false;
   }
   const OSStatus written = writeProperty(mAU, audio_unit::presentPresetProperty, *preset);
   if (written != noErr) {
     ui::log("unable to set preset " + std::to_string(index) + ": " + std::to_string(written));
   }
+  return written == noErr;
 }
 
 void Velk_AUAACConverterCustomView::setOndaraPlusEncoder(ui::Object* /*sender*/) {

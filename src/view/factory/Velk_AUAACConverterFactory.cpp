@@ -47,6 +47,10 @@ std::unique_ptr<ui::NativeView> Velk_AUAACConverterFactory::uiViewForAudioUnit(
   std::unique_ptr<ui::NativeView> bound;
   // Nothing may reach the host, not even what the log throws.
   ui::runGuarded([&] {
+    if (unit == nullptr) {
+      ui::log("Unable to bind the view: there is no converter unit.");
+      return;
+    }
     std::unique_ptr<ui::NativeView> loaded = loadView();
     Velk_AUAACConverterCustomView* const view = std::exchange(uiFreshlyLoadedView, nullptr);
     if (loaded && bind(*view, unit)) {

@@ -141,6 +141,8 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   void addPropertyListener(AudioUnitPropertyID property);
   bool unitOffersHEV2() const;
   void attachKey(int tag, const ui::Dictionary& key);
+  bool applyPreset(UInt32 index) const;
+  void showEncoderItem(int index);
   bool isTornDown() const { return inUse_ == nullptr; }
   /// `work` as an end function that does nothing after the teardown.
   template <class Work>
@@ -165,6 +167,8 @@ class Velk_AUAACConverterCustomView final : public ui::Object,
   AUEventListenerRef mAUEventListener = nullptr;
   ui::Button* settingsButton = nullptr;
   ui::PopUpButton* encoderPopup = nullptr;
+  /// The item that the last refresh of the menu selected.
+  int shownEncoderItem_ = 0;
   ui::TabView* tabView = nullptr;
   bool monitoringEncoder_ = false;
   std::uint32_t numChannels_ = 0;

@@ -35,7 +35,7 @@ TEST(FdkReadBack, IsTheAverageRateThatTheSettingStates) {
         for (std::size_t index = 0; index < velk::bitRates.size(); ++index) {
           const Setting setting =
               nearestSetting({static_cast<float>(format), 0, static_cast<float>(index)}, unit,
-                             {.highEfficiency = true, .constrainedVbr = true});
+                             {.highEfficiency = true});
           EXPECT_EQ(rateReadBack(setting, unit), static_cast<int>(setting.bitRate))
               << "format " << format << ", " << channels << " channels, " << sampleRate << " Hz, "
               << velk::bitRates[index] << " kbit/s";

@@ -14,7 +14,7 @@ using converter::Strategy;
 using converter::UnitFormat;
 using velk::EncoderSetting;
 
-constexpr converter::EncoderAbilities kAll{.highEfficiency = true, .constrainedVbr = true};
+constexpr converter::EncoderAbilities kAll{.highEfficiency = true};
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
@@ -81,12 +81,6 @@ TEST(Setting, WithoutHighEfficiencyIsAlwaysLc) {
   EXPECT_EQ(converter::highestFormat({}, 2), Format::lc);
 }
 
-TEST(Setting, WithoutConstrainedVbrAveragesTheSameRate) {
-  const auto setting = nearestSetting({0, 1, 14}, at(44100, 2), {});
-  EXPECT_EQ(setting.strategy, Strategy::abr);
-  EXPECT_EQ(setting.bitRate, 256000U);
-}
-
 struct Limits {
   Format format;
   UInt32 channels;
@@ -126,17 +120,15 @@ TEST(Setting, KeepsAverageRatesWithinWhatTheFormatCanDo) {
   }
 }
 
-TEST(Setting, KeepsPeakRatesWithinWhatTheEncoderConstrains) {
-  const auto stereo = at(44100, 2);
-  EXPECT_EQ(rateOf({0, 1, 0}, stereo), 40000U);
-  EXPECT_EQ(rateOf({0, 1, 16}, stereo), 320000U);
-  EXPECT_EQ(rateOf({1, 1, 3}, stereo), 40000U);
-  EXPECT_EQ(rateOf({1, 1, 16}, stereo), 320000U);
-  EXPECT_EQ(rateOf({2, 1, 0}, stereo), 32000U);
-  EXPECT_EQ(rateOf({2, 1, 16}, stereo), 224000U);
-  const auto mono = at(44100, 1);
-  EXPECT_EQ(rateOf({0, 1, 0}, mono), 32000U);
-  EXPECT_EQ(rateOf({1, 1, 16}, mono), 224000U);
+TEST(Setting, TakesTheBaseRateOfConstrainedVbrForWhatItAverages) {
+  for (const UInt32 channels : {1U, 2U}) {
+    for (const float format : {0.0F, 1.0F, 2.0F}) {
+      for (float index = 0; index < 17; ++index) {
+        EXPECT_EQ(rateOf({format, 1, index}, at(44100, channels)),
+                  rateOf({format, 0, index}, at(44100, channels)));
+      }
+    }
+  }
 }
 
 }  // namespace

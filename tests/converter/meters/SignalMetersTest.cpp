@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
+#include <cmath>
 #include <thread>
+#include <vector>
 
 #include "AllocationCount.h"
 #include "MeterSignals.h"
@@ -11,6 +14,8 @@
 
 using converter::clearedPeakStatistics;
 using converter::SignalMeters;
+using converter::Soundness;
+using converter::Stretch;
 using meter_signals::Samples;
 using velk::PeakStatistics;
 
@@ -23,7 +28,8 @@ struct Feed {
       meter_signals::clippedMix(20000, 5.0F, 3), meter_signals::whiteNoise(20000, 1.2F, 4)};
 
   void into(SignalMeters& meters, std::size_t at, std::size_t frames) const {
-    meters.process(from(0, at).data(), from(2, at).data(), frames);
+    const std::array whole{Stretch{frames, Soundness::sound}};
+    meters.process(from(0, at).data(), from(2, at).data(), frames, whole);
   }
 
   void past(SignalMeters& meters, std::size_t at, std::size_t frames) const {
@@ -155,4 +161,48 @@ TEST(SignalMeters, AreReadAndResetWhileTheyRun) {
   }
   audio.join();
   EXPECT_TRUE(ordered);
+}
+
+/// A sine just below full scale, with and without a hole from 4000 to 5000.
+class CutSine : public testing::Test {
+ protected:
+  CutSine() {
+    for (std::size_t i = 0; i < whole_.size(); ++i) {
+      whole_[i] = 0.98F * static_cast<float>(std::sin(0.41 * static_cast<double>(i)));
+    }
+    cut_ = whole_;
+    std::fill(cut_.begin() + 4000, cut_.begin() + 5000, 0.0F);
+  }
+  static velk::TruePeakStats read(const std::vector<float>& encoded,
+                                  const std::vector<Stretch>& stretches) {
+    SignalMeters meters(1);
+    const std::array<const float*, 1> planes{encoded.data()};
+    meters.process(planes.data(), planes.data(), encoded.size(), stretches);
+    return meters.read()[velk::kPeakStatsSlot_EncodedLeft];
+  }
+  double wholePeak() const { return read(whole_, {{9000, Soundness::sound}}).mInterSamplePeak; }
+
+  std::vector<float> whole_ = std::vector<float>(9000);
+  std::vector<float> cut_;
+};
+
+TEST_F(CutSine, ReadsHigherAtItsEdgesWhenAllOfItCounts) {
+  EXPECT_GT(read(cut_, {{9000, Soundness::sound}}).mInterSamplePeak, wholePeak() + 0.1);
+}
+
+TEST_F(CutSine, ReadsNoMoreThanTheWholeSineWhenTheHoleIsMissing) {
+  const auto readings =
+      read(cut_, {{4000, Soundness::sound}, {1000, Soundness::missing}, {4000, Soundness::sound}});
+  EXPECT_NEAR(readings.mInterSamplePeak, wholePeak(), 0.001);
+  EXPECT_EQ(readings.mInterSampleClipCount, 0);
+}
+
+TEST_F(CutSine, ReadsNothingThatIsUnsound) {
+  cut_[6000] = 3.0F;
+  const auto readings = read(cut_, {{4000, Soundness::sound},
+                                    {1000, Soundness::missing},
+                                    {2000, Soundness::unsound},
+                                    {2000, Soundness::sound}});
+  EXPECT_NEAR(readings.mInterSamplePeak, wholePeak(), 0.001);
+  EXPECT_EQ(readings.mSampleClipCount, 0);
 }

@@ -181,6 +181,11 @@ TRAP int sem_wait(sem_t* semaphore) {
   if (isCounting) ++current.waits;
   return wait(semaphore);
 }
+TRAP int sem_clockwait(sem_t* semaphore, clockid_t clock, const timespec* time) {
+  static const auto wait = next<int (*)(sem_t*, clockid_t, const timespec*)>("sem_clockwait");
+  if (isCounting) ++current.waits;
+  return wait(semaphore, clock, time);
+}
 TRAP int sem_post(sem_t* semaphore) noexcept {
   static const auto post = next<int (*)(sem_t*)>("sem_post");
   if (isCounting) ++current.wakeUps;

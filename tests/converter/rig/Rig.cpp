@@ -2,9 +2,17 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <utility>
 
-Rig::Rig(const converter::UnitFormat& format)
-    : format_(format), unit_(converter::ConverterUnit::make(format)) {
+realtime::ReadClock Rig::alwaysLate() {
+  return [time = std::chrono::steady_clock::time_point{}]() mutable {
+    return time += std::chrono::hours(1);
+  };
+}
+
+Rig::Rig(const converter::UnitFormat& format, realtime::ReadClock readClock)
+    : format_(format), unit_(converter::ConverterUnit::make(format, std::move(readClock))) {
   unit_->setBitStreamSink(&gate_);
   setOffline(true);
 }
@@ -69,6 +77,27 @@ Signal Rig::renderTooFast(const Signal& input) {
     return format_.maximumFrames;
   });
   gate_.open();
+  return output;
+}
+
+Signal Rig::renderInGaps(const Signal& input) {
+  constexpr int kPeriod = 30;
+  constexpr int kStanding = 12;
+  int turn = 0;
+  Signal output = renderInBlocks(input, [&](std::size_t) -> std::size_t {
+    if (turn % kPeriod == kPeriod - kStanding) {
+      unit_->waitForCodec();
+      gate_.close();
+      setOffline(false);
+    } else if (turn % kPeriod == 0) {
+      gate_.open();
+      setOffline(true);
+    }
+    ++turn;
+    return format_.maximumFrames;
+  });
+  gate_.open();
+  setOffline(true);
   return output;
 }
 

@@ -21,8 +21,13 @@ inline float mostStep() {
 /// nothing depends on the machine's speed.
 class Rig {
  public:
-  explicit Rig(const converter::UnitFormat& format = {
-                   .sampleRate = 44100, .channels = 2, .maximumFrames = 1024});
+  explicit Rig(const converter::UnitFormat& format = {.sampleRate = 44100,
+                                                      .channels = 2,
+                                                      .maximumFrames = 1024},
+               realtime::ReadClock readClock = alwaysLate());
+
+  /// The clock of a host that asks for nothing ahead of time, however fast the test renders.
+  static realtime::ReadClock alwaysLate();
 
   ~Rig() { gate_.open(); }
 
@@ -59,6 +64,10 @@ class Rig {
   /// Renders without waiting for the worker, which is held back so that it cannot keep up, and
   /// changes the encoder's setting all the time.
   Signal renderTooFast(const Signal& input);
+  /// Lets the worker finish nothing any more, for as long as the rig exists.
+  void holdWorker() { gate_.close(); }
+  /// Renders with a worker that stands still now and then, always at the same places.
+  Signal renderInGaps(const Signal& input);
   /// Renders the input followed by enough silence; returns the output without its latency, as long
   /// as the input.
   Signal renderAligned(const Signal& input, std::size_t block = 512);

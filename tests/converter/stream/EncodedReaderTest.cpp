@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 #include "converter/stream/EncodedReader.h"
@@ -9,6 +10,8 @@ namespace {
 using converter::AudioBlock;
 using converter::kBlockFrames;
 using converter::Position;
+using converter::Soundness;
+using converter::Stretch;
 
 /// The test plays the worker's part; the worker's thread is never started.
 class Reader : public testing::Test {
@@ -19,6 +22,7 @@ class Reader : public testing::Test {
     ASSERT_NE(block, nullptr);
     block->position = position;
     block->validFrom = validFrom;
+    block->unsound = 0;
     for (std::size_t i = 0; i < kBlockFrames; ++i) {
       block->planes[0][i] = static_cast<float>(position + static_cast<Position>(i) + 1);
     }
@@ -30,11 +34,20 @@ class Reader : public testing::Test {
   UInt32 readTo(Position end) {
     std::vector<float> samples(static_cast<std::size_t>(end - position_), 99);
     float* planes[] = {samples.data()};
-    const UInt32 missing =
-        reader_.read(position_, static_cast<UInt32>(samples.size()), planes, 1, false);
+    const auto stretches = reader_.read(position_, static_cast<UInt32>(samples.size()), planes, 1,
+                                        converter::Patience::none());
     output_.insert(output_.end(), samples.begin(), samples.end());
     position_ = end;
-    return missing;
+    read_.assign(stretches.begin(), stretches.end());
+    return missingIn(read_);
+  }
+
+  static UInt32 missingIn(const std::vector<Stretch>& stretches) {
+    std::size_t missing = 0;
+    for (const auto& stretch : stretches) {
+      if (stretch.soundness == Soundness::missing) missing += stretch.frames;
+    }
+    return static_cast<UInt32>(missing);
   }
 
   void expectSignal(Position begin, Position end, bool isThere) {
@@ -48,9 +61,11 @@ class Reader : public testing::Test {
   static constexpr Position kStart = -3000;
 
   converter::Worker worker_{{.sampleRate = 44100, .channels = 1, .maximumFrames = 512}, 8};
-  converter::EncodedReader reader_{worker_};
+  converter::EncodedReader reader_{worker_, 16384};
   Position position_ = kStart;
   std::vector<float> output_;
+  /// What the last read was made of.
+  std::vector<Stretch> read_;
 };
 
 TEST_F(Reader, DoesNotWaitWithoutAWorker) {
@@ -59,7 +74,8 @@ TEST_F(Reader, DoesNotWaitWithoutAWorker) {
   worker_.source().push();
   std::vector<float> samples(100, 99);
   float* planes[] = {samples.data()};
-  EXPECT_EQ(reader_.read(0, 100, planes, 1, true), 100U);
+  const auto stretches = reader_.read(0, 100, planes, 1, converter::Patience::endless());
+  EXPECT_EQ(missingIn({stretches.begin(), stretches.end()}), 100U);
   EXPECT_EQ(samples, std::vector<float>(100, 0.0F));
 }
 
@@ -109,6 +125,33 @@ TEST_F(Reader, CountsTheMissingStartOfABlock) {
   EXPECT_EQ(readTo(5000), 4000U - 1086U);
   expectSignal(1086, 4000, false);
   expectSignal(4000, 5000, true);
+}
+
+TEST_F(Reader, TellsInGrainsWhatIsUnsound) {
+  AudioBlock* block = worker_.encoded().claim();
+  ASSERT_NE(block, nullptr);
+  block->position = 0;
+  block->validFrom = 100;
+  block->unsound = 0;
+  // From within one grain into another, and beyond the block.
+  block->markUnsound(200, 230);
+  block->markUnsound(2000, 5000);
+  block->markUnsound(-500, 10);
+  // Nothing at all, and nothing here.
+  block->markUnsound(1000, 1000);
+  block->markUnsound(-500, 0);
+  block->markUnsound(3000, 4000);
+  worker_.encoded().push();
+  readTo(0);
+  readTo(3000);
+  const auto expected = std::vector<std::pair<std::size_t, Soundness>>{
+      {100, Soundness::missing}, {92, Soundness::sound},   {64, Soundness::unsound},
+      {1728, Soundness::sound},  {64, Soundness::unsound}, {952, Soundness::missing}};
+  ASSERT_EQ(read_.size(), expected.size());
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(read_[i].frames, expected[i].first) << i;
+    EXPECT_EQ(read_[i].soundness, expected[i].second) << i;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
+#include <vector>
 
 #include "Rig.h"
 
@@ -73,6 +75,55 @@ TEST_F(Starving, LeavesTheSourceWhole) {
     EXPECT_TRUE(std::equal(source[channel].begin() + static_cast<std::ptrdiff_t>(latency_),
                            source[channel].end(), input_[channel].begin()));
   }
+}
+
+/// A sine at -0.54 dBFS whose inter-sample peaks are no higher, encoded in gaps.
+TEST(StarvingSine, MakesNoOversAndReadsNoHigherThanTheWholeOne) {
+  for (const double rate : {44100.0, 192000.0}) {
+    const converter::UnitFormat format{.sampleRate = rate, .channels = 2, .maximumFrames = 2048};
+    Signal sine = silence(2, static_cast<std::size_t>(8 * rate));
+    for (std::size_t i = 0; i < sine[0].size(); ++i) {
+      const double phase = 2 * std::numbers::pi * 997 * static_cast<double>(i) / rate;
+      sine[0][i] = sine[1][i] = static_cast<float>(0.94 * std::sin(phase));
+    }
+    const auto peak = [](Rig& rig) {
+      const auto read = rig.property(velk::kConverterProperty_PeakStats);
+      EXPECT_EQ(read[velk::kPeakStatsSlot_EncodedLeft].mInterSampleClipCount, 0);
+      return read[velk::kPeakStatsSlot_EncodedLeft].mInterSamplePeak;
+    };
+    Rig whole(format);
+    whole.setPreset(3);
+    whole.render(sine, 2048);
+    Rig gappy(format);
+    gappy.renderTooFast(sine);
+    gappy.setOffline(true);
+    gappy.render(sine, 2048);
+    EXPECT_GT(gappy.missedFrames(), 0U);
+    // Other settings code the sine a little otherwise.
+    EXPECT_LT(peak(gappy), peak(whole) + 0.3) << rate;
+  }
+}
+
+/// During a listening test a hole tells nobody which signal is heard.
+TEST(StarvingTest, IsSilentInBothSignalsWhileAListeningTestRuns) {
+  std::vector<std::vector<bool>> silences;
+  for (const bool source : {false, true}) {
+    Rig rig({.sampleRate = 44100, .channels = 2, .maximumFrames = 2048});
+    const Signal input = smoothNoise(2, std::size_t{3} * 44100, 44100, 2200);
+    rig.monitorSource(source);
+    rig.setProperty(velk::kConverterProperty_ListeningTestActive, 1);
+    rig.render(silence(2, 2048), 2048);
+    const auto heard = rig.renderInGaps(input);
+    EXPECT_GT(rig.missedFrames(), 0U);
+    std::vector<bool> silent;
+    for (std::size_t i = rig.unit().latency(); i < heard[0].size(); ++i) {
+      silent.push_back(heard[0][i] == 0 && heard[1][i] == 0);
+    }
+    silences.push_back(silent);
+  }
+  EXPECT_EQ(silences[0], silences[1]);
+  EXPECT_NE(std::ranges::count(silences[1], true), 0);
+  EXPECT_NE(std::ranges::count(silences[1], false), 0);
 }
 
 }  // namespace

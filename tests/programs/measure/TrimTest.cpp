@@ -21,14 +21,14 @@ class FindTrim : public testing::Test {
     return rows(outcome).at(0);
   }
   /// What is measured of the file reduced by so much.
-  json reduced(const Sound& sound, double decibels, const std::string& preset) {
+  json reduced(const Sound& sound, double decibels, const std::string& setting) {
     auto copy = sound;
     const auto gain = static_cast<float>(std::pow(10.0, -decibels / 20));
     for (auto& plane : copy.planes) {
       for (auto& sample : plane) sample *= gain;
     }
     writeSound(folder_ / "reduced.wav", copy);
-    return rows(Program(folder_.path()).run({"--json", "reduced.wav", "--preset", preset})).at(0);
+    return rows(Program(folder_.path()).run({"--json", "reduced.wav", "--set", setting})).at(0);
   }
 
   TemporaryFolder folder_;
@@ -42,19 +42,19 @@ bool hasOvers(const json& row, const char* kind) {
 }
 
 TEST_F(FindTrim, FindsAReductionThatIsCleanAndAboveWhichNoneIs) {
-  const auto sound = noise(44100, 2, 44100 * 4, 1.0F);
+  const auto sound = noise(44100, 2, 44100 * 4, 1.3F);
   writeSound(folder_ / "mix.wav", sound);
-  for (const std::string preset : {"128k", "streaming"}) {
-    const auto row = found({"--preset", preset});
+  for (const std::string setting : {"aac,abr,96", "he,abr,64"}) {
+    const auto row = found({"--set", setting});
     const double reduction = row["trim"]["reduction_db"];
     EXPECT_GT(reduction, 0);
     EXPECT_FALSE(row["trim"]["inter_sample"]);
     EXPECT_FALSE(hasOvers(row, "sample_clips"));
-    EXPECT_FALSE(hasOvers(reduced(sound, reduction, preset), "sample_clips"));
+    EXPECT_FALSE(hasOvers(reduced(sound, reduction, setting), "sample_clips"));
     for (const double louder : {0.1, 0.2, 0.3}) {
       if (reduction - louder < 0.05) break;
-      EXPECT_TRUE(hasOvers(reduced(sound, reduction - louder, preset), "sample_clips"))
-          << preset << " " << reduction << " " << louder;
+      EXPECT_TRUE(hasOvers(reduced(sound, reduction - louder, setting), "sample_clips"))
+          << setting << " " << reduction << " " << louder;
     }
   }
 }
@@ -62,8 +62,8 @@ TEST_F(FindTrim, FindsAReductionThatIsCleanAndAboveWhichNoneIs) {
 TEST_F(FindTrim, TellsTheReadingsOfTheReducedFile) {
   const auto sound = noise(44100, 2, 44100 * 2, 1.0F);
   writeSound(folder_ / "mix.wav", sound);
-  auto row = found({"--preset", "128k"});
-  auto again = reduced(sound, row["trim"]["reduction_db"], "128k");
+  auto row = found({"--set", "aac,vbrc,128"});
+  auto again = reduced(sound, row["trim"]["reduction_db"], "aac,vbrc,128");
   row.erase("trim");
   row["file"] = again["file"] = "";
   EXPECT_EQ(row, again);
@@ -72,12 +72,12 @@ TEST_F(FindTrim, TellsTheReadingsOfTheReducedFile) {
 TEST_F(FindTrim, ReducesFurtherForInterSampleOvers) {
   const auto sound = noise(44100, 2, 44100 * 2, 1.0F);
   writeSound(folder_ / "mix.wav", sound);
-  const auto row = found({"--preset", "128k", "--inter-sample"});
+  const auto row = found({"--set", "aac,vbrc,128", "--inter-sample"});
   EXPECT_TRUE(row["trim"]["inter_sample"]);
   EXPECT_FALSE(hasOvers(row, "inter_sample_overs"));
   const double reduction = row["trim"]["reduction_db"];
-  EXPECT_TRUE(hasOvers(reduced(sound, reduction - 0.1, "128k"), "inter_sample_overs"));
-  EXPECT_GE(reduction, found({"--preset", "128k"})["trim"]["reduction_db"]);
+  EXPECT_TRUE(hasOvers(reduced(sound, reduction - 0.1, "aac,vbrc,128"), "inter_sample_overs"));
+  EXPECT_GE(reduction, found({"--set", "aac,vbrc,128"})["trim"]["reduction_db"]);
 }
 
 TEST_F(FindTrim, LeavesAFileAloneThatIsCleanAsItIs) {

@@ -100,6 +100,27 @@ TEST(EncoderMenu, EachPresetItemAppliesItsOwnPreset) {
                           "unit.setProperty 36 = preset 2", "unit.setProperty 36 = preset 3"));
 }
 
+TEST(EncoderMenu, ShowsAgainWhatWasSelectedWhenAPresetCannotBeApplied) {
+  // A custom entry, and after it a preset.
+  for (const auto& setting : {FakeConverter::Setting{0, 0, 3}, FakeConverter::Setting{1, 0, 7}}) {
+    const auto stage = stageWith(setting);
+    const int before = stage->selectedItem(kMenu);
+    auto& unit = stage->unit();
+    unit.failOnce(UnitCall::SetProperty, kAudioUnitProperty_PresentPreset, -10851);
+    stage->pickItem(kMenu, kHighQualityItem);
+    EXPECT_EQ(stage->selectedItem(kMenu), before);
+    unit.failOnce(UnitCall::GetProperty, kAudioUnitProperty_FactoryPresets, -10879);
+    stage->pickItem(kMenu, k128KItem);
+    EXPECT_EQ(stage->selectedItem(kMenu), before);
+    unit.presets[0].reset();
+    stage->pickItem(kMenu, kOndaraPlusItem);
+    EXPECT_EQ(stage->selectedItem(kMenu), before);
+    unit.presets.clear();
+    stage->pickItem(kMenu, k128KItem);
+    EXPECT_EQ(stage->selectedItem(kMenu), before);
+  }
+}
+
 TEST(EncoderMenu, LogsAPresetThatCannotBeSet) {
   const auto stage = setStage();
   stage->unit().failOnce(UnitCall::SetProperty, kAudioUnitProperty_PresentPreset, -10851);

@@ -31,5 +31,16 @@ TEST(PassThreshold, AsksForFourteenOfEverySizeAboveTwenty) {
   EXPECT_EQ(requiredCorrectAnswers(std::numeric_limits<std::uint32_t>::max()), 14U);
 }
 
+/// How likely a guesser is to pass who has so many answers, so many of them right.
+double guessersChance(std::uint32_t answers, std::uint32_t correct) {
+  if (answers >= 10 && correct >= requiredCorrectAnswers(answers)) return 1;
+  if (answers == 20) return 0;
+  return (guessersChance(answers + 1, correct) + guessersChance(answers + 1, correct + 1)) / 2;
+}
+
+TEST(PassThreshold, LetsNineteenOfAHundredGuessersPassAsTheHelpPageSays) {
+  EXPECT_NEAR(guessersChance(0, 0), 0.190, 0.0005);
+}
+
 }  // namespace
 }  // namespace velk
