@@ -21,14 +21,16 @@ endfunction()
 velk_test_headers(velk_test_headers)
 
 # velk_test(<name> LABELS <room...> SOURCES <file...> LINK <target...> [AS_PRODUCT]
-#           [PARSED <target>] [PROPERTIES <ctest properties...>])
+#           [PARSED <target>] [TOGETHER <suite...>] [PROPERTIES <ctest properties...>])
 # One small GoogleTest program; every test of it carries the rooms' labels. AS_PRODUCT compiles it with the
 # products' options, where g++ 12 warns of what is not there at -Og. PARSED names other headers than the usual, or "nothing"
 # where the options are those of no other test.
+# Every test is a process of its own, but for the suites of TOGETHER, which prepare something at length for all of
+# their tests.
 # Programs with tests that take seconds say so by the property COST: those start first, so that none is left to
 # run alone at the end.
 function(velk_test name)
-  cmake_parse_arguments(TEST "AS_PRODUCT" "PARSED" "LABELS;SOURCES;LINK;PROPERTIES" ${ARGN})
+  cmake_parse_arguments(TEST "AS_PRODUCT" "PARSED" "LABELS;SOURCES;LINK;TOGETHER;PROPERTIES" ${ARGN})
   add_executable(${name} ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gmock GTest::gtest_main velk_warnings)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -42,7 +44,17 @@ function(velk_test name)
       target_precompile_headers(${name} REUSE_FROM ${TEST_PARSED})
     endif()
   endif()
-  gtest_discover_tests(${name}
+  list(TRANSFORM TEST_TOGETHER APPEND ".*" OUTPUT_VARIABLE together)
+  foreach(suite IN LISTS together)
+    add_test(NAME "${name}: ${suite}" COMMAND ${name} --gtest_filter=${suite})
+    set_tests_properties("${name}: ${suite}" PROPERTIES LABELS "${TEST_LABELS}" TIMEOUT 120 ${TEST_PROPERTIES})
+  endforeach()
+  set(apart)
+  if(together)
+    list(JOIN together ":" joined)
+    set(apart TEST_FILTER "-${joined}")
+  endif()
+  gtest_discover_tests(${name} ${apart}
     TEST_PREFIX "${name}: "
     NO_PRETTY_VALUES
     DISCOVERY_TIMEOUT 60
