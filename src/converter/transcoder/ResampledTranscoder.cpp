@@ -10,6 +10,16 @@ namespace {
 
 constexpr Position kRatio = 2;
 
+/// Far above what the encoder clips at, so that no sound is changed.
+constexpr float kLoudestSound = 4;
+
+/// A single NaN or a number out of all proportion would silence the resampler's output for as long
+/// as its filter is.
+float toResamplable(float sample) {
+  const float number = sample == sample ? sample : 0.0F;
+  return std::clamp(number, -kLoudestSound, kLoudestSound);
+}
+
 }  // namespace
 
 ResampledTranscoder::ResampledTranscoder(const UnitFormat& unit, OpenEncoder open)
@@ -28,7 +38,9 @@ void ResampledTranscoder::process(const SourceBlock& source, AudioBlock& encoded
   }
   std::array<const float*, kMaximumChannels> input{};
   for (UInt32 channel = 0; channel < channels_; ++channel) {
-    input[channel] = source.audio.planes[channel].data();
+    std::ranges::transform(source.audio.planes[channel], resamplable_[channel].begin(),
+                           toResamplable);
+    input[channel] = resamplable_[channel].data();
   }
   const std::size_t frames = down_.process(input, kBlockFrames);
   takeHalved(std::array{down_.plane(0), down_.plane(channels_ - 1)}.data(), frames);

@@ -29,6 +29,7 @@ class ResampledTranscoder final : public BlockTranscoder {
   UInt32 channels_;
   Position behind_;
   Transcoder codec_;
+  std::array<std::array<float, kBlockFrames>, kMaximumChannels> resamplable_{};
   RateChange down_;
   RateChange up_;
   std::optional<Position> expected_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 #include <random>
 
@@ -87,6 +88,31 @@ TEST(Resampled, IsSilentAndCountedWhereTheWorkerIsLateAndInPlaceAfterwards) {
   const std::size_t begin = latency + std::size_t{2} * 192000;
   EXPECT_LT(std::abs(delayBetween(delayed[0], after[0], begin, begin + 200000)), 1.1);
   EXPECT_LT(residual(delayed[0], after[0], begin, begin + 200000), -15);
+}
+
+TEST(Resampled, LosesNothingAroundASampleThatIsNoNumberOrOutOfAllProportion) {
+  constexpr double kRate = 192000;
+  constexpr std::size_t kBad = 60000;
+  constexpr std::size_t kMillisecond = 192;
+  Signal sine = silence(2, 120000);
+  for (std::size_t i = 0; i < sine[0].size(); ++i) {
+    const double phase = 2 * std::numbers::pi * 1000 * static_cast<double>(i) / kRate;
+    sine[0][i] = sine[1][i] = static_cast<float>(0.5 * std::sin(phase));
+  }
+  const float infinity = std::numeric_limits<float>::infinity();
+  for (const float bad : {std::nanf(""), infinity, -infinity, 1e38F, -3e38F}) {
+    Rig rig({.sampleRate = kRate, .channels = 2, .maximumFrames = 1024});
+    Signal source = sine;
+    source[0][kBad] = source[1][kBad] = bad;
+    const Signal encoded = rig.renderAligned(source);
+    const double whole = rms(sine[0], 0, sine[0].size());
+    for (int at = -20; at < 20; at += 2) {
+      const auto begin =
+          kBad + static_cast<std::size_t>(at + 20) * kMillisecond - 20 * kMillisecond;
+      EXPECT_GT(rms(encoded[0], begin, begin + 2 * kMillisecond), 0.8 * whole)
+          << bad << " at " << at << " ms";
+    }
+  }
 }
 
 TEST(Resampled, UsesTheSettingsOfHalfTheRate) {
