@@ -16,7 +16,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
 # The view's drawing of icons is a plug-in, which nothing is linked with.
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "libqt6svg6, qt6-translations-l10n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qt6-svg-plugins | libqt6svg6, qt6-translations-l10n")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
   "A converter encodes audio to AAC and decodes it again at once. aac-audition plays mixes through it, with a "
   "view that switches between both signals, shows peaks and overs and runs blind listening tests. aac-measure "
