@@ -23,8 +23,8 @@ velk_test_headers(velk_test_headers)
 # velk_test(<name> LABELS <room...> SOURCES <file...> LINK <target...> [AS_PRODUCT]
 #           [PARSED <target>] [TOGETHER <suite...>] [PROPERTIES <ctest properties...>])
 # One small GoogleTest program; every test of it carries the rooms' labels. AS_PRODUCT compiles it with the
-# products' options, where g++ 12 warns of what is not there at -Og. PARSED names other headers than the usual, or "nothing"
-# where the options are those of no other test.
+# products' options, where g++ 12 warns of what is not there at -Og. PARSED names other headers than the usual, or
+# "nothing" where the options are those of no other test.
 # Every test is a process of its own, but for the suites of TOGETHER, which prepare something at length for all of
 # their tests.
 # Programs with tests that take seconds say so by the property COST: those start first, so that none is left to

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cmath>
 #include <stdexcept>
 #include <vector>
 
@@ -155,8 +156,15 @@ TEST(CodecFailureOfAUnit, AtTheStartIsThrown) {
       std::runtime_error);
 }
 
-TEST(CodecFailureOfAnAccessUnit, IsCountedAndLeavesTheRestInItsPlace) {
-  const auto render = [](converter::AacConverter& unit, const Signal& input) {
+/// Three access units of the encoder fail.
+class CodecFailureOfAnAccessUnit : public testing::Test {
+ protected:
+  static constexpr std::size_t kUnitFrames = 1024;
+
+  static std::unique_ptr<Encoder> openFailing(const Setting& setting, const UnitFormat& unit) {
+    return std::make_unique<FailingEncoder>(openEncoder(setting, unit), 20, 3);
+  }
+  static Signal render(converter::AacConverter& unit, const Signal& input) {
     writeProperty(&unit, audio_unit::offlineRenderProperty, 1);
     Signal output = silence(2, input[0].size());
     for (std::size_t at = 0; at + 500 <= input[0].size(); at += 500) {
@@ -165,17 +173,54 @@ TEST(CodecFailureOfAnAccessUnit, IsCountedAndLeavesTheRestInItsPlace) {
       unit.render(in.data(), out.data(), 500);
     }
     return output;
-  };
+  }
+};
+
+TEST_F(CodecFailureOfAnAccessUnit, IsCountedAndLeavesTheRestInItsPlace) {
   const Signal input = music(2, 80000, 44100);
   converter::AacConverter whole(kUnit);
-  converter::AacConverter failing(kUnit, [](const Setting& setting, const UnitFormat& unit) {
-    return std::make_unique<FailingEncoder>(openEncoder(setting, unit), 20, 3);
-  });
+  converter::AacConverter failing(kUnit, openFailing);
   const Signal expected = render(whole, input);
   const Signal output = render(failing, input);
   EXPECT_EQ(*readProperty(&failing, converter::kConverterProperty_CodecFailures), 3U);
   EXPECT_LT(residual(expected[0], output[0], 60000, 80000), -60);
   EXPECT_GT(residual(expected[0], output[0], 15000, 60000), -30) << "nothing was lost";
+}
+
+TEST_F(CodecFailureOfAnAccessUnit, IsSilentInBothSignalsWhileAListeningTestRuns) {
+  const Signal input = smoothNoise(2, 80000, 44100, 2200);
+  std::vector<std::vector<bool>> silences;
+  for (const UInt32 source : {0U, 1U}) {
+    converter::AacConverter unit(kUnit, openFailing);
+    writeProperty(&unit, velk::kConverterProperty_MonitorSource, source);
+    writeProperty(&unit, velk::kConverterProperty_ListeningTestActive, 1);
+    const Signal output = render(unit, input);
+    std::vector<bool> silent;
+    for (std::size_t i = unit.latency() + 1000; i < output[0].size(); ++i) {
+      silent.push_back(output[0][i] == 0 && output[1][i] == 0);
+    }
+    silences.push_back(silent);
+  }
+  EXPECT_EQ(silences[0], silences[1]);
+  // With the unit that overlaps the last of them.
+  EXPECT_GE(std::ranges::count(silences[1], true), static_cast<std::ptrdiff_t>(4 * kUnitFrames));
+  EXPECT_LE(std::ranges::count(silences[1], true),
+            static_cast<std::ptrdiff_t>(4 * kUnitFrames + 64));
+}
+
+TEST_F(CodecFailureOfAnAccessUnit, IsNotMetered) {
+  Signal sine = silence(2, 80000);
+  for (std::size_t i = 0; i < sine[0].size(); ++i) {
+    sine[0][i] = sine[1][i] = static_cast<float>(0.94 * std::sin(0.142 * static_cast<double>(i)));
+  }
+  const auto peak = [&](converter::AacConverter& unit) {
+    render(unit, sine);
+    const auto read = *readProperty(&unit, velk::kConverterProperty_PeakStats);
+    return read[velk::kPeakStatsSlot_EncodedLeft].mInterSamplePeak;
+  };
+  converter::AacConverter whole(kUnit);
+  converter::AacConverter failing(kUnit, openFailing);
+  EXPECT_NEAR(peak(failing), peak(whole), 0.1);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "programs/audition/window/Spacing.h"
 
 namespace host::audition {
+
 StatusLine::StatusLine(QWidget* parent)
     : QWidget(parent),
       encoder_(new ElidedLabel(Qt::ElideRight, this)),
